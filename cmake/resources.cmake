@@ -1,0 +1,42 @@
+# Windows resources: dialog templates, the manifest, the icons and the version.
+
+set(packaging_dir ${PROJECT_SOURCE_DIR}/packaging)
+
+# Compiles templates into the target, or into every executable that links it when it is a library.
+function(add_templates target)
+  set_source_files_properties(${ARGN} TARGET_DIRECTORY ${target}
+                              PROPERTIES OBJECT_DEPENDS ${PROJECT_SOURCE_DIR}/src/resource.h)
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "EXECUTABLE")
+    target_sources(${target} PRIVATE ${ARGN})
+    return()
+  endif()
+  list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/ REGEX "^[^/]" OUTPUT_VARIABLE templates)
+  foreach(template IN LISTS templates)
+    target_sources(${target} INTERFACE $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${template}>)
+  endforeach()
+endfunction()
+
+# Gives the program the manifest: without it the common controls are those of twenty years ago.
+function(add_manifest target)
+  if(MSVC)
+    # The linker merges it into the manifest it writes itself.
+    target_sources(${target} PRIVATE ${packaging_dir}/larkspur.manifest)
+    target_link_options(${target} PRIVATE /MANIFESTUAC:NO)
+  else()
+    target_sources(${target} PRIVATE ${packaging_dir}/manifest.rc)
+    target_include_directories(${target} PRIVATE ${packaging_dir})
+    set_source_files_properties(${packaging_dir}/manifest.rc TARGET_DIRECTORY ${target}
+                                PROPERTIES OBJECT_DEPENDS ${packaging_dir}/larkspur.manifest)
+  endif()
+endfunction()
+
+# Gives the program its icons and the version of the project.
+function(add_program_resources target)
+  configure_file(${packaging_dir}/version.rc.in ${PROJECT_BINARY_DIR}/version.rc @ONLY)
+  target_sources(${target} PRIVATE ${packaging_dir}/icons.rc ${PROJECT_BINARY_DIR}/version.rc)
+  target_include_directories(${target} PRIVATE ${packaging_dir})
+  set_source_files_properties(
+    ${packaging_dir}/icons.rc TARGET_DIRECTORY ${target}
+    PROPERTIES OBJECT_DEPENDS "${packaging_dir}/larkspur.ico;${packaging_dir}/document.ico;${PROJECT_SOURCE_DIR}/src/resource.h")
+endfunction()

@@ -1,0 +1,57 @@
+// Text files with numbered handles, and the few file operations beside them. Names are taken as the
+// system takes them: absolute, or relative to the current folder. Every failure throws RuntimeError
+// with the number that the program's messages quote (53 not found, 70 shared or locked, 75 read-only
+// or a folder, 76 no such folder, 61 disk full, ...).
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Files {
+
+enum class Mode {
+  Input,   // read an existing file; others may read and write it meanwhile
+  Output,  // create or empty the file and write; others may read
+  Lock,    // open an existing file for writing and let others only read it; never creates, never written through
+};
+
+// A number that no open file has, from 1.
+int FreeHandle();
+
+// Opens a file under a handle number of the caller's choice (1..255). Error 52 when the number is in use.
+void Open(int handle, const std::string& name, Mode mode);
+bool IsOpen(int handle);
+
+// True when every byte of an Input file has been read.
+bool AtEnd(int handle);
+
+// Reads the next line into `line`, without its end (CR LF, a lone LF or a lone CR). Error 62 at the end.
+void ReadLine(int handle, std::string& line);
+
+// Appends bytes to an Output file as they stand. The bytes may be buffered: Close or Flush reports
+// what the disk refuses.
+void Write(int handle, std::string_view bytes);
+
+// Writes the text and CR LF.
+void WriteLine(int handle, std::string_view text);
+
+// Forces what was written onto the disk itself.
+void Flush(int handle);
+
+// Closes the handle in any case, then throws when pending bytes could not be written. Nothing
+// happens when the handle is not open.
+void Close(int handle);
+
+// Closes every handle, dropping failures: for the end of the program.
+void CloseAll();
+
+// Deletes a file. Error 53 when there is none.
+void Erase(const std::string& name);
+
+// Renames a file; the new name must be free (error 58).
+void Rename(const std::string& from, const std::string& to);
+
+// Tells whether a file of that name is there; false also where the system will not say.
+bool Exists(const std::string& name);
+
+}  // namespace Files

@@ -1,0 +1,78 @@
+// A form: a window made from a dialog template, with its controls as members and one handler an
+// event. The window exists, hidden, from the constructor on, so that controls can be set before it
+// is shown.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/control.h"
+
+// Why a form is about to go.
+enum class UnloadMode { ControlMenu, Code, WindowsShutdown };
+
+// The edges of the form that a control keeps its distance to when the form is resized.
+enum Edges : unsigned { kEdgeLeft = 1, kEdgeTop = 2, kEdgeRight = 4, kEdgeBottom = 8 };
+
+class Form {
+ public:
+  struct Peer;
+
+  // The number names the dialog template (and the menu and accelerators of the same number, where there are any).
+  explicit Form(int template_id);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  // Runs Form_Load, shows the form over the active one, which is disabled meanwhile, and returns when
+  // it was closed. Enter clicks the button with id 1, Esc and the close box the one with id 2.
+  // What a handler throws comes out here, after the form has gone.
+  void ShowModal();
+
+  // Makes ShowModal place the form below a control of another form instead of centring it.
+  void PlaceBelow(const Control& control);
+
+  // Runs Form_Load and shows the form; returns at once. For the main window, once.
+  void Show();
+
+  // Runs the program's events until the form is closed. What a handler throws comes out here; the
+  // form is still there then, and the call may be made again.
+  void RunUntilClosed();
+
+  // Closes the form, asking Form_QueryUnload first.
+  void Close();
+  bool Closed() const;
+
+  std::string Caption() const;
+  void SetCaption(std::string_view caption);
+
+  // Menu entries, by id. Separators and unknown ids are left alone.
+  void SetMenuEnabled(int id, bool enabled);
+  bool MenuEnabled(int id) const;
+  void SetMenuChecked(int id, bool checked);
+  bool MenuChecked(int id) const;
+
+  // The entry or accelerator was chosen; only enabled entries are told of.
+  std::function<void(int id)> MenuClick;
+
+  // Enter or Esc was pressed and the form has no button with id 1 or 2 to take it.
+  Event EnterKey;
+  Event EscapeKey;
+
+  Peer& PeerOf() const { return *peer_; }  // for the platform only
+
+ protected:
+  virtual void Form_Load() {}
+  virtual void Form_Activate() {}  // each time the form becomes the active one, dialogs above it included
+  virtual void Form_QueryUnload(bool& /*cancel*/, UnloadMode /*mode*/) {}
+  virtual void Form_Unload() {}
+
+  // Says how a control follows the form's size (left and top unless said). A form with at least one
+  // such control can be resized, but never below its template's size.
+  void Anchor(Control& control, unsigned edges);
+
+ private:
+  friend struct Peer;
+  std::unique_ptr<Peer> peer_;
+};

@@ -1,0 +1,33 @@
+// The plain controls, in memory.
+#include "platform/controls.h"
+
+#include <algorithm>
+
+#include "platform/files.h"
+#include "platform/headless/internals.h"
+#include "platform/runtime_error.h"
+
+void Label::SetBold(bool bold) { PeerOf().Bold = bold; }
+bool Label::Bold() const { return PeerOf().Bold; }
+void Label::SetBorder(bool border) { PeerOf().Border = border; }
+bool Label::Border() const { return PeerOf().Border; }
+
+void TextBox::SetReadOnly(bool read_only) { PeerOf().ReadOnly = read_only; }
+bool TextBox::ReadOnly() const { return PeerOf().ReadOnly; }
+void TextBox::SetTextLimit(int characters) { PeerOf().TextLimit = characters; }
+
+// Nothing is marked here: what a person types replaces everything anyway.
+void TextBox::SelectAll() {}
+
+void Button::SetBackColor(::BackColor color) { PeerOf().Back = color; }
+::BackColor Button::BackColor() const { return PeerOf().Back; }
+
+bool OptionButton::Checked() const { return PeerOf().Checked; }
+
+void OptionButton::SetChecked(bool checked) {
+  if (checked) {
+    PeerOf().Check();
+  } else {
+    PeerOf().Checked = false;
+  }
+}

@@ -1,0 +1,142 @@
+// Forms, in memory: a stack of those that are open; the stage stands for the person who uses them.
+#include "platform/form.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+
+#include "platform/headless/internals.h"
+#include "platform/program.h"
+
+namespace {
+
+void HaveUsed(Form& form) {
+  const Stage& stage = CurrentStage();
+  if (!stage.Use) {
+    std::fprintf(stderr, "nobody is there to use form %d\n", form.PeerOf().Template);
+    std::abort();
+  }
+  stage.Use(form);
+}
+
+}  // namespace
+
+std::vector<Form*>& OpenForms() {
+  static std::vector<Form*> forms;
+  return forms;
+}
+
+void ActivateTopmost() {
+  if (!OpenForms().empty()) OpenForms().back()->PeerOf().Activate();
+}
+
+Form::Form(int template_id) : peer_(std::make_unique<Peer>()) {
+  peer_->Self = this;
+  peer_->Template = template_id;
+}
+
+Form::~Form() { peer_->Gone(); }
+
+void Form::ShowModal() {
+  peer_->Modal = true;
+  std::exception_ptr failure;
+  try {
+    peer_->Appear();
+    if (!peer_->Closed) HaveUsed(*this);
+  } catch (const ProgramEnded&) {
+    peer_->Gone();
+    throw;
+  } catch (...) {
+    failure = std::current_exception();
+  }
+  peer_->Gone();
+  ActivateTopmost();
+  if (failure) std::rethrow_exception(failure);
+}
+
+void Form::Show() { peer_->Appear(); }
+
+void Form::RunUntilClosed() {
+  if (peer_->Closed) return;
+  HaveUsed(*this);
+  peer_->Gone();
+}
+
+void Form::Close() { peer_->Unload(UnloadMode::Code); }
+bool Form::Closed() const { return peer_->Closed; }
+
+std::string Form::Caption() const { return peer_->Caption; }
+void Form::SetCaption(std::string_view caption) { peer_->Caption = caption; }
+
+void Form::SetMenuEnabled(int id, bool enabled) {
+  if (enabled) {
+    peer_->MenuGreyed.erase(id);
+  } else {
+    peer_->MenuGreyed.insert(id);
+  }
+}
+
+bool Form::MenuEnabled(int id) const { return peer_->MenuGreyed.count(id) == 0; }
+
+void Form::SetMenuChecked(int id, bool checked) {
+  if (checked) {
+    peer_->MenuTicked.insert(id);
+  } else {
+    peer_->MenuTicked.erase(id);
+  }
+}
+
+bool Form::MenuChecked(int id) const { return peer_->MenuTicked.count(id) != 0; }
+
+// Nothing has a place here.
+void Form::PlaceBelow(const Control& /*control*/) {}
+void Form::Anchor(Control& /*control*/, unsigned /*edges*/) {}
+
+Control* Form::Peer::Find(int id) const {
+  const auto found = Controls.find(id);
+  return found == Controls.end() ? nullptr : found->second;
+}
+
+void Form::Peer::MoveFocus(Control* control) {
+  if (Focus == control) return;
+  const Event lost = Shown && Focus != nullptr ? Focus->LostFocus : Event();
+  const Event got = Shown && control != nullptr ? control->GotFocus : Event();
+  Focus = control;
+  if (lost) lost();
+  if (got) got();
+}
+
+void Form::Peer::Appear() {
+  Closed = false;
+  Self->Form_Load();
+  OpenForms().push_back(Self);
+  Shown = true;
+  if (Focus == nullptr || !Focus->PeerOf().TakesFocus()) {
+    const auto first =
+        std::find_if(InOrder.begin(), InOrder.end(), [](const Control* each) { return each->PeerOf().TakesFocus(); });
+    Focus = first == InOrder.end() ? nullptr : *first;
+  }
+  if (Focus != nullptr && Focus->GotFocus) Focus->GotFocus();
+  Self->Form_Activate();
+}
+
+void Form::Peer::Unload(UnloadMode mode) {
+  if (Closed) return;
+  bool cancel = false;
+  Self->Form_QueryUnload(cancel, mode);
+  if (cancel || Closed) return;
+  Self->Form_Unload();
+  if (Modal) {
+    Closed = true;  // leaves the stack when ShowModal returns
+  } else {
+    Gone();
+  }
+}
+
+void Form::Peer::Gone() {
+  std::vector<Form*>& open = OpenForms();
+  open.erase(std::remove(open.begin(), open.end(), Self), open.end());
+  Shown = false;
+  Closed = true;
+}

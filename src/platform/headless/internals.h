@@ -1,0 +1,93 @@
+// The in-memory platform from inside: what forms and controls are made of, and the stage on which a
+// test's person stands. Deliberately stupid: every property is a plain member.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/file_dialog.h"
+#include "platform/form.h"
+#include "platform/lists.h"
+#include "platform/message.h"
+
+struct Control::Peer {
+  using Kind = Control::Kind;
+
+  Control* Self = nullptr;
+  Form* Owner = nullptr;
+  int Id = 0;
+  Kind What = Kind::Label;
+  std::string Text;
+  bool Enabled = true;
+  bool Visible = true;
+
+  bool Bold = false;      // label
+  bool Border = false;    // label
+  bool ReadOnly = false;  // text box
+  int TextLimit = 0;      // text box
+  BackColor Back = BackColor::ButtonFace;
+  bool Checked = false;             // option button
+  int Group = 0;                    // option button: those made one after another are one group
+  bool Loaded = false;              // picture
+  std::vector<ListEntry> Entries;   // lists, the check list included
+  int Selected = -1;                // lists
+  std::vector<bool> Ticks;          // check list
+  int MarkFirst = 0, MarkLast = 0;  // combo: the marked part of the edit text
+
+  bool TakesFocus() const;  // of a kind that can, visible and enabled
+  bool Editable() const { return What == Kind::TextBox || What == Kind::ComboBox; }
+  bool HasEntries() const;                         // any list, the check list included
+  int PositionOf(const std::string& entry) const;  // the first of that text, -1 when there is none
+
+  // What a person and the program's code do alike; each raises the control's event when something differs.
+  void ChangeText(const std::string& text);
+  void ChangeSelection(int position);
+  void ChangeTick(int position, bool checked);
+  void Check();  // an option button
+  void Click();  // a label, button or picture; an option button checks
+};
+
+struct Form::Peer {
+  Form* Self = nullptr;
+  int Template = 0;
+  std::string Caption;
+  std::map<int, Control*> Controls;
+  std::vector<Control*> InOrder;  // as constructed: the tab order
+  Control* Focus = nullptr;
+  bool Shown = false;
+  bool Modal = false;
+  bool Closed = false;
+  std::set<int> MenuGreyed;
+  std::set<int> MenuTicked;
+
+  Control* Find(int id) const;       // nullptr when there is none
+  void MoveFocus(Control* control);  // raises LostFocus and GotFocus while the form is shown
+  void Appear();                     // Form_Load, onto the stack, first focus, Form_Activate
+  void Activate() { Self->Form_Activate(); }
+  void Unload(UnloadMode mode);  // Form_QueryUnload, Form_Unload
+  void Gone();                   // closed and off the stack, without asking
+};
+
+// The open forms, the topmost last.
+std::vector<Form*>& OpenForms();
+
+// Runs the topmost form's Form_Activate, after a box or form above it went.
+void ActivateTopmost();
+
+// Who answers boxes and uses forms; installed by the test's person. Without one, whatever comes up says so and
+// aborts.
+struct Stage {
+  std::function<Answer(const std::string& text, const std::string& caption, Buttons buttons, Icon icon)> Message;
+  std::function<std::string(const std::string& prompt, const std::string& caption, const std::string& offered)> Input;
+  std::function<std::string(const FileChoice& choice)> File;
+  std::function<void(Form& form)> Use;  // acts on an open form; reports it when it stays open
+};
+
+Stage& CurrentStage();
+
+// Has the stage choose a file: what ChooseFile does here.
+std::string StageChooseFile(const FileChoice& choice);

@@ -1,0 +1,56 @@
+// Lists, drop-downs and check lists, in memory.
+#include "platform/lists.h"
+
+#include "platform/headless/internals.h"
+
+namespace {
+
+bool Valid(const Control::Peer& peer, int position) {
+  return position >= 0 && position < static_cast<int>(peer.Entries.size());
+}
+
+const ListEntry& EntryAt(const Control::Peer& peer, int position) {
+  static const ListEntry kNone;
+  return Valid(peer, position) ? peer.Entries[static_cast<std::size_t>(position)] : kNone;
+}
+
+}  // namespace
+
+void ListControl::Fill(const std::vector<ListEntry>& entries) {
+  Peer& peer = PeerOf();
+  peer.Entries = entries;
+  peer.Selected = -1;
+  peer.Text.clear();
+}
+
+int ListControl::Count() const { return static_cast<int>(PeerOf().Entries.size()); }
+std::string ListControl::EntryText(int position) const { return EntryAt(PeerOf(), position).Text; }
+int ListControl::EntryData(int position) const { return EntryAt(PeerOf(), position).Data; }
+int ListControl::Selected() const { return PeerOf().Selected; }
+void ListControl::Select(int position) { PeerOf().ChangeSelection(position); }
+
+int ListControl::SelectedData(int none) const { return Selected() < 0 ? none : EntryData(Selected()); }
+
+void ComboBox::SelectText(int first, int last) {
+  PeerOf().MarkFirst = first;
+  PeerOf().MarkLast = last;
+}
+
+// Nothing drops down here: a person picks straight from the entries.
+bool ComboBox::DroppedDown() const { return false; }
+
+void CheckList::Fill(const std::vector<std::string>& entries) {
+  Peer& peer = PeerOf();
+  peer.Entries.clear();
+  for (const std::string& text : entries) peer.Entries.push_back({text, 0});
+  peer.Ticks.assign(entries.size(), false);
+}
+
+int CheckList::Count() const { return static_cast<int>(PeerOf().Entries.size()); }
+std::string CheckList::EntryText(int position) const { return EntryAt(PeerOf(), position).Text; }
+
+bool CheckList::Checked(int position) const {
+  return Valid(PeerOf(), position) && PeerOf().Ticks[static_cast<std::size_t>(position)];
+}
+
+void CheckList::SetChecked(int position, bool checked) { PeerOf().ChangeTick(position, checked); }

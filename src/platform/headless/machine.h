@@ -1,0 +1,46 @@
+// The machine that the in-memory platform plays: what a test may set up on it, look at, and break.
+// Files live in a tree of their own: case-insensitive, with "C:\" as its only drive.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Machine {
+
+void SetDecimalSeparator(char separator);
+void SetEnvironment(const std::string& name, const std::optional<std::string>& value);  // nothing: not defined
+void SetCommandLine(const std::string& text);
+void SetProgramFolder(const std::string& folder);
+void SetCurrentFolder(const std::string& folder);  // need not exist: the system does not see to it either
+
+// Files, by full name or relative to the current folder. None of these counts as a file call, and
+// none minds read-only flags or handles. Putting a file into a folder that is missing throws.
+void PutFile(const std::string& name, std::string_view bytes);
+void PutRealFile(const std::string& name, const std::string& real_path);  // the bytes of a file of the real disk
+std::optional<std::string> FileBytes(const std::string& name);            // nothing when there is no such file
+void SetReadOnly(const std::string& name, bool read_only);
+void MakeFolder(const std::string& name);
+void RemoveFolder(const std::string& name);                   // with all that is in it
+std::vector<std::string> FilesIn(const std::string& folder);  // names without the folder, sorted
+void HoldByOther(const std::string& name, bool against_readers);
+void ReleaseByOther();
+
+// Faults. Each Open, ReadLine, Write, WriteLine, Flush, Erase, Rename and Exists is a file call, and so
+// is a Close that has written bytes to settle. The n-th call from now on (1 is the next) fails with the
+// error of that system code: once, or with all that follow it. A Write that fails leaves half of its
+// bytes in the file, and a Flush or Close that fails loses half of what was written since the last one.
+void FailFileCall(int nth, unsigned long system_code, bool permanent);
+
+// The file calls since ClearFaults was last called.
+int FileCallCount();
+
+// No faults, unlimited space, and the count at 0.
+void ClearFaults();
+
+// Lets the files grow by that many bytes more; what exceeds it is refused as by a full disk (code 112).
+void DiskSpace(std::size_t bytes);
+
+}  // namespace Machine

@@ -1,0 +1,68 @@
+// Controls that hold entries: list, drop-downs and check list. Positions count from 0; -1 is none.
+// Entries stand in the order in which they were added; no control sorts them.
+#pragma once
+
+#include <vector>
+
+#include "platform/control.h"
+
+// One entry: what is shown, and a number of the caller's own (a record number).
+struct ListEntry {
+  std::string Text;
+  int Data = 0;
+  bool operator==(const ListEntry&) const = default;
+};
+
+// What list box and drop-downs share. Click is raised when the selection moved, by the user (with
+// the mouse or the arrow keys) or from code.
+class ListControl : public Control {
+ public:
+  // Replaces all entries at once, without repainting in between. The selection is lost, silently; a
+  // combo's edit text is emptied, silently too.
+  void Fill(const std::vector<ListEntry>& entries);
+  void Clear() { Fill({}); }
+  int Count() const;
+  std::string EntryText(int position) const;
+  int EntryData(int position) const;
+  int Selected() const;
+  void Select(int position);             // -1 selects nothing; a combo's edit text follows
+  int SelectedData(int none = 0) const;  // data of the selected entry, or `none`
+  Event Click;
+
+ protected:
+  using Control::Control;
+};
+
+class ListBox : public ListControl {
+ public:
+  ListBox(Form& owner, int id) : ListControl(owner, id, Kind::ListBox) {}
+  Event DoubleClick;
+};
+
+// A drop-down whose text is always one of its entries, or nothing.
+class DropDownList : public ListControl {
+ public:
+  DropDownList(Form& owner, int id) : ListControl(owner, id, Kind::DropDownList) {}
+};
+
+// A drop-down with an edit field: Text may be anything. Change is raised when the edit text was
+// typed or set from code, not when an entry was selected (that is Click).
+class ComboBox : public ListControl {
+ public:
+  ComboBox(Form& owner, int id) : ListControl(owner, id, Kind::ComboBox) {}
+  void SelectText(int first, int last);  // marks characters [first, last) of the edit field
+  bool DroppedDown() const;
+  Event Change;
+};
+
+// A list with a check box before each entry.
+class CheckList : public Control {
+ public:
+  CheckList(Form& owner, int id) : Control(owner, id, Kind::CheckList) {}
+  void Fill(const std::vector<std::string>& entries);  // replaces all entries; none is checked, silently
+  int Count() const;
+  std::string EntryText(int position) const;
+  bool Checked(int position) const;
+  void SetChecked(int position, bool checked);  // raises ItemCheck when it differs
+  std::function<void(int position)> ItemCheck;
+};

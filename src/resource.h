@@ -1,0 +1,83 @@
+// The ids of dialog templates, controls, menu entries and icons: one list for code and templates.
+// A control's id is IDC_ and its name; forms share the ids of controls of the same name.
+#pragma once
+
+// The dialog manager sends Enter and Esc to these two.
+#define IDC_OKButton 1
+#define IDC_CancelButton 2
+
+#define IDI_Program 100
+#define IDI_Document 101
+
+#define IDD_MainForm 110
+#define IDD_FileForm 111
+#define IDD_CatPickForm 112
+#define IDD_InputBox 190
+
+// MainForm
+#define IDC_PersonCombo 1000
+#define IDC_NoteBox 1001
+#define IDC_FatherCombo 1002
+#define IDC_MotherCombo 1003
+#define IDC_CatList 1004
+#define IDC_PhotoPic 1005
+#define IDC_CategoryFilterLabel 1006
+#define IDC_AllLabel 1007
+
+#define IDC_NewButton 1020
+#define IDC_OpenButton 1021
+#define IDC_SaveButton 1022
+#define IDC_AddPersonButton 1023
+#define IDC_DeleteButton 1024
+#define IDC_PhotoButton 1025
+#define IDC_DataButton 1026
+#define IDC_DefCatButton 1027
+#define IDC_ExitButton 1028
+#define IDC_HelpButton 1029
+
+// Labels before the controls
+#define IDC_PersonLabel 1040
+#define IDC_NoteLabel 1041
+#define IDC_FatherLabel 1042
+#define IDC_MotherLabel 1043
+#define IDC_CatLabel 1044
+#define IDC_PhotoLabel 1045
+
+// The letter tabs: IDC_LetterLabel is A, + 25 is Z.
+#define IDC_LetterLabel 1100
+
+// MainForm's menu
+#define IDC_NewItem 1200
+#define IDC_OpenItem 1201
+#define IDC_SaveItem 1202
+#define IDC_ExitItem 1203
+#define IDC_AddPersonItem 1210
+#define IDC_DeletePersonItem 1211
+#define IDC_RenameItem 1212
+#define IDC_PhotoItem 1213
+#define IDC_DataItem 1214
+#define IDC_DefCatItem 1215
+#define IDC_AllNamesItem 1220
+#define IDC_StartingLetterItem 1221
+#define IDC_AllCategoryItem 1222
+#define IDC_SelCategoryItem 1223
+#define IDC_GivenNameItem 1224
+#define IDC_SurnameOrderItem 1225
+#define IDC_AddressRepItem 1230
+#define IDC_ItemValuesItem 1231
+#define IDC_DescendantItem 1232
+#define IDC_ManualItem 1240
+#define IDC_FilerHelpItem 1241
+#define IDC_AboutItem 1242
+
+// FileForm
+#define IDC_NameLabel 1300
+#define IDC_NameBox 1301
+#define IDC_BrowseButton 1302
+
+// CatPickForm
+#define IDC_CategoryList 1310
+
+// The input box
+#define IDC_PromptLabel 1390
+#define IDC_AnswerBox 1391

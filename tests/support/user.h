@@ -1,0 +1,52 @@
+// A person at the program: acts on the topmost form by control id and answers its dialogs from a queue
+// of expectations. The same scenario runs in memory and on real windows.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/message.h"
+
+enum class Key { Enter, Escape };
+
+class User {
+ public:
+  User();
+  ~User();  // fails the test for every expectation that never came
+  User(const User&) = delete;
+  User& operator=(const User&) = delete;
+
+  // Acts, each as the real thing: on the topmost open form, moving the focus first (so that LostFocus and
+  // GotFocus come), raising the control's events. Acting on a hidden or disabled control fails the test.
+  void Types(int id, std::string_view text);   // replaces what a text box or combo's edit field holds
+  void Clicks(int id);                         // button, option button, label, picture
+  void Picks(int id, std::string_view entry);  // the first list or drop-down entry of that text
+  void PicksAt(int id, int position);          // an entry by position, from 0
+  void Ticks(int id, std::string_view entry);  // turns the check box of a check-list entry over
+  void ChoosesMenu(int id);                    // fails the test when the entry is greyed
+  void Presses(Key key);                       // in the control that has the focus
+  void MovesTo(int id);                        // moves the focus only
+  void ClosesWindow();                         // the topmost form's close box
+
+  // What is seen on the topmost form.
+  std::string Sees(int id);
+  std::string SeesCaption();
+  bool SeesEnabled(int id);
+  bool SeesVisible(int id);
+  bool SeesFocusOn(int id);
+  std::vector<std::string> SeesEntries(int id);  // list, drop-down or check list
+  std::string SeesSelected(int id);              // the selected entry's text, empty for none
+  std::vector<std::string> SeesTicked(int id);
+  bool SeesMenuEnabled(int id);
+  bool SeesMenuChecked(int id);
+
+  // What is expected to come, in order. Anything else that comes fails the test with its text and is
+  // closed (Cancel, No or OK); a form that an `acts` leaves open fails it too and is closed.
+  void Answers(std::string_view text, Answer answer, Icon icon, Buttons buttons);
+  void Reads(std::string_view text, Icon icon) { Answers(text, Answer::Ok, icon, Buttons::Ok); }
+  void AnswersInput(std::string_view prompt, std::string_view answer);  // an empty answer cancels
+  void UsesForm(int template_id, std::function<void()> acts);           // a modal form, up to its closing
+  void ChoosesFile(std::string_view name);                              // the system's file dialog; empty cancels
+};
