@@ -1,0 +1,50 @@
+// The document and its clearing: see document.h.
+#include "document/document.h"
+
+#include <cassert>
+
+#include "document/file_lock.h"
+#include "document/segments.h"
+
+Document TheDocument;
+
+std::string_view FieldValueSlot::Keyword() const {
+  const auto colon = Text.find(':');
+  return colon == std::string::npos ? std::string_view() : std::string_view(Text).substr(0, colon);
+}
+
+std::string_view FieldValueSlot::Value() const {
+  const auto colon = Text.find(':');
+  return colon == std::string::npos ? std::string_view() : std::string_view(Text).substr(colon + 1);
+}
+
+std::size_t CategoryNameTable::Index(int number) {
+  assert(number >= 1 && number <= kCategories);
+  return static_cast<std::size_t>(number - 1);
+}
+
+int CategoryNameTable::Highest() const {
+  int number = kCategories;
+  while (number > 0 && (*this)[number].empty()) --number;
+  return number;
+}
+
+std::int32_t CategoryBit(int category) {
+  return category == 0 ? 0 : static_cast<std::int32_t>(std::uint32_t{1} << (category - 1));
+}
+
+void MakeNew() {
+  Document& document = TheDocument;
+  ReleaseFileLock();
+  document.Writable = true;
+  document.PendingEdits = false;
+  document.CurrentThing = 0;
+  document.DocumentOpen = false;
+  document.FileName.clear();
+  document.ShownFileName.clear();
+  document.Modified = false;
+  document.Things.SetCount(0);
+  document.Fields.SetCount(0);
+  document.CategoryNames.Clear();
+  ClearPendingText();
+}

@@ -1,0 +1,29 @@
+// The lock on the document's file: see file_lock.h.
+#include "document/file_lock.h"
+
+#include "document/document.h"
+#include "document/file_handles.h"
+#include "platform/files.h"
+#include "platform/runtime_error.h"
+#include "shell/messages.h"
+
+void TakeFileLock(const std::string& file_name) {
+  if (!TheDocument.Writable) return;
+  try {
+    Files::Open(kLockHandle, file_name, Files::Mode::Lock);
+    TheDocument.LockHeld = true;
+  } catch (const RuntimeError&) {
+    Global::Say(
+        "I have loaded the plan file, but I cannot lock it for writing.  If you make changes, you must save to a "
+        "different file.",
+        Icon::Exclamation);
+    TheDocument.Writable = false;
+    TheDocument.LockHeld = false;
+  }
+}
+
+void ReleaseFileLock() {
+  if (!TheDocument.LockHeld) return;
+  Files::Close(kLockHandle);
+  TheDocument.LockHeld = false;
+}

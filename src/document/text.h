@@ -1,0 +1,14 @@
+// Small text functions that the file formats and names share. A blank is character 32 only: tabs and
+// control characters are text.
+#pragma once
+
+#include <string_view>
+
+constexpr std::string_view TrimLeft(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  return first == std::string_view::npos ? std::string_view() : text.substr(first);
+}
+
+constexpr std::string_view TrimRight(std::string_view text) { return text.substr(0, text.find_last_not_of(' ') + 1); }
+
+constexpr std::string_view Trim(std::string_view text) { return TrimLeft(TrimRight(text)); }

@@ -1,0 +1,22 @@
+// CatPickForm: the choice of the category that the thing list is narrowed to.
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/form.h"
+#include "platform/lists.h"
+
+class CatPickForm : public Form {
+ public:
+  // Opened from the filter's label the dialog stands below it, from the menu over the window's middle.
+  CatPickForm(int selected_category, const Control* below_label);
+
+  int SelectedCategory;  // in, and out after O.K.: 1..32, 0 for all categories
+
+ private:
+  ListBox CategoryList;
+  Button OKButton;
+  Button CancelButton;
+
+  void Form_Load() override;
+  void OKButton_Click();
+};

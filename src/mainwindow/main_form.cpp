@@ -1,0 +1,224 @@
+// MainForm: start-up, the command table, and what holds for all commands.
+#include "mainwindow/main_form.h"
+
+#include <utility>
+
+#include "document/document.h"
+#include "document/names.h"
+#include "document/things.h"
+#include "mainwindow/address_titles.h"
+#include "mainwindow/command_line.h"
+#include "mainwindow/file_names.h"
+#include "mainwindow/settings.h"
+#include "resource.h"
+#include "shell/messages.h"
+
+// A menu entry and the button of the same command. Without a handler both stay greyed.
+struct MainForm::Command {
+  int Item;
+  Button MainForm::*ItsButton = nullptr;
+  void (MainForm::*Handler)() = nullptr;
+  bool (MainForm::*Enabled)() const = &MainForm::Always;
+};
+
+const std::vector<MainForm::Command>& MainForm::Commands() {
+  static const std::vector<Command> commands{
+      {IDC_NewItem, &MainForm::NewButton, &MainForm::NewItem_Click},
+      {IDC_OpenItem, &MainForm::OpenButton, &MainForm::OpenItem_Click},
+      {IDC_SaveItem, &MainForm::SaveButton, &MainForm::SaveItem_Click},
+      {IDC_ExitItem, &MainForm::ExitButton, &MainForm::ExitItem_Click},
+      {IDC_AddPersonItem, &MainForm::AddPersonButton},
+      {IDC_DeletePersonItem, &MainForm::DeleteButton},
+      {IDC_RenameItem},
+      {IDC_PhotoItem, &MainForm::PhotoButton},
+      {IDC_DataItem, &MainForm::DataButton},
+      {IDC_DefCatItem, &MainForm::DefCatButton},
+      {IDC_AllNamesItem, nullptr, &MainForm::AllNamesItem_Click},
+      {IDC_StartingLetterItem, nullptr, &MainForm::StartingLetterItem_Click},
+      {IDC_AllCategoryItem, nullptr, &MainForm::AllCategoryItem_Click},
+      {IDC_SelCategoryItem, nullptr, &MainForm::SelCategoryItem_Click},
+      {IDC_GivenNameItem, nullptr, &MainForm::GivenNameItem_Click},
+      {IDC_SurnameOrderItem, nullptr, &MainForm::SurnameOrderItem_Click},
+      {IDC_AddressRepItem},
+      {IDC_ItemValuesItem},
+      {IDC_DescendantItem},
+      {IDC_ManualItem, &MainForm::HelpButton},
+      {IDC_FilerHelpItem},
+      {IDC_AboutItem},
+  };
+  return commands;
+}
+
+MainForm::MainForm(std::string command_line)
+    : Form(IDD_MainForm),
+      NewButton(*this, IDC_NewButton),
+      OpenButton(*this, IDC_OpenButton),
+      SaveButton(*this, IDC_SaveButton),
+      AddPersonButton(*this, IDC_AddPersonButton),
+      DeleteButton(*this, IDC_DeleteButton),
+      HelpButton(*this, IDC_HelpButton),
+      ExitButton(*this, IDC_ExitButton),
+      AllLabel(*this, IDC_AllLabel),
+      PersonCombo(*this, IDC_PersonCombo),
+      CategoryFilterLabel(*this, IDC_CategoryFilterLabel),
+      NoteBox(*this, IDC_NoteBox),
+      FatherCombo(*this, IDC_FatherCombo),
+      MotherCombo(*this, IDC_MotherCombo),
+      PhotoPic(*this, IDC_PhotoPic),
+      PhotoButton(*this, IDC_PhotoButton),
+      DataButton(*this, IDC_DataButton),
+      CatList(*this, IDC_CatList),
+      DefCatButton(*this, IDC_DefCatButton),
+      command_line_(std::move(command_line)) {
+  for (int index = 0; index < kLetters; ++index) {
+    LetterLabel[static_cast<std::size_t>(index)] = std::make_unique<Label>(*this, IDC_LetterLabel + index);
+  }
+  WireEvents();
+}
+
+MainForm::~MainForm() = default;
+
+// Every event ends with the caption and the greying brought in line with the document.
+Event MainForm::On(void (MainForm::*handler)()) {
+  return [this, handler] {
+    (this->*handler)();
+    RefreshFrame();
+  };
+}
+
+void MainForm::WireEvents() {
+  for (const Command& command : Commands()) {
+    if (command.ItsButton != nullptr && command.Handler != nullptr)
+      (this->*command.ItsButton).Click = On(command.Handler);
+  }
+  OpenButton.Click = On(&MainForm::OpenButton_Click);
+  ExitButton.Click = On(&MainForm::ExitButton_Click);
+  MenuClick = [this](int id) { RunCommand(id); };
+  EnterKey = On(&MainForm::Enter_Press);
+  EscapeKey = On(&MainForm::Escape_Press);
+  AllLabel.Click = On(&MainForm::AllLabel_Click);
+  for (int index = 0; index < kLetters; ++index) {
+    LetterLabel[static_cast<std::size_t>(index)]->Click = [this, index] {
+      LetterLabel_Click(index);
+      RefreshFrame();
+    };
+  }
+  CategoryFilterLabel.Click = On(&MainForm::CategoryFilterLabel_Click);
+  PersonCombo.Click = On(&MainForm::PersonCombo_Click);
+  PersonCombo.Change = [this] { PersonCombo_Change(); };
+  PersonCombo.LostFocus = [this] { PersonCombo_LostFocus(); };
+  NoteBox.Change = On(&MainForm::NoteBox_Change);
+  NoteBox.LostFocus = On(&MainForm::NoteBox_LostFocus);
+  FatherCombo.Click = MotherCombo.Click = On(&MainForm::LinkCombo_Click);
+  CatList.ItemCheck = [this](int position) {
+    CatList_ItemCheck(position);
+    RefreshFrame();
+  };
+}
+
+void MainForm::RunCommand(int id) {
+  for (const Command& command : Commands()) {
+    if (command.Item == id && command.Handler != nullptr) (this->*command.Handler)();
+  }
+  RefreshFrame();
+}
+
+void MainForm::RefreshFrame() {
+  const Document& document = TheDocument;
+  std::string caption = Global::ProgramTitle;
+  if (!document.ShownFileName.empty()) caption += " - " + document.ShownFileName;
+  if (!document.Writable) caption += " (read only)";
+  if (document.Modified || document.PendingEdits) caption += " *";
+  if (caption != Caption()) SetCaption(caption);
+  for (const Command& command : Commands()) {
+    const bool enabled = command.Handler != nullptr && (this->*command.Enabled)();
+    SetMenuEnabled(command.Item, enabled);
+    if (command.ItsButton != nullptr) (this->*command.ItsButton).SetEnabled(enabled);
+  }
+}
+
+void MainForm::Form_Load() {
+  TheDocument = {};
+  Global::ProgramTitle = "Larkspur Filer";
+  Global::FillAddressTitles();
+  PhotoButton.SetBackColor(DataButton.BackColor());
+  Anchor(HelpButton, kEdgeTop | kEdgeRight);
+  Anchor(ExitButton, kEdgeTop | kEdgeRight);
+  Anchor(PersonCombo, kEdgeLeft | kEdgeTop | kEdgeRight);
+  Anchor(CategoryFilterLabel, kEdgeTop | kEdgeRight);
+  Anchor(NoteBox, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
+  Anchor(FatherCombo, kEdgeLeft | kEdgeRight | kEdgeBottom);
+  Anchor(MotherCombo, kEdgeLeft | kEdgeRight | kEdgeBottom);
+  Anchor(PhotoPic, kEdgeTop | kEdgeRight);
+  Anchor(PhotoButton, kEdgeTop | kEdgeRight);
+  Anchor(DataButton, kEdgeTop | kEdgeRight);
+  Anchor(CatList, kEdgeTop | kEdgeRight | kEdgeBottom);
+  Anchor(DefCatButton, kEdgeRight | kEdgeBottom);
+
+  MakeNew();
+  ShowNameOrder();
+  TheStart = command_line_.empty() ? StartOptions{} : ParseCommandLine(command_line_);
+  LoadSettings();
+  TheDocument.Writable = true;
+  if (!TheStart.StartFile.empty()) {
+    LoadDocument(Global::FullFileName(TheStart.WorkingFolder, TheStart.StartFile), TheStart.StartFile);
+  }
+  RefreshFrame();
+}
+
+void MainForm::Form_Activate() {
+  if (shown_before_ || dialog_open_) return;
+  shown_before_ = true;
+  bool show = true;
+  if (!TheDocument.DocumentOpen && TheRecentFiles.Count > 0) {
+    OpenItem_Click();
+    show = false;
+  }
+  if (!TheStart.StartThing.empty() && ShowStartThing()) show = true;
+  if (show && TheDocument.Things.Count() > 0) {
+    if (TheDocument.CurrentThing == 0) TheDocument.CurrentThing = 1;
+    Redisplay();
+  }
+  RefreshFrame();
+}
+
+// Makes the start thing the current one; a name that the document does not know is added to it. False
+// when there is no such thing in the end.
+bool MainForm::ShowStartThing() {
+  StoreEdits();
+  int record = FindThing(TheStart.StartThing);
+  if (record == 0) {
+    const std::string name = NormaliseName(TheStart.StartThing);
+    if (name.empty()) return false;
+    record = FindThing(name);
+    if (record == 0) {
+      record = InsertThing(name);
+      if (record == 0) {
+        Global::Say("A file can hold at most 32767 things.  The thing was not added.", Icon::Exclamation);
+        return false;
+      }
+      TheDocument.Modified = true;
+    }
+  }
+  TheDocument.CurrentThing = record;
+  return true;
+}
+
+void MainForm::Form_QueryUnload(bool& cancel, UnloadMode mode) {
+  if (mode == UnloadMode::Code) return;
+  ExitItem_Click();
+  cancel = true;
+  RefreshFrame();
+}
+
+void MainForm::Run() {
+  Show();
+  while (!Closed()) {
+    try {
+      RunUntilClosed();
+    } catch (const std::exception& error) {
+      // Whatever a command could not finish, the document is still there and can be saved.
+      Global::Say(std::string("The command could not be completed: ") + error.what(), Icon::Exclamation);
+    }
+  }
+}

@@ -1,0 +1,130 @@
+// MainForm, the program's one main window: it owns the document's display and carries out the commands.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "mainwindow/thing_list.h"
+#include "platform/controls.h"
+#include "platform/form.h"
+#include "platform/lists.h"
+
+inline constexpr int kLetters = 26;
+
+class MainForm : public Form {
+ public:
+  // The command line: see command_line.h. It is read, and the file it names loaded, when the form is shown.
+  explicit MainForm(std::string command_line);
+  ~MainForm() override;
+
+  // Shows the window and runs the program's events until the user leaves.
+  void Run();
+
+  // Clears the document and everything the window shows of it.
+  void MakeNew();
+  // Turns each line break of a text into "?" and says so; true when there was one.
+  static bool ValidateText(std::string& text);
+  // Empties the photo box.
+  void ResetPicBox();
+
+ private:
+  struct Command;
+  static const std::vector<Command>& Commands();
+
+  // main_form.cpp: start-up, and what holds for all commands
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_QueryUnload(bool& cancel, UnloadMode mode) override;
+  Event On(void (MainForm::*handler)());
+  void RunCommand(int id);
+  void WireEvents();
+  void RefreshFrame();
+  bool Always() const { return true; }
+  bool ShowStartThing();
+
+  // main_form_file.cpp: the File menu
+  void NewItem_Click();
+  void OpenItem_Click();
+  void SaveItem_Click();
+  void ExitItem_Click();
+  void OpenButton_Click() { OpenItem_Click(); }
+  void ExitButton_Click() { ExitItem_Click(); }
+  bool MayAbandon();
+  void KeepUnasked();
+  bool LoadDocument(const std::string& full_name, const std::string& name);
+
+  // main_form_list.cpp: the View menu, the letter tabs, the thing list
+  void FillThingList(int selected);
+  void FillLinkLists();
+  void SetStartingLetter(const std::string& letter);
+  void ClearStartingLetter();
+  void ShowCategoryFilter();
+  void ShowNameOrder();
+  void Redisplay();
+  void LetterLabel_Click(int index);
+  void AllLabel_Click() { AllNamesItem_Click(); }
+  void AllNamesItem_Click();
+  void StartingLetterItem_Click();
+  void AllCategoryItem_Click();
+  void SelCategoryItem_Click() { PickCategory(nullptr); }
+  void CategoryFilterLabel_Click() { PickCategory(&CategoryFilterLabel); }
+  void PickCategory(const Control* below_label);
+  void GivenNameItem_Click() { SetNameOrder(false); }
+  void SurnameOrderItem_Click() { SetNameOrder(true); }
+  void SetNameOrder(bool noun_order);
+  void PersonCombo_Click();
+  void PersonCombo_Change();
+  void PersonCombo_LostFocus() { RestoreShownName(); }
+  void Enter_Press();
+  void Escape_Press();
+  void PickThing(int record);
+  void RestoreShownName();
+  Label& TabOf(const std::string& letter);
+
+  // main_form_thing.cpp: the current thing
+  ThingRecord* CurrentRecord() const;
+  void StoreEdits();
+  void DisplayThing();
+  void ShowPhoto(ThingRecord& thing);
+  void FillCategoryList();
+  void NoteBox_Change();
+  void NoteBox_LostFocus();
+  void LinkCombo_Click();
+  void CatList_ItemCheck(int position);
+
+  Button NewButton, OpenButton, SaveButton, AddPersonButton, DeleteButton, HelpButton, ExitButton;
+  Label AllLabel;
+  std::array<std::unique_ptr<Label>, kLetters> LetterLabel;
+  ComboBox PersonCombo;
+  Label CategoryFilterLabel;
+  TextBox NoteBox;
+  DropDownList FatherCombo, MotherCombo;
+  Picture PhotoPic;
+  Button PhotoButton, DataButton;
+  CheckList CatList;
+  Button DefCatButton;
+
+  std::string command_line_;
+  ThingListView view_;
+  std::vector<ListEntry> listed_;  // what the thing list holds
+  std::vector<ListEntry> links_;   // what both link lists hold
+  std::string typed_;              // what the user typed into the thing list, without what was offered
+  bool displaying_ = false;        // controls are being filled: their events are no edits
+  bool shown_before_ = false;
+  bool dialog_open_ = false;
+};
+
+// Sets a flag for as long as it lives, and puts back what it was.
+class FlagScope {
+ public:
+  explicit FlagScope(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
+  ~FlagScope() { flag_ = before_; }
+  FlagScope(const FlagScope&) = delete;
+  FlagScope& operator=(const FlagScope&) = delete;
+
+ private:
+  bool& flag_;
+  bool before_;
+};

@@ -1,0 +1,140 @@
+// MainForm's current thing: its display, and the step that stores what was typed.
+#include <algorithm>
+
+#include "document/document.h"
+#include "document/text.h"
+#include "mainwindow/command_line.h"
+#include "mainwindow/file_names.h"
+#include "mainwindow/main_form.h"
+#include "shell/messages.h"
+#include "values/numbers.h"
+
+ThingRecord* MainForm::CurrentRecord() const {
+  RecordTable<ThingRecord>& things = TheDocument.Things;
+  return things.Holds(TheDocument.CurrentThing) ? &things[TheDocument.CurrentThing] : nullptr;
+}
+
+bool MainForm::ValidateText(std::string& text) {
+  std::string one_paragraph;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool is_break = text[at] == '\r' || text[at] == '\n';
+    if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n') ++at;
+    one_paragraph += is_break ? '?' : text[at];
+  }
+  if (one_paragraph == text) return false;
+  text = std::move(one_paragraph);
+  Global::Say(
+      "Your text has some line breaks in it.  Sorry, but we only permit you to enter one paragraph here.  The line "
+      "breaks will be removed and replaced with question marks.",
+      Icon::Exclamation);
+  return true;
+}
+
+void MainForm::StoreEdits() {
+  if (!TheDocument.PendingEdits) return;
+  TheDocument.PendingEdits = false;
+  ThingRecord* thing = CurrentRecord();
+  if (thing == nullptr) return;
+  std::string note = NoteBox.Text();
+  if (ValidateText(note)) {
+    const FlagScope scope(displaying_);
+    NoteBox.SetText(note);
+  }
+  thing->NOTE = Trim(note);
+  // A list without a selection stands for a link that the lists cannot show: it is left as it is.
+  if (FatherCombo.Selected() >= 0) thing->XREF1 = static_cast<std::int16_t>(FatherCombo.SelectedData());
+  if (MotherCombo.Selected() >= 0) thing->XREF2 = static_cast<std::int16_t>(MotherCombo.SelectedData());
+  TheDocument.Modified = true;
+}
+
+namespace {
+
+// The entry that stands for a link: record i is at position i, behind the empty entry.
+int LinkPosition(int link) {
+  if (link == 0) return 0;
+  return TheDocument.Things.Holds(link) ? link : -1;
+}
+
+}  // namespace
+
+void MainForm::DisplayThing() {
+  const FlagScope scope(displaying_);
+  ThingRecord* thing = CurrentRecord();
+  NoteBox.SetEnabled(thing != nullptr);
+  FatherCombo.SetEnabled(thing != nullptr);
+  MotherCombo.SetEnabled(thing != nullptr);
+  CatList.SetEnabled(thing != nullptr);
+  const ThingRecord nothing;
+  const ThingRecord& shown = thing != nullptr ? *thing : nothing;
+  NoteBox.SetText(shown.NOTE);
+  FatherCombo.Select(LinkPosition(shown.XREF1));
+  MotherCombo.Select(LinkPosition(shown.XREF2));
+  for (int position = 0; position < CatList.Count(); ++position) {
+    CatList.SetChecked(position, (shown.CATBITMAP & CategoryBit(position + 1)) != 0);
+  }
+  const bool has_values = std::any_of(shown.Values.begin(), shown.Values.end(),
+                                      [](const FieldValueSlot& slot) { return !slot.Text.empty(); });
+  DataButton.SetBackColor(has_values ? BackColor::Marked : BackColor::ButtonFace);
+  if (thing == nullptr || thing->PICFILENAME.empty()) {
+    ResetPicBox();
+  } else {
+    ShowPhoto(*thing);
+  }
+}
+
+void MainForm::ResetPicBox() { PhotoPic.Clear(); }
+
+void MainForm::ShowPhoto(ThingRecord& thing) {
+  try {
+    PhotoPic.Load(Global::FullFileName(TheStart.WorkingFolder, thing.PICFILENAME));
+  } catch (const RuntimeError& error) {
+    ResetPicBox();
+    thing.PICFILENAME.clear();
+    TheDocument.Modified = true;
+    Global::Say("I am unable to load the photo file for " + thing.NAME + ", due to error #" + SignedText(error.Number) +
+                    ". The picture file link will be removed.",
+                Icon::Exclamation);
+  }
+}
+
+// Entry k is category k, so that the list's positions need no table; unused numbers show no text.
+void MainForm::FillCategoryList() {
+  const FlagScope scope(displaying_);
+  std::vector<std::string> names;
+  for (int number = 1; number <= TheDocument.CategoryNames.Highest(); ++number) {
+    names.push_back(TheDocument.CategoryNames[number]);
+  }
+  CatList.Fill(names);
+}
+
+void MainForm::NoteBox_Change() {
+  if (!displaying_) TheDocument.PendingEdits = true;
+}
+
+void MainForm::NoteBox_LostFocus() {
+  std::string note = NoteBox.Text();
+  if (!ValidateText(note)) return;
+  const FlagScope scope(displaying_);
+  NoteBox.SetText(note);
+}
+
+void MainForm::LinkCombo_Click() {
+  if (!displaying_) TheDocument.PendingEdits = true;
+}
+
+void MainForm::CatList_ItemCheck(int position) {
+  if (displaying_) return;
+  ThingRecord* thing = CurrentRecord();
+  const int category = position + 1;
+  if (thing == nullptr || TheDocument.CategoryNames[category].empty()) {
+    const FlagScope scope(displaying_);
+    CatList.SetChecked(position, !CatList.Checked(position));
+    return;
+  }
+  if (CatList.Checked(position)) {
+    thing->CATBITMAP |= CategoryBit(category);
+  } else {
+    thing->CATBITMAP &= ~CategoryBit(category);
+  }
+  TheDocument.Modified = true;
+}

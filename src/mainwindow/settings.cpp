@@ -1,0 +1,138 @@
+// The settings file: see settings.h.
+#include "mainwindow/settings.h"
+
+#include <algorithm>
+
+#include "document/file_handles.h"
+#include "document/segments.h"
+#include "document/text.h"
+#include "mainwindow/command_line.h"
+#include "platform/files.h"
+#include "platform/locale.h"
+#include "platform/program.h"
+#include "shell/messages.h"
+#include "values/numbers.h"
+
+RecentFileList TheRecentFiles;
+
+std::string SettingsFileName() {
+  const std::string& folder = TheStart.SettingsFolder;
+  if (folder.empty()) return "Torvane.INI";
+  return folder + (folder.ends_with('\\') ? "" : "\\") + "\\Torvane.INI";
+}
+
+namespace {
+
+bool AcceptsHeader(const std::string& first_line) {
+  const std::string upper = UpperCase(first_line);
+  const std::string_view line = Trim(upper);
+  const auto mark = line.find(" V");
+  double version = 0;
+  if (mark != std::string_view::npos && line.size() - mark >= 4) version = LeadingNumber(line.substr(mark + 2, 3));
+  const bool is_settings = line.find("TORVANE") != std::string_view::npos && line.find("INI") != std::string_view::npos;
+  return is_settings && version >= 1 && version <= 5;
+}
+
+// An empty file has an empty header.
+std::string ReadHeader() {
+  std::string line;
+  if (!Files::AtEnd(kSettingsHandle)) Files::ReadLine(kSettingsHandle, line);
+  return line;
+}
+
+void ReadSettingsSections() {
+  StartSegments(kSettingsHandle);
+  std::string segment = ReadToSectionHead();
+  while (!segment.empty()) {
+    if (UpperCase(segment) != "[TOP10FILES]") {
+      Global::Say("TORVANE.INI contains invalid record type: " + segment, Icon::Critical);
+      Files::Close(kSettingsHandle);
+      EndProgram();
+    }
+    segment = ReadRecentFilesSection();
+  }
+}
+
+// A name may hold what the record syntax reads as its own.
+std::string EscapeName(const std::string& name) {
+  std::string escaped;
+  for (const char character : name) {
+    if (character == ';') escaped += '~';
+    escaped += character;
+  }
+  if (escaped.ends_with('+')) escaped.insert(escaped.size() - 1, "~");
+  return escaped;
+}
+
+}  // namespace
+
+void LoadSettings() {
+  TheRecentFiles = {};
+  try {
+    Files::Open(kSettingsHandle, SettingsFileName(), Files::Mode::Input);
+    if (AcceptsHeader(ReadHeader())) {
+      ReadSettingsSections();
+    } else {
+      Global::Say("Failed to load TORVANE.INI due to invalid format or version.", Icon::Exclamation);
+    }
+  } catch (const RuntimeError&) {
+    // The list is a convenience: without the file the program starts with none.
+  }
+  StartSegments(0);
+  Files::Close(kSettingsHandle);
+}
+
+std::string ReadRecentFilesSection() {
+  Assignment assignment;
+  int record = 0;
+  TheRecentFiles.Count = 0;
+  for (ReadAssignment(assignment, record); !assignment.EndsSection(); ReadAssignment(assignment, record)) {
+    if (record > kRecentFiles) return {};
+    if (assignment.ComparedKey() != "NAME") {
+      Global::Say("FOLKLIST.INI file contains invalid field name for Top10Files: " + assignment.Key, Icon::Exclamation);
+      return {};
+    }
+    TheRecentFiles[record] = assignment.Value;
+    TheRecentFiles.Count = record;
+  }
+  return assignment.Segment;
+}
+
+void SaveSettings() {
+  const std::string name = SettingsFileName();
+  try {
+    Files::Open(kSettingsHandle, name, Files::Mode::Output);
+    Files::WriteLine(kSettingsHandle, "TORVANE V5.0 INI");
+    if (TheRecentFiles.Count > 0) Files::WriteLine(kSettingsHandle, "[TOP10FILES]");
+    for (int position = 1; position <= TheRecentFiles.Count; ++position) {
+      Files::WriteLine(kSettingsHandle,
+                       "*" + std::to_string(position) + "; NAME=" + EscapeName(TheRecentFiles[position]));
+    }
+    Files::Close(kSettingsHandle);
+  } catch (const RuntimeError& error) {
+    try {
+      Files::Close(kSettingsHandle);
+    } catch (const RuntimeError&) {
+      // The first failure is the one to report.
+    }
+    Global::Say("Failed to save optional info to " + name + Global::DueToError(error), Icon::Exclamation);
+  }
+}
+
+void RememberRecentFile(const std::string& file_name) {
+  RecentFileList& list = TheRecentFiles;
+  const std::string wanted = UpperCase(file_name);
+  int place = 0;
+  for (int position = 1; position <= list.Count; ++position) {
+    if (UpperCase(list[position]) == wanted) place = position;
+  }
+  if (place != 1) {
+    if (place == 0) {
+      list.Count = std::min(list.Count + 1, kRecentFiles);
+      place = list.Count;
+    }
+    for (int position = place; position > 1; --position) list[position] = list[position - 1];
+    list[1] = file_name;
+  }
+  SaveSettings();
+}

@@ -1,0 +1,43 @@
+// What the thing list and the link lists show: see thing_list.h.
+#include "mainwindow/thing_list.h"
+
+#include "document/names.h"
+#include "platform/locale.h"
+
+std::string ShownName(const ThingRecord& thing, bool noun_order) {
+  return noun_order ? TurnName(thing.NAME) : thing.NAME;
+}
+
+std::vector<ListEntry> ListThings(const ThingListView& view) {
+  const auto& things = TheDocument.Things;
+  std::vector<ListEntry> entries;
+  for (int record = 1; record <= things.Count(); ++record) {
+    const ThingRecord& thing = things[record];
+    if (view.CategoryMask != 0 && (thing.CATBITMAP & view.CategoryMask) == 0) continue;
+    std::string shown = ShownName(thing, view.NounOrder);
+    if (shown.empty()) continue;
+    if (!view.StartingLetter.empty() && UpperCase(shown.front()) != view.StartingLetter.front()) continue;
+    entries.push_back({std::move(shown), record});
+  }
+  return entries;
+}
+
+std::vector<ListEntry> ListLinks(bool noun_order) {
+  const auto& things = TheDocument.Things;
+  std::vector<ListEntry> entries;
+  entries.reserve(static_cast<std::size_t>(things.Count()) + 1);
+  entries.push_back({"", 0});
+  for (int record = 1; record <= things.Count(); ++record) {
+    entries.push_back({ShownName(things[record], noun_order), record});
+  }
+  return entries;
+}
+
+int FindEntryBeginning(const std::vector<ListEntry>& entries, const std::string& beginning) {
+  const std::string wanted = UpperCase(beginning);
+  for (std::size_t position = 0; position < entries.size(); ++position) {
+    const std::string_view start = std::string_view(entries[position].Text).substr(0, wanted.size());
+    if (UpperCase(start) == wanted) return static_cast<int>(position);
+  }
+  return -1;
+}

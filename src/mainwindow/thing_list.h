@@ -1,0 +1,30 @@
+// What the thing list and the link lists show: pure functions over the document's things.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "document/document.h"
+#include "platform/lists.h"
+
+// How the user looks at the things.
+struct ThingListView {
+  std::string StartingLetter;     // "A".."Z", or empty for all names
+  int SelectedCategory = 0;       // 1..32, or 0 for all categories
+  std::int32_t CategoryMask = 0;  // the bit of that category, or 0
+  bool NounOrder = false;         // names are shown turned around
+};
+
+// A thing's name as the view shows it.
+std::string ShownName(const ThingRecord& thing, bool noun_order);
+
+// The things that pass the view's filters, in document order; each entry's data is the record number.
+// Things without a name are left out.
+std::vector<ListEntry> ListThings(const ThingListView& view);
+
+// An empty entry with data 0 and then every thing, so that record i stands at position i.
+std::vector<ListEntry> ListLinks(bool noun_order);
+
+// The position of the first entry whose text begins with the given one without regard to case, or -1.
+int FindEntryBeginning(const std::vector<ListEntry>& entries, const std::string& beginning);

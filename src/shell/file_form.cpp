@@ -1,0 +1,108 @@
+// The file-name dialogs: see file_form.h.
+#include "shell/file_form.h"
+
+#include <vector>
+
+#include "document/file_handles.h"
+#include "document/text.h"
+#include "mainwindow/file_names.h"
+#include "mainwindow/settings.h"
+#include "platform/file_dialog.h"
+#include "platform/files.h"
+#include "resource.h"
+#include "shell/messages.h"
+
+namespace {
+
+std::string PatternTitle(const std::string& pattern) {
+  if (pattern == "*.FIL") return "Filer data files";
+  if (pattern == "*.PRN") return "Print files";
+  if (pattern == "*.JPG") return "Photos";
+  if (pattern == "*.exe") return "Programs";
+  return "Files";
+}
+
+// Says why a file cannot be opened; true when it can.
+bool CanBeOpened(const std::string& name) {
+  try {
+    Files::Open(kProbeHandle, name, Files::Mode::Input);
+    Files::Close(kProbeHandle);
+    return true;
+  } catch (const RuntimeError& error) {
+    Global::Say("Failed to open file " + name + Global::DueToError(error), Icon::Exclamation);
+    return false;
+  }
+}
+
+}  // namespace
+
+FileForm::FileForm(FileRequest& request)
+    : Form(IDD_FileForm),
+      NameBox(*this, IDC_NameBox),
+      BrowseButton(*this, IDC_BrowseButton),
+      OKButton(*this, IDC_OKButton),
+      CancelButton(*this, IDC_CancelButton),
+      request_(request),
+      offered_(request.Name) {
+  NameBox.Change = NameBox.Click = [this] { NameBox_Change(); };
+  BrowseButton.Click = [this] { BrowseButton_Click(); };
+  OKButton.Click = [this] { OKButton_Click(); };
+  CancelButton.Click = [this] { CancelButton_Click(); };
+  request_.Name.clear();
+}
+
+void FileForm::Form_Load() {
+  const bool reads = request_.Mode == FileRequest::Kind::Read;
+  SetCaption(reads ? "Larkspur Filer Open" : "Larkspur Filer Save");
+  std::vector<ListEntry> recent;
+  for (int position = 1; position <= TheRecentFiles.Count; ++position) {
+    if (!TheRecentFiles[position].empty()) recent.push_back({TheRecentFiles[position], position});
+  }
+  NameBox.Fill(recent);
+  NameBox.SetText(offered_);
+  request_.OverwriteConfirmed = false;
+  NameBox.SetFocus();
+  NameBox.SelectText(0, static_cast<int>(offered_.size()));
+}
+
+// An agreement to overwrite was given for the name that Browse brought, not for another one.
+void FileForm::NameBox_Change() { request_.OverwriteConfirmed = false; }
+
+void FileForm::BrowseButton_Click() {
+  FileRequest browsed = request_;
+  browsed.Name = Trim(NameBox.Text());
+  OpenForm(browsed).ShowModal();
+  if (browsed.Name.empty()) return;
+  NameBox.SetText(browsed.Name);
+  request_.OverwriteConfirmed = browsed.OverwriteConfirmed;
+  OKButton.SetFocus();
+}
+
+void FileForm::OKButton_Click() {
+  const std::string name = Global::FullFileName(request_.Folder, Trim(NameBox.Text()));
+  if (request_.Mode == FileRequest::Kind::Read && !name.empty() && !CanBeOpened(name)) {
+    NameBox.SetFocus();
+    return;
+  }
+  request_.Name = name;
+  Close();
+}
+
+void FileForm::CancelButton_Click() { Close(); }
+
+void OpenForm::ShowModal() {
+  FileChoice choice;
+  choice.ForWriting = request_.Mode == FileRequest::Kind::Write;
+  choice.Caption = choice.ForWriting ? "Larkspur Filer Save" : "Larkspur Filer Open";
+  choice.Pattern = request_.Pattern;
+  choice.PatternTitle = PatternTitle(request_.Pattern);
+  const std::string full = Global::FullFileName(request_.Folder, request_.Name);
+  choice.Folder = FolderOf(full).empty() ? request_.Folder : FolderOf(full);
+  choice.Name = full.substr(full.find_last_of("\\:") + 1);
+  request_.OverwriteConfirmed = false;
+  do {
+    request_.Name = ChooseFile(choice);
+    if (!choice.ForWriting || request_.Name.empty() || !Files::Exists(request_.Name)) return;
+    request_.OverwriteConfirmed = Global::Ask("File already exists.  Overwrite?", Buttons::YesNo);
+  } while (!request_.OverwriteConfirmed);
+}

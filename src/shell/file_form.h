@@ -1,0 +1,49 @@
+// The file-name dialogs: FileForm, a name box with the recent files and a Browse button, and OpenForm, the
+// system's own file dialog.
+#pragma once
+
+#include <string>
+
+#include "platform/controls.h"
+#include "platform/form.h"
+#include "platform/lists.h"
+
+// What a file-name dialog is asked, and what it answers.
+struct FileRequest {
+  enum class Kind { Read, Write };
+  Kind Mode = Kind::Read;           // choose an existing file, or a name to write
+  std::string Folder;               // where names without a folder belong; empty = current folder
+  std::string Pattern;              // "*.FIL"
+  std::string Name;                 // in: the name offered; out: the full name chosen, empty when cancelled
+  bool OverwriteConfirmed = false;  // out: the user has agreed to overwrite the chosen file
+};
+
+class FileForm : public Form {
+ public:
+  explicit FileForm(FileRequest& request);
+
+ private:
+  ComboBox NameBox;
+  Button BrowseButton;
+  Button OKButton;
+  Button CancelButton;
+
+  void Form_Load() override;
+  void NameBox_Change();
+  void BrowseButton_Click();
+  void OKButton_Click();
+  void CancelButton_Click();
+
+  FileRequest& request_;
+  std::string offered_;
+};
+
+// Lets the user browse for a file. In Write mode asks before a file that exists is chosen.
+class OpenForm {
+ public:
+  explicit OpenForm(FileRequest& request) : request_(request) {}
+  void ShowModal();
+
+ private:
+  FileRequest& request_;
+};

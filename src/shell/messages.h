@@ -1,0 +1,24 @@
+// Message boxes as the program shows them: captioned with its title.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/message.h"
+#include "platform/runtime_error.h"
+
+namespace Global {
+
+// The caption of every message box and input box.
+extern std::string ProgramTitle;
+
+// Shows a text with an OK button.
+void Say(std::string_view text, Icon icon = Icon::None);
+
+// Asks a question; true for Yes or OK.
+bool Ask(std::string_view question, Buttons buttons, Icon icon = Icon::None);
+
+// How a failure is quoted: " due to error # 53: File not found".
+std::string DueToError(const RuntimeError& error);
+
+}  // namespace Global

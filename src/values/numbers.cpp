@@ -1,0 +1,108 @@
+// Reading and writing numbers: see numbers.h.
+#include "values/numbers.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+
+#include "document/text.h"
+#include "platform/runtime_error.h"
+
+namespace {
+
+bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+
+// Where the number that starts at `text` ends; `leading` gets the power of ten of its first digit that
+// is not 0, by which a number too large is told from one too small.
+std::size_t NumberLength(std::string_view text, long long& leading) {
+  std::size_t at = 0;
+  bool point = false;
+  bool digits = false;
+  bool significant = false;
+  long long before_point = 0;
+  long long zeros_behind_point = 0;
+  for (; at < text.size(); ++at) {
+    if (text[at] == '.' && !point) {
+      point = true;
+    } else if (IsDigit(text[at])) {
+      digits = true;
+      significant = significant || text[at] != '0';
+      if (!point && significant) ++before_point;
+      if (point && !significant) ++zeros_behind_point;
+    } else {
+      break;
+    }
+  }
+  if (!digits) return 0;
+  leading = before_point > 0 ? before_point : -zeros_behind_point;
+  std::size_t exponent = at;
+  if (exponent < text.size() && (text[exponent] == 'e' || text[exponent] == 'E')) {
+    ++exponent;
+    const bool negative = exponent < text.size() && text[exponent] == '-';
+    if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
+    long long power = 0;
+    const std::size_t first = exponent;
+    for (; exponent < text.size() && IsDigit(text[exponent]); ++exponent) {
+      if (power < 1'000'000'000) power = power * 10 + (text[exponent] - '0');
+    }
+    if (exponent > first) {
+      at = exponent;
+      leading += negative ? -power : power;
+    }
+  }
+  return at;
+}
+
+}  // namespace
+
+double LeadingNumber(std::string_view text) {
+  text = TrimLeft(text);
+  bool negative = false;
+  if (!text.empty() && (text.front() == '+' || text.front() == '-')) {
+    negative = text.front() == '-';
+    text.remove_prefix(1);
+  }
+  long long leading = 0;
+  const std::size_t length = NumberLength(text, leading);
+  double value = 0;
+  if (length > 0) {
+    const auto result = std::from_chars(text.data(), text.data() + length, value);
+    if (result.ec == std::errc::result_out_of_range) {
+      if (leading > 0) throw RuntimeError(kOverflow);
+      value = 0;
+    }
+  }
+  return negative ? -value : value;
+}
+
+namespace {
+
+template <class Whole>
+Whole LeadingWhole(std::string_view text) {
+  try {
+    const double rounded = std::nearbyint(LeadingNumber(text));
+    if (rounded < std::numeric_limits<Whole>::min() || rounded > std::numeric_limits<Whole>::max()) return 0;
+    return static_cast<Whole>(rounded);
+  } catch (const RuntimeError&) {
+    return 0;
+  }
+}
+
+}  // namespace
+
+std::int16_t LeadingInt16(std::string_view text) { return LeadingWhole<std::int16_t>(text); }
+std::int32_t LeadingInt32(std::string_view text) { return LeadingWhole<std::int32_t>(text); }
+
+int LeadingRecordNumber(std::string_view text) {
+  try {
+    const double rounded = std::nearbyint(LeadingNumber(text));
+    if (rounded < 1) return 0;
+    return rounded > kLastRecord ? kPastLastRecord : static_cast<int>(rounded);
+  } catch (const RuntimeError&) {
+    // Too large in either direction: a number below 1 is no record number.
+    return TrimLeft(text).starts_with('-') ? 0 : kPastLastRecord;
+  }
+}
+
+std::string SignedText(int number) { return (number < 0 ? "" : " ") + std::to_string(number); }

@@ -1,0 +1,27 @@
+// A test that starts as the program does: an empty folder, no document, no recent files, and a person
+// ready to act.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/files.h"
+#include "support/user.h"
+
+class FreshTest : public ::testing::Test {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+
+  User user;
+};
+
+// The full name of a file of the test's folder.
+std::string InFolder(const std::string& name);
+
+// Lines as a file holds them, each ended by CR LF.
+std::string Lines(const std::vector<std::string>& lines);
+
+// The document in words, a line a record, for comparing; empty members are left out.
+std::string DescribeDocument();
