@@ -155,6 +155,7 @@ void MainForm::Form_Load() {
   Anchor(CatList, kEdgeTop | kEdgeRight | kEdgeBottom);
   Anchor(DefCatButton, kEdgeRight | kEdgeBottom);
 
+  ShowTabs();
   MakeNew();
   ShowNameOrder();
   TheStart = command_line_.empty() ? StartOptions{} : ParseCommandLine(command_line_);
@@ -169,6 +170,7 @@ void MainForm::Form_Load() {
 void MainForm::Form_Activate() {
   if (shown_before_ || dialog_open_) return;
   shown_before_ = true;
+  PersonCombo.SetFocus();
   bool show = true;
   if (!TheDocument.DocumentOpen && TheRecentFiles.Count > 0) {
     OpenItem_Click();

@@ -58,6 +58,7 @@ class MainForm : public Form {
   // main_form_list.cpp: the View menu, the letter tabs, the thing list
   void FillThingList(int selected);
   void FillLinkLists();
+  void ShowTabs();
   void SetStartingLetter(const std::string& letter);
   void ClearStartingLetter();
   void ShowCategoryFilter();

@@ -51,6 +51,11 @@ void ShowTab(Label& tab, bool chosen) {
 
 }  // namespace
 
+void MainForm::ShowTabs() {
+  for (const auto& tab : LetterLabel) ShowTab(*tab, false);
+  ShowTab(TabOf(view_.StartingLetter), true);
+}
+
 void MainForm::SetStartingLetter(const std::string& letter) {
   if (letter.size() != 1) EndProgram();
   StoreEdits();
