@@ -1,0 +1,207 @@
+// What all controls share on Windows: binding to the template's window, text, state, focus.
+#include "platform/control.h"
+
+#include <utility>
+
+#include "platform/win32/internals.h"
+#include "platform/win32/silence.h"
+
+namespace {
+
+constexpr int kNoLimit = 0;
+constexpr int kVisibleEntries = 16;
+constexpr WPARAM kControlA = 1;
+
+}  // namespace
+
+std::string TextOfWindow(HWND window) {
+  std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)), '\0');
+  // The length told may be more than there is.
+  const int length = GetWindowTextA(window, text.data(), static_cast<int>(text.size()) + 1);
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+Control::Control(Form& owner, int id, Kind kind) : peer_(std::make_unique<Peer>()) {
+  Form::Peer& form = owner.PeerOf();
+  Peer& peer = *peer_;
+  peer.Self = this;
+  peer.Owner = &owner;
+  peer.Id = id;
+  peer.What = kind;
+  peer.Window = GetDlgItem(form.Window, id);
+  const std::string name = "Form " + std::to_string(form.Template) + ", control " + std::to_string(id);
+  if (peer.Window == nullptr) Fault(name + ": the template has none");
+  if (!form.Controls.emplace(id, this).second) Fault(name + ": bound twice");
+  // Lists tell all there is to know; a detour for each of their messages would slow down filling them.
+  if (!peer.HoldsEntries()) {
+    SetWindowSubclass(peer.Window, &Peer::Procedure, 0, reinterpret_cast<DWORD_PTR>(&peer));
+  }
+  if (kind == Kind::Label || kind == Kind::Picture) peer.ChangeStyle(SS_NOTIFY, 0);
+  if (kind == Kind::TextBox) peer.Send(EM_SETLIMITTEXT, kNoLimit);
+  if (kind == Kind::ComboBox) peer.Send(CB_LIMITTEXT, kNoLimit);
+  if (peer.DropsDown()) peer.Send(CB_SETMINVISIBLE, kVisibleEntries);
+  if (kind == Kind::CheckList) {
+    LVCOLUMNA column{};
+    peer.Send(LVM_INSERTCOLUMNA, 0, reinterpret_cast<LPARAM>(&column));
+    const DWORD style = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
+    peer.Send(LVM_SETEXTENDEDLISTVIEWSTYLE, style, style);
+    peer.After(WM_SIZE);
+  }
+}
+
+Control::~Control() {
+  Form::Peer& form = peer_->Owner->PeerOf();
+  RemoveWindowSubclass(peer_->Window, &Peer::Procedure, 0);
+  form.Controls.erase(peer_->Id);
+  if (form.Focus == this) form.Focus = nullptr;
+}
+
+int Control::Id() const { return peer_->Id; }
+Form& Control::Owner() const { return *peer_->Owner; }
+
+std::string Control::Text() const {
+  if (peer_->What == Kind::DropDownList) {
+    return peer_->Selected < 0 ? "" : static_cast<const DropDownList*>(this)->EntryText(peer_->Selected);
+  }
+  return TextOfWindow(peer_->Window);
+}
+
+void Control::SetText(std::string_view text) {
+  Peer& peer = *peer_;
+  if (peer.What == Kind::DropDownList) {
+    DropDownList& list = static_cast<DropDownList&>(*this);
+    int position = list.Count() - 1;
+    for (int each = position; each >= 0; --each) {
+      if (list.EntryText(each) == text) position = each;
+    }
+    list.Select(position >= 0 && list.EntryText(position) == text ? position : -1);
+    return;
+  }
+  if (Text() == text) return;
+  {
+    const Silence silence(peer);
+    // What the program shows is data: an ampersand in it is no access key.
+    if (peer.What == Kind::Label) peer.ChangeStyle(SS_NOPREFIX, 0);
+    SetWindowTextA(peer.Window, std::string(text).c_str());
+    peer.Told = Text();
+  }
+  if (peer.What == Kind::TextBox) Raise(static_cast<TextBox*>(this)->Change);
+  if (peer.What == Kind::ComboBox) {
+    SendMessageA(peer.DropList(), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    peer.Selected = -1;
+    Raise(static_cast<ComboBox*>(this)->Change);
+  }
+}
+
+bool Control::Enabled() const { return IsWindowEnabled(peer_->Window) != FALSE; }
+
+void Control::SetEnabled(bool enabled) {
+  if (enabled == Enabled()) return;
+  const bool had_focus = !enabled && GetFocus() == peer_->Window;
+  EnableWindow(peer_->Window, enabled ? TRUE : FALSE);
+  // Without the focus anywhere, the keyboard would be dead.
+  if (had_focus) SendMessageA(peer_->Owner->PeerOf().Window, WM_NEXTDLGCTL, 0, FALSE);
+}
+
+bool Control::Visible() const { return (GetWindowLongA(peer_->Window, GWL_STYLE) & WS_VISIBLE) != 0; }
+
+void Control::SetVisible(bool visible) {
+  if (visible == Visible()) return;
+  if (!visible && HasFocus()) SendMessageA(peer_->Owner->PeerOf().Window, WM_NEXTDLGCTL, 0, FALSE);
+  ShowWindow(peer_->Window, visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void Control::SetFocus() {
+  if (!peer_->TakesFocus()) return;
+  Form::Peer& form = peer_->Owner->PeerOf();
+  if (form.Shown && GetActiveWindow() == form.Window) {
+    SendMessageA(form.Window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(peer_->Window), TRUE);
+    form.RethrowCarried();
+  } else if (form.Shown) {
+    form.FocusMoved(this);  // gets it when the form becomes the active one
+  } else {
+    form.Focus = this;
+  }
+}
+
+bool Control::HasFocus() const {
+  const Form::Peer& form = peer_->Owner->PeerOf();
+  return TopmostForm() == peer_->Owner && form.Focus == this;
+}
+
+bool Control::Peer::TakesInput() const { return Self->Visible() && Self->Enabled(); }
+
+bool Control::Peer::TakesFocus() const {
+  return What != Kind::Label && What != Kind::Picture && What != Kind::Frame && TakesInput();
+}
+
+bool Control::Peer::MultiLine() const {
+  return What == Kind::TextBox && (GetWindowLongA(Window, GWL_STYLE) & ES_MULTILINE) != 0;
+}
+
+void Control::Peer::ChangeStyle(DWORD add, DWORD remove) const {
+  const LONG_PTR before = GetWindowLongPtrA(Window, GWL_STYLE);
+  const LONG_PTR after = (before & ~static_cast<LONG_PTR>(remove)) | static_cast<LONG_PTR>(add);
+  if (after != before) SetWindowLongPtrA(Window, GWL_STYLE, after);
+}
+
+LRESULT CALLBACK Control::Peer::Procedure(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR /*id*/,
+                                          DWORD_PTR data) {
+  Peer& peer = *reinterpret_cast<Peer*>(data);
+  LRESULT result = 0;
+  if (peer.Intercept(message, first, second, result)) return result;
+  result = DefSubclassProc(window, message, first, second);
+  Form::Peer& form = peer.Owner->PeerOf();
+  if (message == WM_GETDLGCODE && peer.MultiLine()) {
+    // Tab must not mark a whole note, which the next key would then delete.
+    result &= ~static_cast<LRESULT>(DLGC_HASSETSEL);
+    const MSG* key = reinterpret_cast<const MSG*>(second);
+    const bool leaves = key != nullptr && (key->wParam == VK_TAB || key->wParam == VK_ESCAPE);
+    if (leaves && key->message != WM_CHAR) result &= ~static_cast<LRESULT>(DLGC_WANTALLKEYS | DLGC_WANTTAB);
+  } else if (message == WM_SETFOCUS) {
+    form.Guard([&] { form.FocusMoved(peer.Self); });
+  } else {
+    peer.After(message);
+  }
+  return result;
+}
+
+bool Control::Peer::Intercept(UINT message, WPARAM first, LPARAM /*second*/, LRESULT& result) {
+  if (message == WM_PAINT) return Paint();
+  if (message == WM_ERASEBKGND && What == Kind::Picture) {
+    result = TRUE;
+    return true;
+  }
+  if (message == WM_CHAR && first == kControlA && What == Kind::TextBox) {
+    Send(EM_SETSEL, 0, -1);
+    return true;
+  }
+  return false;
+}
+
+void Control::Peer::After(UINT message) {
+  if (What == Kind::CheckList && message == WM_SIZE) {
+    RECT inside{};
+    GetClientRect(Window, &inside);
+    Send(LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(inside.right, 0));
+  } else if (What == Kind::Picture && message == WM_SIZE) {
+    InvalidateRect(Window, nullptr, FALSE);
+  } else if (What == Kind::Button && Back == ::BackColor::Marked) {
+    // The native button draws these itself, not only when it is asked to paint.
+    switch (message) {
+      case WM_KILLFOCUS:
+      case WM_ENABLE:
+      case WM_SETTEXT:
+      case WM_LBUTTONDOWN:
+      case WM_LBUTTONUP:
+      case WM_UPDATEUISTATE:
+      case BM_SETSTATE:
+      case BM_SETSTYLE:
+        InvalidateRect(Window, nullptr, FALSE);
+        break;
+      default:
+        break;
+    }
+  }
+}

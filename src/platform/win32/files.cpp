@@ -1,0 +1,226 @@
+// Text files on the disk: numbered handles over the system's own, reading and writing in large blocks.
+#include "platform/files.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <optional>
+
+#include "platform/line_reader.h"
+#include "platform/runtime_error.h"
+
+namespace {
+
+constexpr int kLastHandle = 255;
+constexpr std::size_t kPendingSize = 65536;
+constexpr ULONGLONG kRenamePatience = 2000;  // milliseconds
+constexpr DWORD kRenamePause = 50;
+
+[[noreturn]] void Fail(DWORD code) { throw RuntimeError(ErrorNumberOfSystemCode(code)); }
+
+struct HandleCloser {
+  using pointer = HANDLE;
+  void operator()(HANDLE handle) const { CloseHandle(handle); }
+};
+using SystemFile = std::unique_ptr<HANDLE, HandleCloser>;
+
+struct Stream {
+  Files::Mode Mode = Files::Mode::Input;
+  SystemFile File;
+  std::unique_ptr<LineReader> Reader;
+  std::string Pending;           // written, but not yet handed to the system
+  std::optional<DWORD> Refusal;  // the code that bytes were refused with: they are lost
+};
+
+std::array<std::unique_ptr<Stream>, kLastHandle + 1> open_files;
+
+bool InRange(int handle) { return handle >= 1 && handle <= kLastHandle; }
+
+std::unique_ptr<Stream>& Slot(int handle) {
+  if (!InRange(handle)) throw RuntimeError(kBadFileNumber);
+  return open_files[static_cast<std::size_t>(handle)];
+}
+
+Stream& Opened(int handle, Files::Mode mode) {
+  const auto& file = Slot(handle);
+  if (!file || file->Mode != mode) throw RuntimeError(kBadFileNumber);
+  return *file;
+}
+
+// Turns away what the system would take for something else than a file of that name: an empty name, one
+// cut short by a NUL, and the devices (a document saved to "NUL" would be lost without a word).
+void CheckName(const std::string& name) {
+  if (name.find_first_not_of(' ') == std::string::npos) throw RuntimeError(kPathFileAccess);
+  if (name.find('\0') != std::string::npos) throw RuntimeError(kBadFileNumber);
+  std::string full_name(GetFullPathNameA(name.c_str(), 0, nullptr, nullptr), '\0');
+  if (!full_name.empty())
+    GetFullPathNameA(name.c_str(), static_cast<DWORD>(full_name.size()), full_name.data(), nullptr);
+  if (full_name.starts_with("\\\\.\\") || full_name.starts_with("\\\\?\\")) throw RuntimeError(kBadFileNumber);
+}
+
+bool HasAttribute(const std::string& name, DWORD attribute) {
+  const DWORD attributes = GetFileAttributesA(name.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
+}
+
+SystemFile OpenSystemFile(const std::string& name, Files::Mode mode) {
+  DWORD access = GENERIC_WRITE;
+  DWORD sharing = FILE_SHARE_READ;
+  DWORD creation = OPEN_EXISTING;
+  DWORD flags = FILE_ATTRIBUTE_NORMAL;
+  if (mode == Files::Mode::Input) {
+    access = GENERIC_READ;
+    sharing = FILE_SHARE_READ | FILE_SHARE_WRITE;
+    flags |= FILE_FLAG_SEQUENTIAL_SCAN;
+  } else if (mode == Files::Mode::Output) {
+    creation = CREATE_ALWAYS;
+  }
+  // Where the files lie on another kind of system, its administrator is let through; the flag counts all the same.
+  if (mode != Files::Mode::Input && HasAttribute(name, FILE_ATTRIBUTE_READONLY)) Fail(ERROR_ACCESS_DENIED);
+  HANDLE file = CreateFileA(name.c_str(), access, sharing, nullptr, creation, flags, nullptr);
+  if (file == INVALID_HANDLE_VALUE) Fail(GetLastError());
+  return SystemFile(file);
+}
+
+LineReader::Source ReadFrom(HANDLE file) {
+  return [file](char* block, std::size_t size) {
+    DWORD count = 0;
+    if (!ReadFile(file, block, static_cast<DWORD>(size), &count, nullptr)) Fail(GetLastError());
+    return static_cast<std::size_t>(count);
+  };
+}
+
+// Hands bytes to the system. What it once refused is lost, so that from then on every call on the file
+// fails alike, up to its Close.
+void Send(Stream& file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    DWORD count = 0;
+    const DWORD size = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30));
+    SetLastError(ERROR_SUCCESS);
+    if (!WriteFile(file.File.get(), bytes.data(), size, &count, nullptr) || count == 0) {
+      const DWORD code = GetLastError();
+      file.Refusal = code == ERROR_SUCCESS ? ERROR_DISK_FULL : code;
+      Fail(*file.Refusal);
+    }
+    bytes.remove_prefix(count);
+  }
+}
+
+void SendPending(Stream& file) {
+  if (file.Refusal) Fail(*file.Refusal);
+  Send(file, file.Pending);
+  file.Pending.clear();
+}
+
+void Append(Stream& file, std::string_view bytes) {
+  if (file.Refusal) Fail(*file.Refusal);
+  if (file.Pending.size() + bytes.size() > kPendingSize) SendPending(file);
+  if (bytes.size() > kPendingSize) {
+    Send(file, bytes);
+  } else {
+    file.Pending.append(bytes);
+  }
+}
+
+// Whether another try at renaming may succeed: virus scanners and indexers hold on to fresh files for a
+// moment. A file that is read-only, or away, stays so.
+bool MayPass(DWORD code, const std::string& name) {
+  if (code == ERROR_SHARING_VIOLATION || code == ERROR_LOCK_VIOLATION) return true;
+  return code == ERROR_ACCESS_DENIED && !HasAttribute(name, FILE_ATTRIBUTE_READONLY);
+}
+
+}  // namespace
+
+namespace Files {
+
+int FreeHandle() {
+  for (int handle = 1; handle <= kLastHandle; ++handle) {
+    if (!IsOpen(handle)) return handle;
+  }
+  throw RuntimeError(kBadFileNumber);
+}
+
+void Open(int handle, const std::string& name, Mode mode) {
+  auto& slot = Slot(handle);
+  if (slot) throw RuntimeError(kBadFileNumber);
+  CheckName(name);
+  auto file = std::make_unique<Stream>();
+  file->Mode = mode;
+  file->File = OpenSystemFile(name, mode);
+  if (mode == Mode::Input) file->Reader = std::make_unique<LineReader>(ReadFrom(file->File.get()));
+  if (mode == Mode::Output) file->Pending.reserve(kPendingSize);
+  slot = std::move(file);
+}
+
+bool IsOpen(int handle) { return InRange(handle) && open_files[static_cast<std::size_t>(handle)] != nullptr; }
+
+bool AtEnd(int handle) { return Opened(handle, Mode::Input).Reader->AtEnd(); }
+
+void ReadLine(int handle, std::string& line) {
+  if (!Opened(handle, Mode::Input).Reader->Read(line)) throw RuntimeError(kInputPastEnd);
+}
+
+void Write(int handle, std::string_view bytes) { Append(Opened(handle, Mode::Output), bytes); }
+
+void WriteLine(int handle, std::string_view text) {
+  Stream& file = Opened(handle, Mode::Output);
+  Append(file, text);
+  Append(file, "\r\n");
+}
+
+void Flush(int handle) {
+  Stream& file = Opened(handle, Mode::Output);
+  SendPending(file);
+  if (!FlushFileBuffers(file.File.get())) {
+    file.Refusal = GetLastError();
+    Fail(*file.Refusal);
+  }
+}
+
+void Close(int handle) {
+  if (!IsOpen(handle)) return;
+  const auto file = std::move(open_files[static_cast<std::size_t>(handle)]);
+  if (file->Mode == Mode::Output) SendPending(*file);
+  if (!CloseHandle(file->File.release())) Fail(GetLastError());
+}
+
+void CloseAll() {
+  for (int handle = 1; handle <= kLastHandle; ++handle) {
+    try {
+      Close(handle);
+    } catch (const RuntimeError&) {
+      // The program is ending: nobody is left to tell.
+    }
+  }
+}
+
+void Erase(const std::string& name) {
+  CheckName(name);
+  if (!DeleteFileA(name.c_str())) Fail(GetLastError());
+}
+
+void Rename(const std::string& from, const std::string& to) {
+  CheckName(from);
+  CheckName(to);
+  if (HasAttribute(from, FILE_ATTRIBUTE_DIRECTORY)) throw RuntimeError(kPathFileAccess);
+  const ULONGLONG start = GetTickCount64();
+  while (!MoveFileA(from.c_str(), to.c_str())) {
+    const DWORD code = GetLastError();
+    if (!MayPass(code, from) || GetTickCount64() - start >= kRenamePatience) Fail(code);
+    Sleep(kRenamePause);
+  }
+}
+
+bool Exists(const std::string& name) {
+  try {
+    CheckName(name);
+  } catch (const RuntimeError&) {
+    return false;
+  }
+  const DWORD attributes = GetFileAttributesA(name.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+}  // namespace Files

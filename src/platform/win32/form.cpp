@@ -1,0 +1,215 @@
+// The life of a form: made from its template, shown, run in its message loop, and gone.
+#include "platform/form.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+#include "platform/win32/internals.h"
+
+std::vector<Form*>& OpenForms() {
+  static std::vector<Form*> forms;
+  return forms;
+}
+
+Form* TopmostForm() { return OpenForms().empty() ? nullptr : OpenForms().back(); }
+
+void Dispatch(MSG& message) {
+  if (const Form* form = TopmostForm()) {
+    const Form::Peer& peer = form->PeerOf();
+    const bool takes_keys = GetActiveWindow() == peer.Window && IsWindowEnabled(peer.Window);
+    if (takes_keys && peer.Accelerators != nullptr &&
+        TranslateAcceleratorA(peer.Window, peer.Accelerators, &message) != 0) {
+      return;
+    }
+    if (IsDialogMessageA(peer.Window, &message)) return;
+  }
+  TranslateMessage(&message);
+  DispatchMessageA(&message);
+}
+
+void RethrowCarried() {
+  const std::vector<Form*> forms = OpenForms();
+  for (auto form = forms.rbegin(); form != forms.rend(); ++form) (*form)->PeerOf().RethrowCarried();
+}
+
+void ReactivateTopmost() {
+  Form* form = TopmostForm();
+  if (form == nullptr) return;
+  form->PeerOf().GiveFocusBack();
+  form->PeerOf().Guard([form] { form->PeerOf().Activate(); });
+}
+
+void Fault(const std::string& what) {
+  std::fprintf(stderr, "%s\n", what.c_str());
+  OutputDebugStringA((what + "\r\n").c_str());
+  std::abort();
+}
+
+Form::Form(int template_id) : peer_(std::make_unique<Peer>()) {
+  peer_->Self = this;
+  peer_->Make(template_id);
+}
+
+Form::~Form() {
+  peer_->Gone();
+  SetWindowLongPtrA(peer_->Window, DWLP_USER, 0);
+  DestroyWindow(peer_->Window);
+  if (peer_->BoldFont != nullptr) DeleteObject(peer_->BoldFont);
+}
+
+void Form::ShowModal() {
+  Form* const owner = TopmostForm();
+  peer_->Modal = true;
+  std::exception_ptr failure;
+  try {
+    peer_->Appear(owner);
+    peer_->Loop();
+  } catch (...) {
+    failure = std::current_exception();
+  }
+  peer_->Gone();
+  if (owner != nullptr && owner == TopmostForm()) ReactivateTopmost();
+  if (failure) std::rethrow_exception(failure);
+}
+
+void Form::PlaceBelow(const Control& control) { peer_->Below = &control; }
+
+void Form::Show() {
+  peer_->Modal = false;
+  peer_->Appear(nullptr);
+}
+
+void Form::RunUntilClosed() { peer_->Loop(); }
+
+void Form::Close() { peer_->Unload(UnloadMode::Code); }
+bool Form::Closed() const { return peer_->Closed; }
+
+std::string Form::Caption() const { return TextOfWindow(peer_->Window); }
+void Form::SetCaption(std::string_view caption) { SetWindowTextA(peer_->Window, std::string(caption).c_str()); }
+
+void Form::Anchor(Control& control, unsigned edges) { peer_->Sizes.Anchor(control.PeerOf().Window, edges); }
+
+Control* Form::Peer::Find(int id) const {
+  const auto found = Controls.find(id);
+  return found == Controls.end() ? nullptr : found->second;
+}
+
+// Runs Form_Load and shows the form; the one below is disabled first, so that it never looks alive.
+void Form::Peer::Appear(Form* owner) {
+  Closed = false;
+  ToActivate = false;
+  Self->Form_Load();
+  if (Closed) return;
+  HWND owner_window = owner == nullptr ? nullptr : owner->PeerOf().Window;
+  Place(owner_window);
+  if (Modal) {
+    SetWindowLongPtrA(Window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner_window));
+    if (owner != nullptr && IsWindowEnabled(owner_window)) {
+      Disabled = owner;
+      EnableWindow(owner_window, FALSE);
+    }
+  }
+  OpenForms().push_back(Self);
+  Shown = true;
+  Appearing = true;
+  ShowWindow(Window, Modal ? SW_SHOW : SW_SHOWDEFAULT);
+  if (!IsWindowVisible(Window)) ShowWindow(Window, SW_SHOW);
+  SetActiveWindow(Window);
+  if (!Modal) SetForegroundWindow(Window);
+  GiveFirstFocus();
+  Appearing = false;
+  UpdateWindow(Window);
+  if (Focus != nullptr) Raise(Focus->GotFocus);
+  Activate();
+}
+
+// The control that Form_Load chose, or the first one.
+void Form::Peer::GiveFirstFocus() {
+  HWND first = Focus != nullptr && Focus->PeerOf().TakesFocus() ? Focus->PeerOf().Window
+                                                                : GetNextDlgTabItem(Window, nullptr, FALSE);
+  if (first == nullptr) return;
+  SendMessageA(Window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+  Focus = Find(GetDlgCtrlID(first));
+}
+
+void Form::Peer::Loop() {
+  if (Closed) return;
+  ++Runs;
+  struct Scope {
+    bool& Flag;
+    bool Before;
+    ~Scope() { Flag = Before; }
+  } scope{Running, std::exchange(Running, true)};
+  while (!Closed) {
+    RethrowCarried();
+    MSG message{};
+    if (GetMessageA(&message, nullptr, 0, 0) <= 0) {
+      // The program is to end: the loops below must see it too.
+      if (Modal) PostQuitMessage(static_cast<int>(message.wParam));
+      Gone();
+      return;
+    }
+    Dispatch(message);
+  }
+  RethrowCarried();
+}
+
+void Form::Peer::Unload(UnloadMode mode) {
+  if (Closed) return;
+  bool cancel = false;
+  Self->Form_QueryUnload(cancel, mode);
+  if (cancel || Closed) return;
+  Self->Form_Unload();
+  if (Modal) {
+    Closed = true;  // leaves the screen when ShowModal returns
+  } else {
+    Gone();
+  }
+  PostMessageA(Window, WM_NULL, 0, 0);  // wakes the message loop
+}
+
+void Form::Peer::Gone() {
+  Closed = true;
+  std::vector<Form*>& open = OpenForms();
+  open.erase(std::remove(open.begin(), open.end(), Self), open.end());
+  // Before hiding: otherwise the system would look for another program's window to activate.
+  if (Form* below = std::exchange(Disabled, nullptr)) {
+    EnableWindow(below->PeerOf().Window, TRUE);
+    if (GetActiveWindow() == Window) SetActiveWindow(below->PeerOf().Window);
+  }
+  if (std::exchange(Shown, false)) ShowWindow(Window, SW_HIDE);
+  // The form may outlive its owner, with which Windows would destroy it.
+  if (Modal) SetWindowLongPtrA(Window, GWLP_HWNDPARENT, 0);
+}
+
+void Form::Peer::Activate() {
+  if (!Shown || Closed || !std::exchange(ToActivate, false)) return;
+  if (IsWindowEnabled(Window)) Self->Form_Activate();
+}
+
+void Form::Peer::GiveFocusBack() const {
+  if (GetActiveWindow() != Window || Focus == nullptr || !Focus->PeerOf().TakesFocus()) return;
+  const HWND now = GetFocus();
+  const HWND due = Focus->PeerOf().Window;
+  if (now != due && !IsChild(due, now)) ::SetFocus(due);
+}
+
+// Told when another control gets the focus, so that boxes and forms in between do not count as leaving.
+void Form::Peer::FocusMoved(Control* control) {
+  if (!Shown || Appearing || control == Focus) return;
+  Control* const left = std::exchange(Focus, control);
+  if (left != nullptr) Raise(left->LostFocus);
+  if (control != nullptr && Focus == control) Raise(control->GotFocus);
+}
+
+// The first failure counts; what follows from it is dropped.
+void Form::Peer::Carry(std::exception_ptr failure) {
+  if (!Carried) Carried = std::move(failure);
+  PostMessageA(Window, WM_NULL, 0, 0);  // wakes the message loop
+}
+
+void Form::Peer::RethrowCarried() {
+  if (Carried) std::rethrow_exception(std::exchange(Carried, nullptr));
+}

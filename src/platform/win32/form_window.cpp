@@ -1,0 +1,229 @@
+// A form's window: made from the template with menu, accelerators and fonts, placed, and its messages.
+#include <utility>
+
+#include "platform/win32/internals.h"
+#include "resource.h"
+
+namespace {
+
+constexpr UINT kActivated = WM_APP;      // Form_Activate is due
+constexpr UINT kScaled = WM_APP + 1;     // the system is done with scaling the form
+constexpr UINT kDroppedUp = WM_APP + 2;  // a drop-down's list was closed; its id
+
+void InitControlsOnce() {
+  static const bool kDone = [] {
+    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
+    return InitCommonControlsEx(&classes) != FALSE;
+  }();
+  (void)kDone;
+}
+
+void GiveIcon(HWND window, int size, WPARAM which) {
+  HANDLE icon = LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_Program), IMAGE_ICON, GetSystemMetrics(size),
+                           GetSystemMetrics(size), LR_SHARED);
+  if (icon != nullptr) SendMessageA(window, WM_SETICON, which, reinterpret_cast<LPARAM>(icon));
+}
+
+RECT WorkAreaOf(HWND window, DWORD otherwise) {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoA(MonitorFromWindow(window, otherwise), &monitor);
+  return monitor.rcWork;
+}
+
+// Moves the window there, but keeps it on the work area; the upper left corner counts most.
+void MoveOnto(const RECT& area, HWND window, LONG left, LONG top) {
+  RECT rect{};
+  GetWindowRect(window, &rect);
+  if (left + (rect.right - rect.left) > area.right) left = area.right - (rect.right - rect.left);
+  if (top + (rect.bottom - rect.top) > area.bottom) top = area.bottom - (rect.bottom - rect.top);
+  if (left < area.left) left = area.left;
+  if (top < area.top) top = area.top;
+  SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace
+
+void Form::Peer::Make(int template_id) {
+  InitControlsOnce();
+  Template = template_id;
+  const HINSTANCE program = GetModuleHandleA(nullptr);
+  const Form* below = TopmostForm();
+  Window =
+      CreateDialogParamA(program, MAKEINTRESOURCEA(template_id), below == nullptr ? nullptr : below->PeerOf().Window,
+                         &Procedure, reinterpret_cast<LPARAM>(this));
+  if (Window == nullptr) Fault("There is no dialog template " + std::to_string(template_id));
+  Accelerators = LoadAcceleratorsA(program, MAKEINTRESOURCEA(template_id));
+  AddMenu();
+  if ((GetWindowLongA(Window, GWL_STYLE) & DS_MODALFRAME) == 0) {
+    GiveIcon(Window, SM_CXICON, ICON_BIG);
+    GiveIcon(Window, SM_CXSMICON, ICON_SMALL);
+  }
+  Sizes.Begin(Window);
+}
+
+// The menu of the template's number, where the template itself names none.
+void Form::Peer::AddMenu() {
+  if (GetMenu(Window) != nullptr) return;
+  HMENU menu = LoadMenuA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(Template));
+  if (menu == nullptr) return;
+  RECT before{}, after{}, whole{};
+  GetClientRect(Window, &before);
+  SetMenu(Window, menu);
+  GetClientRect(Window, &after);
+  GetWindowRect(Window, &whole);
+  SetWindowPos(Window, nullptr, 0, 0, whole.right - whole.left, whole.bottom - whole.top + before.bottom - after.bottom,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form::Peer::Place(HWND owner) const {
+  // Twice, since the form changes its size on the way to a screen of another resolution.
+  for (int pass = 0; pass < 2; ++pass) {
+    RECT own{};
+    GetWindowRect(Window, &own);
+    if (Below != nullptr) {
+      RECT above{};
+      GetWindowRect(Below->PeerOf().Window, &above);
+      MoveOnto(WorkAreaOf(Below->PeerOf().Window, MONITOR_DEFAULTTONEAREST), Window, above.left, above.bottom);
+      continue;
+    }
+    const RECT area = WorkAreaOf(owner == nullptr ? Window : owner, MONITOR_DEFAULTTONEAREST);
+    RECT around = area;
+    if (owner != nullptr && !IsIconic(owner)) GetWindowRect(owner, &around);
+    MoveOnto(area, Window, (around.left + around.right - (own.right - own.left)) / 2,
+             (around.top + around.bottom - (own.bottom - own.top)) / 2);
+  }
+}
+
+HFONT Form::Peer::Bold() {
+  if (BoldFont == nullptr) {
+    LOGFONTA font{};
+    GetObjectA(reinterpret_cast<HFONT>(SendMessageA(Window, WM_GETFONT, 0, 0)), sizeof font, &font);
+    font.lfWeight = FW_BOLD;
+    BoldFont = CreateFontIndirectA(&font);
+  }
+  return BoldFont;
+}
+
+// After scaling: the system gave every control the new plain font.
+void Form::Peer::RemakeFonts() {
+  HFONT old = std::exchange(BoldFont, nullptr);
+  for (const auto& [id, control] : Controls) {
+    if (control->PeerOf().Bold) control->PeerOf().Send(WM_SETFONT, reinterpret_cast<WPARAM>(Bold()), TRUE);
+  }
+  if (old != nullptr) DeleteObject(old);
+}
+
+INT_PTR CALLBACK Form::Peer::Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message == WM_INITDIALOG) {
+    SetWindowLongPtrA(window, DWLP_USER, second);
+    return FALSE;
+  }
+  Peer* peer = reinterpret_cast<Peer*>(GetWindowLongPtrA(window, DWLP_USER));
+  if (peer == nullptr || peer->Window == nullptr) return FALSE;
+  bool handled = false;
+  LRESULT result = 0;
+  peer->Guard([&] { handled = peer->Handle(message, first, second, result); });
+  if (handled) SetWindowLongPtrA(window, DWLP_MSGRESULT, result);
+  return handled ? TRUE : FALSE;
+}
+
+bool Form::Peer::Handle(UINT message, WPARAM first, LPARAM second, LRESULT& result) {
+  switch (message) {
+    case WM_COMMAND:
+      Command(LOWORD(first), HIWORD(first));
+      return true;
+    case WM_NOTIFY: {
+      const NMHDR& header = *reinterpret_cast<const NMHDR*>(second);
+      Control* control = Find(static_cast<int>(header.idFrom));
+      if (control != nullptr && control->PeerOf().Window == header.hwndFrom) control->PeerOf().Notified(header);
+      return false;
+    }
+    case WM_ACTIVATE:
+      if (LOWORD(first) != WA_INACTIVE) {
+        ToActivate = true;
+        PostMessageA(Window, kActivated, 0, 0);
+      }
+      return false;
+    case kActivated:
+      if (!Appearing) Activate();
+      return true;
+    case kDroppedUp:
+      if (Control* control = Find(static_cast<int>(first))) control->PeerOf().DroppedUp();
+      return true;
+    case WM_CLOSE:
+      CloseBox();
+      return true;
+    case WM_QUERYENDSESSION:
+      result = FALSE;  // stays when a handler throws
+      result = MayShutDown() ? TRUE : FALSE;
+      return true;
+    case WM_SIZE:
+      Sizes.Arrange();
+      return false;
+    case WM_GETMINMAXINFO:
+      Sizes.Limit(*reinterpret_cast<MINMAXINFO*>(second));
+      return false;
+    case WM_DPICHANGED:
+      Sizes.BeginScaling(HIWORD(first));
+      PostMessageA(Window, kScaled, 0, 0);
+      return false;  // the dialog manager scales
+    case kScaled:
+      Sizes.EndScaling();
+      RemakeFonts();
+      return true;
+    default:
+      return false;
+  }
+}
+
+// From a control, a menu entry, an accelerator, or Enter and Esc.
+void Form::Peer::Command(int id, int code) {
+  if (Control* control = Find(id)) {
+    control->PeerOf().Commanded(code);
+    if (code == CBN_CLOSEUP && control->PeerOf().DropsDown()) {
+      PostMessageA(Window, kDroppedUp, static_cast<WPARAM>(id), 0);
+    }
+  } else if (id == IDOK) {
+    Raise(Self->EnterKey);
+  } else if (id == IDCANCEL) {
+    Raise(Self->EscapeKey);
+  } else if (Self->MenuEnabled(id)) {
+    const std::function<void(int)> menu_click = Self->MenuClick;
+    if (menu_click) menu_click(id);
+  }
+}
+
+void Form::Peer::CloseBox() {
+  Control* cancel = Find(IDCANCEL);
+  if (Modal && cancel != nullptr && cancel->PeerOf().TakesFocus()) {
+    cancel->PeerOf().Commanded(BN_CLICKED);
+  } else {
+    Unload(UnloadMode::ControlMenu);
+  }
+}
+
+bool Form::Peer::MayShutDown() {
+  if (!Shown || Closed) return true;
+  bool cancel = false;
+  Self->Form_QueryUnload(cancel, UnloadMode::WindowsShutdown);
+  return Closed || !cancel;
+}
+
+void Form::SetMenuEnabled(int id, bool enabled) {
+  EnableMenuItem(GetMenu(peer_->Window), static_cast<UINT>(id), MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+}
+
+bool Form::MenuEnabled(int id) const {
+  const UINT state = GetMenuState(GetMenu(peer_->Window), static_cast<UINT>(id), MF_BYCOMMAND);
+  return state != static_cast<UINT>(-1) && (state & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+void Form::SetMenuChecked(int id, bool checked) {
+  CheckMenuItem(GetMenu(peer_->Window), static_cast<UINT>(id), MF_BYCOMMAND | (checked ? MF_CHECKED : MF_UNCHECKED));
+}
+
+bool Form::MenuChecked(int id) const {
+  const UINT state = GetMenuState(GetMenu(peer_->Window), static_cast<UINT>(id), MF_BYCOMMAND);
+  return state != static_cast<UINT>(-1) && (state & MF_CHECKED) != 0;
+}

@@ -1,0 +1,146 @@
+// The Windows platform from inside: what forms and controls are made of, and how messages find them.
+#pragma once
+
+#include <windows.h>
+// After windows.h, on which it builds.
+#include <commctrl.h>
+
+#include <exception>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/form.h"
+#include "platform/lists.h"
+#include "platform/win32/layout.h"
+
+class Photo;
+
+struct Control::Peer {
+  using Kind = Control::Kind;
+
+  Control* Self = nullptr;
+  Form* Owner = nullptr;
+  int Id = 0;
+  Kind What = Kind::Label;
+  HWND Window = nullptr;
+  int Silent = 0;  // native notifications are our own doing and no events
+
+  std::string Told;      // text box, combo: the text as the program knows it
+  int Selected = -1;     // lists: the selection as the program knows it
+  bool Checked = false;  // option button, likewise
+  bool Bold = false;     // label
+  ::BackColor Back = ::BackColor::ButtonFace;
+  std::shared_ptr<Photo> Shown;  // picture; null when empty
+
+  bool TakesInput() const;  // visible and enabled
+  bool TakesFocus() const;  // the same, and of a kind that can
+  bool DropsDown() const { return What == Kind::ComboBox || What == Kind::DropDownList; }
+  bool HoldsEntries() const { return DropsDown() || What == Kind::ListBox; }
+  bool MultiLine() const;
+  LRESULT Send(UINT message, WPARAM first = 0, LPARAM second = 0) const {
+    return SendMessageA(Window, message, first, second);
+  }
+  void ChangeStyle(DWORD add, DWORD remove) const;
+  HWND EditField() const;  // the edit field of a combo
+  HWND DropList() const;   // the list of a drop-down
+
+  // What the native control tells.
+  void Commanded(int code);
+  void Notified(const NMHDR& header);
+  void DroppedUp();  // some time after a combo's list was closed
+
+  // The parts of Commanded, by kind.
+  void ButtonCommanded(int code);
+  void ComboCommanded(int code);
+  void TextMayHaveChanged();
+  void SelectionMayHaveMoved();
+  void CheckInGroup();  // option button: natively, the others of its group go out
+
+  // Draws what the native control cannot; false for all other controls.
+  bool Paint() const;
+
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
+                                    DWORD_PTR peer);
+  bool Intercept(UINT message, WPARAM first, LPARAM second, LRESULT& result);
+  void After(UINT message);
+};
+
+struct Form::Peer {
+  Form* Self = nullptr;
+  int Template = 0;
+  HWND Window = nullptr;
+  HACCEL Accelerators = nullptr;
+  HFONT BoldFont = nullptr;
+  std::map<int, Control*> Controls;
+  Layout Sizes;
+  const Control* Below = nullptr;
+
+  Control* Focus = nullptr;  // has the focus, or gets it back when the form becomes active
+  Form* Disabled = nullptr;  // the form below, while this one is modal above it
+  bool Shown = false;
+  bool Appearing = false;  // moves of the focus are not told yet
+  bool Modal = false;
+  bool Closed = false;
+  bool ToActivate = false;     // became the active form, and Form_Activate did not run yet
+  int Runs = 0;                // how often its message loop was begun
+  bool Running = false;        // it is in its message loop
+  std::exception_ptr Carried;  // what a handler threw, until the message loop takes it up
+
+  Control* Find(int id) const;  // nullptr when there is none
+  void Make(int template_id);
+  void AddMenu();
+  void Place(HWND owner) const;
+  void Appear(Form* owner);
+  void GiveFirstFocus();
+  void Loop();
+  void Unload(UnloadMode mode);
+  void Gone();  // closed and off the screen, without asking
+  void Activate();
+  void GiveFocusBack() const;
+  void FocusMoved(Control* control);
+  void Carry(std::exception_ptr failure);
+  void RethrowCarried();
+  HFONT Bold();
+  void RemakeFonts();
+
+  // Runs what may throw inside of a window procedure, through which no exception may pass.
+  template <typename Act>
+  void Guard(Act act) noexcept {
+    try {
+      act();
+    } catch (...) {
+      Carry(std::current_exception());
+    }
+  }
+
+  static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
+  bool Handle(UINT message, WPARAM first, LPARAM second, LRESULT& result);
+  void Command(int id, int code);
+  void CloseBox();
+  bool MayShutDown();
+};
+
+// The forms on the screen, the topmost last.
+std::vector<Form*>& OpenForms();
+Form* TopmostForm();  // nullptr when there is none
+
+// Hands a message to where it belongs, by way of the topmost form's accelerators and keys.
+void Dispatch(MSG& message);
+
+// Throws what a handler of an open form threw inside of a window procedure, if any.
+void RethrowCarried();
+
+// The topmost form is active again after a box above it: it is told, before the call returns.
+void ReactivateTopmost();
+
+std::string TextOfWindow(HWND window);
+inline void Raise(const Event& event) {
+  const Event kept = event;  // its handler may set it anew
+  if (kept) kept();
+}
+
+// Ends the program for a fault of its own making: a control or template that is not there.
+[[noreturn]] void Fault(const std::string& what);

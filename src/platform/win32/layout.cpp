@@ -1,0 +1,113 @@
+// Arranging controls when their form is resized, and keeping up with other screen resolutions.
+#include "platform/win32/layout.h"
+
+#include "platform/form.h"
+
+namespace {
+
+SIZE SizeOf(const RECT& rect) { return {rect.right - rect.left, rect.bottom - rect.top}; }
+
+RECT RectIn(HWND form, HWND control) {
+  RECT rect{};
+  GetWindowRect(control, &rect);
+  MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&rect), 2);
+  return rect;
+}
+
+bool HasClass(HWND control, const char* name) {
+  char found[32] = "";
+  GetClassNameA(control, found, sizeof found);
+  return lstrcmpiA(found, name) == 0;
+}
+
+// The height of a drop-down is to be given with its list.
+LONG DroppedHeight(HWND combo) {
+  RECT dropped{};
+  SendMessageA(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
+  return dropped.bottom - dropped.top;
+}
+
+// Stretches or moves one side of a control along one axis.
+void Follow(LONG& first, LONG& last, LONG growth, bool keeps_first, bool keeps_last) {
+  if (!keeps_last) return;
+  if (!keeps_first) first += growth;
+  last += growth;
+}
+
+// Resizing a drop-down marks its text; this remembers what was marked.
+struct Marks {
+  HWND Combo;
+  DWORD First = 0, Last = 0;
+};
+
+}  // namespace
+
+void Layout::Begin(HWND form) {
+  form_ = form;
+  base_ = Inside();
+  RECT whole{};
+  GetWindowRect(form, &whole);
+  smallest_ = SizeOf(whole);
+  dpi_ = GetDpiForWindow(form);
+}
+
+SIZE Layout::Inside() const {
+  RECT rect{};
+  GetClientRect(form_, &rect);
+  return SizeOf(rect);
+}
+
+void Layout::Anchor(HWND control, unsigned edges) { items_.push_back({control, edges, RectIn(form_, control)}); }
+
+RECT Layout::Target(const Item& item, const SIZE& inside) const {
+  RECT rect = item.Base;
+  Follow(rect.left, rect.right, inside.cx - base_.cx, (item.Edges & kEdgeLeft) != 0, (item.Edges & kEdgeRight) != 0);
+  Follow(rect.top, rect.bottom, inside.cy - base_.cy, (item.Edges & kEdgeTop) != 0, (item.Edges & kEdgeBottom) != 0);
+  return rect;
+}
+
+void Layout::Arrange() const {
+  if (scaling_ || items_.empty() || IsIconic(form_)) return;
+  const SIZE inside = Inside();
+  std::vector<Marks> marks;
+  HDWP moves = BeginDeferWindowPos(static_cast<int>(items_.size()));
+  for (const Item& item : items_) {
+    const RECT rect = Target(item, inside);
+    const SIZE size = SizeOf(rect);
+    LONG height = size.cy;
+    if (HasClass(item.Control, "ComboBox")) {
+      height = DroppedHeight(item.Control);
+      Marks mark{item.Control};
+      SendMessageA(item.Control, CB_GETEDITSEL, reinterpret_cast<WPARAM>(&mark.First),
+                   reinterpret_cast<LPARAM>(&mark.Last));
+      marks.push_back(mark);
+    }
+    // Copied, the contents would be wrong where they are centred or not yet painted.
+    constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
+    moves = DeferWindowPos(moves, item.Control, nullptr, rect.left, rect.top, size.cx, height, kFlags);
+    if (moves == nullptr) return;
+  }
+  EndDeferWindowPos(moves);
+  for (const Marks& mark : marks) {
+    SendMessageA(mark.Combo, CB_SETEDITSEL, 0, MAKELPARAM(mark.First, mark.Last));
+  }
+}
+
+void Layout::Limit(MINMAXINFO& limits) const {
+  if (items_.empty() || scaling_) return;
+  limits.ptMinTrackSize = {smallest_.cx, smallest_.cy};
+}
+
+void Layout::BeginScaling(UINT new_dpi) {
+  scaling_ = true;
+  smallest_.cx = MulDiv(smallest_.cx, static_cast<int>(new_dpi), static_cast<int>(dpi_));
+  smallest_.cy = MulDiv(smallest_.cy, static_cast<int>(new_dpi), static_cast<int>(dpi_));
+  dpi_ = new_dpi;
+}
+
+void Layout::EndScaling() {
+  if (!scaling_) return;
+  scaling_ = false;
+  base_ = Inside();
+  for (Item& item : items_) item.Base = RectIn(form_, item.Control);
+}

@@ -1,0 +1,50 @@
+// The language settings of the user's Windows.
+#include "platform/locale.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace {
+
+using CapitalTable = std::array<char, 256>;
+
+// Each byte's capital, by way of Unicode so that only true capitals count, not what merely looks alike; a
+// byte without one in the character set stands for itself.
+CapitalTable MakeCapitals() {
+  CapitalTable capitals{};
+  for (std::size_t code = 0; code < capitals.size(); ++code) {
+    const char character = static_cast<char>(code);
+    capitals[code] = character;
+    wchar_t wide = 0;
+    if (MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, &character, 1, &wide, 1) != 1) continue;
+    CharUpperBuffW(&wide, 1);
+    std::array<char, 8> narrow{};
+    BOOL replaced = FALSE;
+    const int size = WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, &wide, 1, narrow.data(),
+                                         static_cast<int>(narrow.size()), nullptr, &replaced);
+    if (size == 1 && !replaced) capitals[code] = narrow[0];
+  }
+  return capitals;
+}
+
+}  // namespace
+
+char DecimalSeparator() {
+  std::array<char, 16> text{};
+  GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, text.data(), static_cast<int>(text.size()));
+  return std::find(text.begin(), text.end(), ',') == text.end() ? '.' : ',';
+}
+
+char UpperCase(char character) {
+  static const CapitalTable kCapitals = MakeCapitals();
+  return kCapitals[static_cast<unsigned char>(character)];
+}
+
+std::string UpperCase(std::string_view text) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(), [](char each) { return UpperCase(each); });
+  return result;
+}

@@ -1,0 +1,274 @@
+// A test's person on real windows: acts on the topmost form through the messages that a real one's hands
+// would cause.
+#include "support/user.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+
+#include "platform/win32/internals.h"
+#include "support/expectations.h"
+#include "support/win32/watcher.h"
+
+namespace {
+
+using Kind = Control::Peer::Kind;
+
+std::unique_ptr<Watcher> watcher;
+
+// Lets everything happen that an action set off; the watcher's own timer waits for a message loop.
+void Settle() {
+  MSG message{};
+  while (PeekMessageA(&message, nullptr, 0, WM_TIMER - 1, PM_REMOVE) ||
+         PeekMessageA(&message, nullptr, WM_TIMER + 1, 0xFFFF, PM_REMOVE)) {
+    Dispatch(message);
+  }
+  RethrowCarried();
+}
+
+// The form that a person can reach, or null, which fails the test.
+Form::Peer* Topmost() {
+  Form* form = TopmostForm();
+  if (form == nullptr || form->Closed()) {
+    ADD_FAILURE() << "No form is open";
+    return nullptr;
+  }
+  return &form->PeerOf();
+}
+
+// The control of that id on the topmost form, or null, which fails the test.
+Control::Peer* Find(int id) {
+  const Form::Peer* form = Topmost();
+  if (form == nullptr) return nullptr;
+  Control* control = form->Find(id);
+  if (control == nullptr) {
+    ADD_FAILURE() << "Form " << form->Template << " has no control " << id;
+    return nullptr;
+  }
+  return &control->PeerOf();
+}
+
+HWND FormWindow(const Control::Peer& peer) { return peer.Owner->PeerOf().Window; }
+
+// The same, for acting: it must be one of these kinds, visible and enabled; the focus moves there.
+Control::Peer* Reach(int id, std::initializer_list<Kind> kinds) {
+  Control::Peer* peer = Find(id);
+  if (peer == nullptr) return nullptr;
+  if (kinds.size() != 0 && std::find(kinds.begin(), kinds.end(), peer->What) == kinds.end()) {
+    ADD_FAILURE() << "Control " << id << " is of another kind";
+    return nullptr;
+  }
+  if (!IsWindowVisible(peer->Window) || !IsWindowEnabled(peer->Window) || !IsWindowEnabled(FormWindow(*peer))) {
+    ADD_FAILURE() << "Control " << id << " is " << (IsWindowVisible(peer->Window) ? "disabled" : "hidden");
+    return nullptr;
+  }
+  if (peer->TakesFocus() && GetFocus() != peer->Window && !IsChild(peer->Window, GetFocus())) {
+    SendMessageA(FormWindow(*peer), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(peer->Window), TRUE);
+    Settle();
+  }
+  return peer;
+}
+
+bool IsTickList(const Control::Peer& peer) { return peer.What == Kind::CheckList; }
+
+int CountOf(const Control::Peer& peer) {
+  if (IsTickList(peer)) return static_cast<int>(peer.Send(LVM_GETITEMCOUNT));
+  return static_cast<int>(peer.Send(peer.DropsDown() ? CB_GETCOUNT : LB_GETCOUNT));
+}
+
+std::string EntryOf(const Control::Peer& peer, int position) {
+  if (IsTickList(peer)) return static_cast<const CheckList*>(peer.Self)->EntryText(position);
+  return static_cast<const ListControl*>(peer.Self)->EntryText(position);
+}
+
+int Position(const Control::Peer& peer, std::string_view entry) {
+  const int count = CountOf(peer);
+  for (int position = 0; position < count; ++position) {
+    if (EntryOf(peer, position) == entry) return position;
+  }
+  ADD_FAILURE() << "Control " << peer.Id << " has no entry \"" << entry << "\"";
+  return -1;
+}
+
+void Tell(const Control::Peer& peer, int code) {
+  SendMessageA(FormWindow(peer), WM_COMMAND, MAKEWPARAM(peer.Id, code), reinterpret_cast<LPARAM>(peer.Window));
+}
+
+// Selects an entry as the mouse does: the native control moves, then tells.
+void Pick(const Control::Peer& peer, int position) {
+  peer.Send(peer.DropsDown() ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(position));
+  Tell(peer, peer.DropsDown() ? static_cast<int>(CBN_SELCHANGE) : static_cast<int>(LBN_SELCHANGE));
+  Settle();
+}
+
+bool IsTicked(const Control::Peer& peer, int position) {
+  const LRESULT state = peer.Send(LVM_GETITEMSTATE, static_cast<WPARAM>(position), LVIS_STATEIMAGEMASK);
+  return state == INDEXTOSTATEIMAGEMASK(2);
+}
+
+UINT MenuState(int id) {
+  const Form::Peer* form = Topmost();
+  if (form == nullptr) return static_cast<UINT>(-1);
+  HMENU menu = GetMenu(form->Window);
+  // What a form does just before its menu opens counts too.
+  SendMessageA(form->Window, WM_INITMENU, reinterpret_cast<WPARAM>(menu), 0);
+  for (int index = 0; index < GetMenuItemCount(menu); ++index) {
+    SendMessageA(form->Window, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(GetSubMenu(menu, index)), index);
+  }
+  return GetMenuState(menu, static_cast<UINT>(id), MF_BYCOMMAND);
+}
+
+}  // namespace
+
+User::User() {
+  Expected().Start();
+  watcher = std::make_unique<Watcher>();
+}
+
+User::~User() {
+  watcher.reset();
+  Expected().Finish();
+}
+
+void User::Types(int id, std::string_view text) {
+  Control::Peer* peer = Reach(id, {Kind::TextBox, Kind::ComboBox});
+  if (peer == nullptr) return;
+  HWND edit = peer->What == Kind::ComboBox ? peer->EditField() : peer->Window;
+  if ((GetWindowLongA(edit, GWL_STYLE) & ES_READONLY) != 0) {
+    ADD_FAILURE() << "Control " << id << " is read-only";
+    return;
+  }
+  TypeInto(edit, std::string(text).c_str());
+  Settle();
+}
+
+void User::Clicks(int id) {
+  Control::Peer* peer = Reach(id, {Kind::Button, Kind::OptionButton, Kind::Label, Kind::Picture});
+  if (peer == nullptr) return;
+  if (peer->What == Kind::Button || peer->What == Kind::OptionButton) {
+    peer->Send(BM_CLICK);
+  } else {
+    const LPARAM inside = MAKELPARAM(2, 2);
+    peer->Send(WM_LBUTTONDOWN, MK_LBUTTON, inside);
+    peer->Send(WM_LBUTTONUP, 0, inside);
+  }
+  Settle();
+}
+
+void User::Picks(int id, std::string_view entry) {
+  Control::Peer* peer = Reach(id, {Kind::ListBox, Kind::ComboBox, Kind::DropDownList});
+  if (peer == nullptr) return;
+  const int position = Position(*peer, entry);
+  if (position >= 0) Pick(*peer, position);
+}
+
+void User::PicksAt(int id, int position) {
+  Control::Peer* peer = Reach(id, {Kind::ListBox, Kind::ComboBox, Kind::DropDownList});
+  if (peer == nullptr) return;
+  if (position < 0 || position >= CountOf(*peer)) {
+    ADD_FAILURE() << "Control " << id << " has no entry at position " << position;
+    return;
+  }
+  Pick(*peer, position);
+}
+
+void User::Ticks(int id, std::string_view entry) {
+  Control::Peer* peer = Reach(id, {Kind::CheckList});
+  if (peer == nullptr) return;
+  const int position = Position(*peer, entry);
+  if (position < 0) return;
+  LVITEMA item{};
+  item.stateMask = LVIS_STATEIMAGEMASK;
+  item.state = INDEXTOSTATEIMAGEMASK(IsTicked(*peer, position) ? 1U : 2U);
+  peer->Send(LVM_SETITEMSTATE, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&item));
+  Settle();
+}
+
+void User::ChoosesMenu(int id) {
+  const UINT state = MenuState(id);
+  if ((state & (MF_GRAYED | MF_DISABLED)) != 0) {  // set as well when there is no such entry
+    ADD_FAILURE() << "Menu entry " << id << " is greyed";
+    return;
+  }
+  SendMessageA(Topmost()->Window, WM_COMMAND, MAKEWPARAM(id, 0), 0);
+  Settle();
+}
+
+void User::Presses(Key key) {
+  const Form::Peer* form = Topmost();
+  if (form == nullptr) return;
+  HWND focus = GetFocus();
+  if (focus == nullptr) focus = form->Window;
+  const WPARAM code = key == Key::Enter ? VK_RETURN : VK_ESCAPE;
+  PostMessageA(focus, WM_KEYDOWN, code, 1);
+  PostMessageA(focus, WM_KEYUP, code, 1);
+  Settle();
+}
+
+void User::MovesTo(int id) { Reach(id, {}); }
+
+void User::ClosesWindow() {
+  const Form::Peer* form = Topmost();
+  if (form == nullptr) return;
+  SendMessageA(form->Window, WM_SYSCOMMAND, SC_CLOSE, 0);
+  Settle();
+}
+
+std::string User::Sees(int id) {
+  const Control::Peer* peer = Find(id);
+  return peer == nullptr ? "" : TextOfWindow(peer->Window);
+}
+
+std::string User::SeesCaption() {
+  const Form::Peer* form = Topmost();
+  return form == nullptr ? "" : TextOfWindow(form->Window);
+}
+
+bool User::SeesEnabled(int id) {
+  const Control::Peer* peer = Find(id);
+  return peer != nullptr && IsWindowEnabled(peer->Window) != FALSE;
+}
+
+bool User::SeesVisible(int id) {
+  const Control::Peer* peer = Find(id);
+  return peer != nullptr && IsWindowVisible(peer->Window) != FALSE;
+}
+
+bool User::SeesFocusOn(int id) {
+  const Control::Peer* peer = Find(id);
+  return peer != nullptr && (GetFocus() == peer->Window || IsChild(peer->Window, GetFocus()));
+}
+
+std::vector<std::string> User::SeesEntries(int id) {
+  std::vector<std::string> texts;
+  const Control::Peer* peer = Find(id);
+  if (peer == nullptr) return texts;
+  for (int position = 0; position < CountOf(*peer); ++position) texts.push_back(EntryOf(*peer, position));
+  return texts;
+}
+
+std::string User::SeesSelected(int id) {
+  const Control::Peer* peer = Find(id);
+  if (peer == nullptr) return "";
+  const int position = static_cast<int>(peer->Send(peer->DropsDown() ? CB_GETCURSEL : LB_GETCURSEL));
+  return position < 0 ? "" : EntryOf(*peer, position);
+}
+
+std::vector<std::string> User::SeesTicked(int id) {
+  std::vector<std::string> texts;
+  const Control::Peer* peer = Find(id);
+  if (peer == nullptr || !IsTickList(*peer)) return texts;
+  for (int position = 0; position < CountOf(*peer); ++position) {
+    if (IsTicked(*peer, position)) texts.push_back(EntryOf(*peer, position));
+  }
+  return texts;
+}
+
+bool User::SeesMenuEnabled(int id) { return (MenuState(id) & (MF_GRAYED | MF_DISABLED)) == 0; }
+
+bool User::SeesMenuChecked(int id) {
+  const UINT state = MenuState(id);
+  return state != static_cast<UINT>(-1) && (state & MF_CHECKED) != 0;
+}

@@ -1,0 +1,229 @@
+// The watcher over message boxes, input boxes, file dialogs and forms on real windows.
+#include "support/win32/watcher.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "platform/win32/internals.h"
+#include "resource.h"
+#include "support/expectations.h"
+
+namespace {
+
+constexpr UINT_PTR kTimer = 1;
+constexpr UINT kInterval = 5;                   // milliseconds
+constexpr const char* kSeen = "FilerTestSeen";  // a property of windows that were dealt with
+constexpr int kIconSide = 32;
+constexpr int kFileNameCombo = 0x47C;
+constexpr int kFileNameEdit = 0x480;
+
+std::string ClassOf(HWND window) {
+  char name[64] = "";
+  GetClassNameA(window, name, sizeof name);
+  return name;
+}
+
+bool MarkSeen(HWND window, int value) {
+  HANDLE mark = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(value));
+  if (GetPropA(window, kSeen) == mark) return false;
+  SetPropA(window, kSeen, mark);
+  return true;
+}
+
+// The top dialog window of this thread that takes input, or null.
+HWND TopDialog() {
+  HWND found = nullptr;
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM result) -> BOOL {
+        if (!IsWindowVisible(window) || !IsWindowEnabled(window) || ClassOf(window) != "#32770") return TRUE;
+        *reinterpret_cast<HWND*>(result) = window;
+        return FALSE;
+      },
+      reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+std::vector<HWND> Inside(HWND dialog) {
+  std::vector<HWND> windows;
+  EnumChildWindows(
+      dialog,
+      [](HWND window, LPARAM result) -> BOOL {
+        reinterpret_cast<std::vector<HWND>*>(result)->push_back(window);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
+
+using Pixels = std::array<DWORD, kIconSide * kIconSide>;
+
+Pixels PixelsOf(HICON icon) {
+  Pixels pixels{};
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof info.bmiHeader, kIconSide, -kIconSide, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  HDC memory = CreateCompatibleDC(nullptr);
+  HBITMAP bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  HGDIOBJ before = SelectObject(memory, bitmap);
+  DrawIconEx(memory, 0, 0, icon, kIconSide, kIconSide, 0, nullptr, DI_NORMAL);
+  GdiFlush();
+  std::memcpy(pixels.data(), bits, sizeof pixels);
+  SelectObject(memory, before);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  return pixels;
+}
+
+Icon MeaningOf(HICON icon) {
+  if (icon == nullptr) return Icon::None;
+  const struct {
+    LPCSTR Name;
+    Icon Meaning;
+  } rows[] = {{MAKEINTRESOURCEA(32516), Icon::Information},
+              {MAKEINTRESOURCEA(32515), Icon::Exclamation},
+              {MAKEINTRESOURCEA(32513), Icon::Critical}};
+  const Pixels pixels = PixelsOf(icon);
+  for (const auto& row : rows) {
+    HICON known = LoadIconA(nullptr, row.Name);
+    if (known == icon || PixelsOf(known) == pixels) return row.Meaning;
+  }
+  ADD_FAILURE() << "A message box has an icon of no known meaning";
+  return Icon::None;
+}
+
+HWND VisibleItem(HWND dialog, int id) {
+  HWND item = GetDlgItem(dialog, id);
+  return item != nullptr && IsWindowVisible(item) ? item : nullptr;
+}
+
+// What a message box says; false when the dialog is none.
+bool ReadMessageBox(HWND box, std::string& text, Icon& icon) {
+  bool is_box = false;
+  for (HWND child : Inside(box)) {
+    const std::string name = ClassOf(child);
+    if (name == "Static" && (GetWindowLongA(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON) {
+      if (IsWindowVisible(child)) icon = MeaningOf(reinterpret_cast<HICON>(SendMessageA(child, STM_GETICON, 0, 0)));
+    } else if (name == "Static") {
+      text = TextOfWindow(child);
+      is_box = true;
+    } else if (name != "Button") {
+      return false;
+    }
+  }
+  return is_box;
+}
+
+void AnswerMessageBox(HWND box, const std::string& text, Icon icon) {
+  HWND ok = VisibleItem(box, IDOK), cancel = VisibleItem(box, IDCANCEL);
+  HWND yes = VisibleItem(box, IDYES), no = VisibleItem(box, IDNO);
+  const Buttons buttons = yes != nullptr                       ? Buttons::YesNo
+                          : ok != nullptr && cancel != nullptr ? Buttons::OkCancel
+                                                               : Buttons::Ok;
+  const Answer answer = Expected().MessageCame(text, TextOfWindow(box), buttons, icon);
+  HWND pressed = ok != nullptr ? ok : cancel;  // a single OK may have either id
+  if (answer == Answer::Cancel) pressed = cancel;
+  if (answer == Answer::Yes) pressed = yes;
+  if (answer == Answer::No) pressed = no;
+  PostMessageA(pressed, BM_CLICK, 0, 0);
+}
+
+void AnswerFileDialog(HWND dialog) {
+  const std::string name = Expected().FileDialogCame(TextOfWindow(dialog));
+  if (name.empty()) {
+    PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+    return;
+  }
+  for (HWND child : Inside(dialog)) {
+    const int id = GetDlgCtrlID(child);
+    const int parent_id = GetDlgCtrlID(GetParent(child));
+    if (ClassOf(child) != "Edit") continue;
+    if (id != kFileNameEdit && id != kFileNameCombo && parent_id != kFileNameCombo && id != 0x3E9 && id != 1001)
+      continue;
+    SendMessageA(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+    return;
+  }
+  ADD_FAILURE() << "A dialog \"" << TextOfWindow(dialog) << "\" came that takes no file name";
+  PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+}
+
+void AnswerInputBox(const Form& form) {
+  HWND window = form.PeerOf().Window;
+  HWND field = GetDlgItem(window, IDC_AnswerBox);
+  const std::string answer = Expected().InputCame(TextOfWindow(GetDlgItem(window, IDC_PromptLabel)),
+                                                  TextOfWindow(window), TextOfWindow(field));
+  if (!answer.empty()) TypeInto(field, answer.c_str());
+  SendMessageA(GetDlgItem(window, answer.empty() ? IDCANCEL : IDOK), BM_CLICK, 0, 0);
+}
+
+// Lets the person use the form; what an action throws is carried to the form's message loop.
+void UseForm(Form& form) {
+  Form::Peer& peer = form.PeerOf();
+  peer.Guard([&] {
+    const std::function<void()> acts = Expected().FormCame(peer.Template, form.Caption());
+    if (acts) acts();
+    if (acts && !form.Closed()) Expected().FormLeftOpen(peer.Template, form.Caption());
+    if (peer.Modal) {
+      peer.Closed = true;
+    } else {
+      peer.Gone();
+    }
+  });
+}
+
+void Look() {
+  HWND dialog = TopDialog();
+  if (dialog == nullptr) return;
+  for (Form* form : OpenForms()) {
+    Form::Peer& peer = form->PeerOf();
+    if (peer.Window != dialog) continue;
+    if (!peer.Running || peer.Closed || peer.Carried || !MarkSeen(dialog, peer.Runs)) return;
+    if (peer.Template == IDD_InputBox) {
+      AnswerInputBox(*form);
+    } else {
+      UseForm(*form);
+    }
+    return;
+  }
+  std::string text;
+  Icon icon = Icon::None;
+  if (!MarkSeen(dialog, 1)) return;
+  if (ReadMessageBox(dialog, text, icon)) {
+    AnswerMessageBox(dialog, text, icon);
+  } else {
+    AnswerFileDialog(dialog);
+  }
+}
+
+LRESULT CALLBACK WatcherProcedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (message != WM_TIMER) return DefWindowProcA(window, message, first, second);
+  Look();
+  return 0;
+}
+
+}  // namespace
+
+Watcher::Watcher() {
+  WNDCLASSA kind{};
+  kind.lpfnWndProc = WatcherProcedure;
+  kind.hInstance = GetModuleHandleA(nullptr);
+  kind.lpszClassName = "FilerTestWatcher";
+  RegisterClassA(&kind);
+  window_ = CreateWindowA(kind.lpszClassName, "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, kind.hInstance, nullptr);
+  SetTimer(window_, kTimer, kInterval, nullptr);
+}
+
+Watcher::~Watcher() {
+  KillTimer(window_, kTimer);
+  DestroyWindow(window_);
+}
+
+void TypeInto(HWND edit, const char* text) {
+  SendMessageA(edit, EM_SETSEL, 0, -1);
+  SendMessageA(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
+}
