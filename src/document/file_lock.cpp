@@ -24,6 +24,10 @@ void TakeFileLock(const std::string& file_name) {
 
 void ReleaseFileLock() {
   if (!TheDocument.LockHeld) return;
-  Files::Close(kLockHandle);
   TheDocument.LockHeld = false;
+  try {
+    Files::Close(kLockHandle);
+  } catch (const RuntimeError&) {
+    // Nothing was written through it that could be lost.
+  }
 }

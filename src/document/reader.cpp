@@ -58,7 +58,8 @@ std::string ReadCategories() {
     }
     cursor.MoveTo(record, [&](int number) { names[number].clear(); });
     if (assignment.ComparedKey() != "NAME") {
-      Global::Say("Data file contains invalid field name for categories: " + assignment.Key, Icon::Exclamation);
+      Global::Say("Data file contains invalid field name for categories: " + std::string(assignment.Key),
+                  Icon::Exclamation);
       return {};
     }
     names[record] = Trim(assignment.Value);
@@ -85,17 +86,17 @@ std::string* MemberOf(FormulaDefinition& formula, const std::string& key) {
 
 template <class Definition>
 std::string ReadDefinitions(RecordTable<Definition>& table) {
-  table[1] = {};
+  const Definition nothing;
+  table[1] = nothing;
   RecordCursor cursor;
   Assignment assignment;
   int record = 0;
   for (ReadAssignment(assignment, record); !assignment.EndsSection(); ReadAssignment(assignment, record)) {
     table.GrowFor(record, kLoadStep);
-    cursor.MoveTo(record, [&](int number) { table[number] = {}; });
+    cursor.MoveTo(record, [&](int number) { table[number] = nothing; });
     std::string* member = MemberOf(table[record], assignment.ComparedKey());
     if (member == nullptr) {
-      Global::Say("Data file contains invalid definitinon for field: " + assignment.Key + "=" + assignment.Value,
-                  Icon::Exclamation);
+      Global::Say("Data file contains invalid definitinon for field: " + assignment.Segment, Icon::Exclamation);
       assignment.Segment.clear();
       break;
     }
@@ -127,7 +128,7 @@ bool StorePlainKey(ThingRecord& thing, const std::string& key, const Assignment&
   } else if (key == "CATBITMAP") {
     thing.CATBITMAP = LeadingInt32(assignment.Value);
   } else {
-    Global::Say("Data file contains invalid field name for things: " + assignment.Key, Icon::Exclamation);
+    Global::Say("Data file contains invalid field name for things: " + std::string(assignment.Key), Icon::Exclamation);
     return false;
   }
   return true;
@@ -136,10 +137,9 @@ bool StorePlainKey(ThingRecord& thing, const std::string& key, const Assignment&
 // Stores the value of a field given as "%" and its keyword. `values` counts the record's values so far.
 bool StoreFieldValue(int record, const std::string& key, const Assignment& assignment, int& values) {
   ThingRecord& thing = TheDocument.Things[record];
-  const std::string keyword = key.substr(1);
+  const std::string_view keyword = std::string_view(key).substr(1);
   if (!IsDefinedField(keyword)) {
-    return Global::Ask("Filer object record contains unknown user-defined field: <<" + assignment.Key + "=" +
-                           assignment.Value +
+    return Global::Ask("Filer object record contains unknown user-defined field: <<" + assignment.Segment +
                            ">>.  It will not be loaded.  Do you wish to continue loading the remaining data?",
                        Buttons::YesNo);
   }
@@ -158,14 +158,15 @@ bool StoreFieldValue(int record, const std::string& key, const Assignment& assig
 
 std::string ReadThings() {
   RecordTable<ThingRecord>& things = TheDocument.Things;
-  things[1] = {};
+  const ThingRecord nothing;
+  things[1] = nothing;
   RecordCursor cursor;
   Assignment assignment;
   int record = 0;
   int values = 0;
   for (ReadAssignment(assignment, record); !assignment.EndsSection(); ReadAssignment(assignment, record)) {
     things.GrowFor(record, kLoadStep);
-    if (cursor.MoveTo(record, [&](int number) { things[number] = {}; })) values = 0;
+    if (cursor.MoveTo(record, [&](int number) { things[number] = nothing; })) values = 0;
     const std::string key = assignment.ComparedKey();
     const bool stored = key.starts_with('%') ? StoreFieldValue(record, key, assignment, values)
                                              : StorePlainKey(things[record], key, assignment);

@@ -1,9 +1,10 @@
-// A table of records numbered from 1, which grows by steps and never shrinks.
+// A table of records numbered from 1, which grows by steps and never shrinks. A deque keeps the records where
+// they are while it grows.
 #pragma once
 
 #include <cassert>
 #include <cstddef>
-#include <vector>
+#include <deque>
 
 template <class Record>
 class RecordTable {
@@ -35,7 +36,7 @@ class RecordTable {
     return static_cast<std::size_t>(record - 1);
   }
 
-  std::vector<Record> records_;
+  std::deque<Record> records_;
   int count_ = 0;
 };
 

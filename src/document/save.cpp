@@ -49,6 +49,14 @@ void EraseQuietly(const std::string& name) {
   }
 }
 
+void RenameQuietly(const std::string& from, const std::string& to) {
+  try {
+    Files::Rename(from, to);
+  } catch (const RuntimeError&) {
+    // It is whole under either name.
+  }
+}
+
 void CloseQuietly(int handle) {
   try {
     Files::Close(handle);
@@ -136,7 +144,7 @@ void ReplaceBackup(const std::string& target, const std::string& written) {
   try {
     Files::Rename(written, target);
   } catch (const RuntimeError&) {
-    Files::Rename(aside, target);
+    RenameQuietly(aside, target);
     throw;
   }
   EraseQuietly(aside);
@@ -208,10 +216,12 @@ void SaveDocument() {
       Global::Ask("You did not specify a filetype as part of the name. Would you like me to add a type of .FIL?",
                   Buttons::YesNo)) {
     target += ".FIL";
+    request.OverwriteConfirmed = false;  // that was for the name without it
   }
   ReleaseFileLock();
   if (!WriteTarget(target, request.OverwriteConfirmed)) {
-    if (!document.FileName.empty()) TakeFileLock(document.FileName);
+    // A name from the command line stands without its folder.
+    if (!document.FileName.empty()) TakeFileLock(Global::FullFileName(TheStart.WorkingFolder, document.FileName));
     return;
   }
   document.FileName = target;

@@ -27,13 +27,12 @@ struct SegmentSource {
 
 SegmentSource source;
 
-bool AtEnd() { return source.handle == 0 || Files::AtEnd(source.handle); }
-
-// Reads one physical line. What cannot be read counts as the end of the file.
-bool ReadPhysicalLine() {
+// Reads one physical line. The end of the file, or what cannot be read, ends the data.
+bool ReadPhysicalLine(std::string& line) {
+  line.clear();
+  if (source.handle == 0) return false;
   try {
-    if (AtEnd()) return false;
-    Files::ReadLine(source.handle, source.physical);
+    Files::ReadLine(source.handle, line);
     return true;
   } catch (const RuntimeError&) {
     source.handle = 0;
@@ -41,21 +40,23 @@ bool ReadPhysicalLine() {
   }
 }
 
+bool AtEnd() { return source.handle == 0 || Files::AtEnd(source.handle); }
+
+bool HasOuterBlanks(const std::string& line) { return !line.empty() && (line.front() == ' ' || line.back() == ' '); }
+
 bool IsContinued(const std::string& line) {
   return !line.empty() && line.back() == '+' && (line.size() < 2 || line[line.size() - 2] != '~');
 }
 
 // Assembles the next line that is not empty; false at the end of the file.
 bool AssembleLine() {
-  source.line.clear();
   source.pending = 0;
-  while (source.line.empty()) {
-    if (!ReadPhysicalLine()) return false;
-    const std::string_view whole = source.physical;
-    source.line = AtEnd() ? whole : Trim(whole);
-  }
+  do {
+    if (!ReadPhysicalLine(source.line)) return false;
+    if (HasOuterBlanks(source.line) && !AtEnd()) source.line = std::string(Trim(source.line));
+  } while (source.line.empty());
   while (IsContinued(source.line) && !AtEnd()) {
-    if (!ReadPhysicalLine()) break;
+    if (!ReadPhysicalLine(source.physical)) break;
     source.line.pop_back();
     source.line += Trim(source.physical);
   }
@@ -81,20 +82,48 @@ void ClearPendingText() {
   source.pending = 0;
 }
 
-const std::string& ReadSegment() {
+namespace {
+
+// Piece by piece, as tildes are rare.
+void DeleteTildes(std::string& text) {
+  auto tilde = text.find('~');
+  auto end = tilde;
+  while (tilde != std::string::npos) {
+    const auto piece = tilde + 1;
+    tilde = text.find('~', piece);
+    const auto length = std::min(tilde, text.size()) - piece;
+    std::char_traits<char>::move(text.data() + end, text.data() + piece, length);
+    end += length;
+  }
+  if (end != std::string::npos) text.resize(end);
+}
+
+// Cuts the next segment off; false at the end of the file. Most lines are one segment: they are not copied.
+bool NextSegment() {
   source.segment.clear();
-  if (!source.HasPending() && !AssembleLine()) return source.segment;
-  const std::string_view line = source.line;
+  if (!source.HasPending() && !AssembleLine()) return false;
   const std::size_t first = source.pending;
   const std::size_t cut = FindCut(source.line, first);
   if (cut == std::string::npos) {
-    source.segment = line.substr(first);
-    source.pending = line.size();
+    if (first == 0) {
+      source.segment.swap(source.line);
+    } else {
+      source.segment.assign(source.line, first);
+    }
+    ClearPendingText();
   } else {
+    const std::string_view line = source.line;
     source.segment = TrimRight(line.substr(first, cut - first));
     source.pending = std::min(line.find_first_not_of(' ', cut + 1), line.size());
   }
-  std::erase(source.segment, '~');
+  DeleteTildes(source.segment);
+  return true;
+}
+
+}  // namespace
+
+const std::string& ReadSegment() {
+  NextSegment();
   return source.segment;
 }
 
@@ -122,8 +151,8 @@ int NextRecord(const std::string& marker, int record) {
 
 void ReadAssignment(Assignment& assignment, int& record) {
   assignment.Segment.clear();
-  while (source.HasPending() || !AtEnd()) {
-    const std::string& segment = ReadSegment();
+  while (NextSegment()) {
+    const std::string& segment = source.segment;
     if (segment.empty() || segment.front() == '\'') continue;
     if (segment.front() == '*') {
       record = NextRecord(segment, record);
@@ -138,9 +167,9 @@ void ReadAssignment(Assignment& assignment, int& record) {
       Global::Say("Data file contains invalid assignment: " + segment, Icon::Information);
       return;
     }
-    assignment.Segment = segment;
-    assignment.Key.assign(segment, 0, equals);
-    assignment.Value.assign(segment, equals + 1);
+    assignment.Segment.swap(source.segment);
+    assignment.Key = std::string_view(assignment.Segment).substr(0, equals);
+    assignment.Value = std::string_view(assignment.Segment).substr(equals + 1);
     if (record == 0) record = 1;
     return;
   }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 // Reads from the open input file of that handle from now on, with nothing pending.
 void StartSegments(int handle);
@@ -20,11 +21,11 @@ const std::string& ReadSegment();
 // or the end of the file comes first.
 std::string ReadToSectionHead();
 
-// One assignment of a section.
+// One assignment of a section. Its texts are good until the next one is read.
 struct Assignment {
-  std::string Segment;  // empty: the data ended; beginning with "[": the next section head
-  std::string Key;      // what stood before the first "=", as read
-  std::string Value;    // what stood behind it, as read
+  std::string Segment;     // empty: the data ended; beginning with "[": the next section head
+  std::string_view Key;    // what stood before the first "=", as read
+  std::string_view Value;  // what stood behind it, as read
 
   bool EndsSection() const { return Segment.empty() || Segment.front() == '['; }
   // The key as it is compared: without leading blanks, upper-cased.

@@ -1,6 +1,7 @@
 // MainForm: start-up, the command table, and what holds for all commands.
 #include "mainwindow/main_form.h"
 
+#include <initializer_list>
 #include <utility>
 
 #include "document/document.h"
@@ -62,11 +63,15 @@ MainForm::MainForm(std::string command_line)
       PersonCombo(*this, IDC_PersonCombo),
       CategoryFilterLabel(*this, IDC_CategoryFilterLabel),
       NoteBox(*this, IDC_NoteBox),
+      FatherLabel(*this, IDC_FatherLabel),
+      MotherLabel(*this, IDC_MotherLabel),
       FatherCombo(*this, IDC_FatherCombo),
       MotherCombo(*this, IDC_MotherCombo),
+      PhotoLabel(*this, IDC_PhotoLabel),
       PhotoPic(*this, IDC_PhotoPic),
       PhotoButton(*this, IDC_PhotoButton),
       DataButton(*this, IDC_DataButton),
+      CatLabel(*this, IDC_CatLabel),
       CatList(*this, IDC_CatList),
       DefCatButton(*this, IDC_DefCatButton),
       command_line_(std::move(command_line)) {
@@ -137,24 +142,29 @@ void MainForm::RefreshFrame() {
   }
 }
 
+// The note and the lists grow with the window; the photo keeps its corner.
+void MainForm::AnchorControls() {
+  for (Control* control : std::initializer_list<Control*>{&HelpButton, &ExitButton, &CategoryFilterLabel, &PhotoLabel,
+                                                          &PhotoPic, &PhotoButton, &DataButton, &CatLabel}) {
+    Anchor(*control, kEdgeTop | kEdgeRight);
+  }
+  Anchor(PersonCombo, kEdgeLeft | kEdgeTop | kEdgeRight);
+  Anchor(NoteBox, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
+  for (Control* control : std::initializer_list<Control*>{&FatherCombo, &MotherCombo}) {
+    Anchor(*control, kEdgeLeft | kEdgeRight | kEdgeBottom);
+  }
+  Anchor(FatherLabel, kEdgeLeft | kEdgeBottom);
+  Anchor(MotherLabel, kEdgeLeft | kEdgeBottom);
+  Anchor(CatList, kEdgeTop | kEdgeRight | kEdgeBottom);
+  Anchor(DefCatButton, kEdgeRight | kEdgeBottom);
+}
+
 void MainForm::Form_Load() {
   TheDocument = {};
   Global::ProgramTitle = "Larkspur Filer";
   Global::FillAddressTitles();
   PhotoButton.SetBackColor(DataButton.BackColor());
-  Anchor(HelpButton, kEdgeTop | kEdgeRight);
-  Anchor(ExitButton, kEdgeTop | kEdgeRight);
-  Anchor(PersonCombo, kEdgeLeft | kEdgeTop | kEdgeRight);
-  Anchor(CategoryFilterLabel, kEdgeTop | kEdgeRight);
-  Anchor(NoteBox, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
-  Anchor(FatherCombo, kEdgeLeft | kEdgeRight | kEdgeBottom);
-  Anchor(MotherCombo, kEdgeLeft | kEdgeRight | kEdgeBottom);
-  Anchor(PhotoPic, kEdgeTop | kEdgeRight);
-  Anchor(PhotoButton, kEdgeTop | kEdgeRight);
-  Anchor(DataButton, kEdgeTop | kEdgeRight);
-  Anchor(CatList, kEdgeTop | kEdgeRight | kEdgeBottom);
-  Anchor(DefCatButton, kEdgeRight | kEdgeBottom);
-
+  AnchorControls();
   ShowTabs();
   MakeNew();
   ShowNameOrder();
@@ -214,9 +224,10 @@ void MainForm::Form_QueryUnload(bool& cancel, UnloadMode mode) {
 }
 
 void MainForm::Run() {
-  Show();
+  bool shown = false;
   while (!Closed()) {
     try {
+      if (!std::exchange(shown, true)) Show();
       RunUntilClosed();
     } catch (const std::exception& error) {
       // Whatever a command could not finish, the document is still there and can be saved.

@@ -40,6 +40,7 @@ class MainForm : public Form {
   Event On(void (MainForm::*handler)());
   void RunCommand(int id);
   void WireEvents();
+  void AnchorControls();
   void RefreshFrame();
   bool Always() const { return true; }
   bool ShowStartThing();
@@ -101,9 +102,12 @@ class MainForm : public Form {
   ComboBox PersonCombo;
   Label CategoryFilterLabel;
   TextBox NoteBox;
+  Label FatherLabel, MotherLabel;
   DropDownList FatherCombo, MotherCombo;
+  Label PhotoLabel;
   Picture PhotoPic;
   Button PhotoButton, DataButton;
+  Label CatLabel;
   CheckList CatList;
   Button DefCatButton;
 

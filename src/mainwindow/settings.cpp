@@ -89,7 +89,8 @@ std::string ReadRecentFilesSection() {
   for (ReadAssignment(assignment, record); !assignment.EndsSection(); ReadAssignment(assignment, record)) {
     if (record > kRecentFiles) return {};
     if (assignment.ComparedKey() != "NAME") {
-      Global::Say("FOLKLIST.INI file contains invalid field name for Top10Files: " + assignment.Key, Icon::Exclamation);
+      Global::Say("FOLKLIST.INI file contains invalid field name for Top10Files: " + std::string(assignment.Key),
+                  Icon::Exclamation);
       return {};
     }
     TheRecentFiles[record] = assignment.Value;

@@ -80,6 +80,10 @@ namespace {
 
 template <class Whole>
 Whole LeadingWhole(std::string_view text) {
+  // The form that the writer gives: nothing but digits and their sign.
+  Whole plain = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), plain);
+  if (result.ec == std::errc() && result.ptr == text.data() + text.size()) return plain;
   try {
     const double rounded = std::nearbyint(LeadingNumber(text));
     if (rounded < std::numeric_limits<Whole>::min() || rounded > std::numeric_limits<Whole>::max()) return 0;

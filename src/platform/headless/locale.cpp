@@ -2,7 +2,7 @@
 // of Windows' Western European character set (code page 1252).
 #include "platform/locale.h"
 
-#include <algorithm>
+#include <array>
 
 #include "platform/headless/machine.h"
 
@@ -16,18 +16,28 @@ void Machine::SetDecimalSeparator(char separator) { decimal_separator = separato
 
 char DecimalSeparator() { return decimal_separator; }
 
-char UpperCase(char character) {
-  const auto code = static_cast<unsigned char>(character);
-  if ((code >= 'a' && code <= 'z') || (code >= 0xE0 && code <= 0xFE && code != 0xF7)) {
-    return static_cast<char>(code - 0x20);
+namespace {
+
+constexpr std::array<char, 256> MakeCapitals() {
+  std::array<char, 256> capitals{};
+  for (unsigned code = 0; code < 256; ++code) {
+    unsigned capital = code;
+    if ((code >= 'a' && code <= 'z') || (code >= 0xE0 && code <= 0xFE && code != 0xF7)) capital = code - 0x20;
+    if (code == 0x9A || code == 0x9C || code == 0x9E) capital = code - 0x10;
+    if (code == 0xFF) capital = 0x9F;
+    capitals[code] = static_cast<char>(capital);
   }
-  if (code == 0x9A || code == 0x9C || code == 0x9E) return static_cast<char>(code - 0x10);
-  if (code == 0xFF) return static_cast<char>(0x9F);
-  return character;
+  return capitals;
 }
+
+constexpr auto kCapitals = MakeCapitals();
+
+}  // namespace
+
+char UpperCase(char character) { return kCapitals[static_cast<unsigned char>(character)]; }
 
 std::string UpperCase(std::string_view text) {
   std::string result(text);
-  std::transform(result.begin(), result.end(), result.begin(), [](char each) { return UpperCase(each); });
+  for (char& each : result) each = UpperCase(each);
   return result;
 }
