@@ -22,8 +22,8 @@ struct MainForm::Command {
   bool (MainForm::*Enabled)() const = &MainForm::Always;
 };
 
-const std::vector<MainForm::Command>& MainForm::Commands() {
-  static const std::vector<Command> commands{
+std::span<const MainForm::Command> MainForm::Commands() {
+  static constexpr Command kCommands[] = {
       {IDC_NewItem, &MainForm::NewButton, &MainForm::NewItem_Click},
       {IDC_OpenItem, &MainForm::OpenButton, &MainForm::OpenItem_Click},
       {IDC_SaveItem, &MainForm::SaveButton, &MainForm::SaveItem_Click},
@@ -47,7 +47,7 @@ const std::vector<MainForm::Command>& MainForm::Commands() {
       {IDC_FilerHelpItem},
       {IDC_AboutItem},
   };
-  return commands;
+  return kCommands;
 }
 
 MainForm::MainForm(std::string command_line)

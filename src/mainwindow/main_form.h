@@ -3,6 +3,7 @@
 
 #include <array>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -31,7 +32,7 @@ class MainForm : public Form {
 
  private:
   struct Command;
-  static const std::vector<Command>& Commands();
+  static std::span<const Command> Commands();
 
   // main_form.cpp: start-up, and what holds for all commands
   void Form_Load() override;
