@@ -12,6 +12,7 @@
 #define IDD_MainForm 110
 #define IDD_FileForm 111
 #define IDD_CatPickForm 112
+#define IDD_CatDefForm 113
 #define IDD_InputBox 190
 
 // MainForm
@@ -22,6 +23,7 @@
 #define IDC_CatList 1004
 #define IDC_PhotoPic 1005
 #define IDC_CategoryFilterLabel 1006
+#define IDC_HintLabel 1008
 #define IDC_AllLabel 1007
 
 #define IDC_NewButton 1020
@@ -77,6 +79,9 @@
 
 // CatPickForm
 #define IDC_CategoryList 1310
+
+// CatDefForm: IDC_CategoryNameBox is category 1, + 31 is 32.
+#define IDC_CategoryNameBox 1320
 
 // The input box
 #define IDC_PromptLabel 1390

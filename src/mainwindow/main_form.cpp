@@ -28,12 +28,12 @@ std::span<const MainForm::Command> MainForm::Commands() {
       {IDC_OpenItem, &MainForm::OpenButton, &MainForm::OpenItem_Click},
       {IDC_SaveItem, &MainForm::SaveButton, &MainForm::SaveItem_Click},
       {IDC_ExitItem, &MainForm::ExitButton, &MainForm::ExitItem_Click},
-      {IDC_AddPersonItem, &MainForm::AddPersonButton},
-      {IDC_DeletePersonItem, &MainForm::DeleteButton},
-      {IDC_RenameItem},
-      {IDC_PhotoItem, &MainForm::PhotoButton},
+      {IDC_AddPersonItem, &MainForm::AddPersonButton, &MainForm::AddPersonItem_Click},
+      {IDC_DeletePersonItem, &MainForm::DeleteButton, &MainForm::DeletePersonItem_Click},
+      {IDC_RenameItem, nullptr, &MainForm::RenameItem_Click},
+      {IDC_PhotoItem, &MainForm::PhotoButton, &MainForm::PhotoButton_Click},
       {IDC_DataItem, &MainForm::DataButton},
-      {IDC_DefCatItem, &MainForm::DefCatButton},
+      {IDC_DefCatItem, &MainForm::DefCatButton, &MainForm::DefCatButton_Click},
       {IDC_AllNamesItem, nullptr, &MainForm::AllNamesItem_Click},
       {IDC_StartingLetterItem, nullptr, &MainForm::StartingLetterItem_Click},
       {IDC_AllCategoryItem, nullptr, &MainForm::AllCategoryItem_Click},
@@ -62,6 +62,7 @@ MainForm::MainForm(std::string command_line)
       AllLabel(*this, IDC_AllLabel),
       PersonCombo(*this, IDC_PersonCombo),
       CategoryFilterLabel(*this, IDC_CategoryFilterLabel),
+      HintLabel(*this, IDC_HintLabel),
       NoteBox(*this, IDC_NoteBox),
       FatherLabel(*this, IDC_FatherLabel),
       MotherLabel(*this, IDC_MotherLabel),
@@ -149,6 +150,7 @@ void MainForm::AnchorControls() {
     Anchor(*control, kEdgeTop | kEdgeRight);
   }
   Anchor(PersonCombo, kEdgeLeft | kEdgeTop | kEdgeRight);
+  Anchor(HintLabel, kEdgeLeft | kEdgeTop | kEdgeRight);
   Anchor(NoteBox, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
   for (Control* control : std::initializer_list<Control*>{&FatherCombo, &MotherCombo}) {
     Anchor(*control, kEdgeLeft | kEdgeRight | kEdgeBottom);
@@ -165,6 +167,8 @@ void MainForm::Form_Load() {
   Global::FillAddressTitles();
   PhotoButton.SetBackColor(DataButton.BackColor());
   AnchorControls();
+  HintLabel.SetText(
+      "There are no things yet.\r\n\r\nChoose Edit, Add Thing to add the first one, or File, Open to open a file.");
   ShowTabs();
   MakeNew();
   ShowNameOrder();
@@ -194,6 +198,10 @@ void MainForm::Form_Activate() {
   RefreshFrame();
 }
 
+void MainForm::SayFull() {
+  Global::Say("A file can hold at most 32767 things.  The thing was not added.", Icon::Exclamation);
+}
+
 // Makes the start thing the current one; a name that the document does not know is added to it. False
 // when there is no such thing in the end.
 bool MainForm::ShowStartThing() {
@@ -206,7 +214,7 @@ bool MainForm::ShowStartThing() {
     if (record == 0) {
       record = InsertThing(name);
       if (record == 0) {
-        Global::Say("A file can hold at most 32767 things.  The thing was not added.", Icon::Exclamation);
+        SayFull();
         return false;
       }
       TheDocument.Modified = true;

@@ -45,6 +45,7 @@ class MainForm : public Form {
   void RefreshFrame();
   bool Always() const { return true; }
   bool ShowStartThing();
+  static void SayFull();
 
   // main_form_file.cpp: the File menu
   void NewItem_Click();
@@ -86,6 +87,13 @@ class MainForm : public Form {
   void RestoreShownName();
   Label& TabOf(const std::string& letter);
 
+  // main_form_edit.cpp: the Edit menu
+  void AddPersonItem_Click();
+  void DeletePersonItem_Click();
+  void RenameItem_Click();
+  void PhotoButton_Click();
+  void DefCatButton_Click();
+
   // main_form_thing.cpp: the current thing
   ThingRecord* CurrentRecord() const;
   void StoreEdits();
@@ -102,6 +110,7 @@ class MainForm : public Form {
   std::array<std::unique_ptr<Label>, kLetters> LetterLabel;
   ComboBox PersonCombo;
   Label CategoryFilterLabel;
+  Label HintLabel;
   TextBox NoteBox;
   Label FatherLabel, MotherLabel;
   DropDownList FatherCombo, MotherCombo;

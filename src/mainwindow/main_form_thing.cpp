@@ -60,6 +60,9 @@ int LinkPosition(int link) {
 void MainForm::DisplayThing() {
   const FlagScope scope(displaying_);
   ThingRecord* thing = CurrentRecord();
+  const bool empty = TheDocument.Things.Count() == 0;
+  NoteBox.SetVisible(!empty);
+  HintLabel.SetVisible(empty);
   NoteBox.SetEnabled(thing != nullptr);
   FatherCombo.SetEnabled(thing != nullptr);
   MotherCombo.SetEnabled(thing != nullptr);

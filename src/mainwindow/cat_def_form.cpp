@@ -1,0 +1,34 @@
+// CatDefForm: see cat_def_form.h.
+#include "mainwindow/cat_def_form.h"
+
+#include "document/text.h"
+#include "resource.h"
+
+CatDefForm::CatDefForm()
+    : Form(IDD_CatDefForm),
+      HelpButton(*this, IDC_HelpButton),
+      OKButton(*this, IDC_OKButton),
+      CancelButton(*this, IDC_CancelButton) {
+  for (int number = 1; number <= kCategories; ++number) {
+    NameBox[static_cast<std::size_t>(number - 1)] = std::make_unique<TextBox>(*this, IDC_CategoryNameBox + number - 1);
+  }
+  OKButton.Click = [this] { OKButton_Click(); };
+  CancelButton.Click = [this] { Close(); };
+}
+
+void CatDefForm::Form_Load() {
+  for (int number = 1; number <= kCategories; ++number) {
+    NameBox[static_cast<std::size_t>(number - 1)]->SetText(TheDocument.CategoryNames[number]);
+  }
+  HelpButton.SetEnabled(false);
+  NameBox.front()->SetFocus();
+  NameBox.front()->SelectAll();
+}
+
+void CatDefForm::OKButton_Click() {
+  for (int number = 1; number <= kCategories; ++number) {
+    TheDocument.CategoryNames[number] = Trim(NameBox[static_cast<std::size_t>(number - 1)]->Text());
+  }
+  Accepted = true;
+  Close();
+}

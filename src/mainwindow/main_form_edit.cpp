@@ -1,0 +1,109 @@
+// MainForm's Edit menu: adding, deleting and renaming things, their photo, and the categories.
+#include <algorithm>
+#include <utility>
+
+#include "document/document.h"
+#include "document/names.h"
+#include "document/things.h"
+#include "mainwindow/cat_def_form.h"
+#include "mainwindow/command_line.h"
+#include "mainwindow/main_form.h"
+#include "mainwindow/settings.h"
+#include "platform/message.h"
+#include "shell/file_form.h"
+#include "shell/messages.h"
+
+void MainForm::AddPersonItem_Click() {
+  StoreEdits();
+  const std::string name = NormaliseName(InputBox("Please type the name for the new object.", Global::ProgramTitle));
+  if (name.empty()) return;
+  if (FindThing(name) != 0) {
+    Global::Say("Sorry, this object is already on file.", Icon::Exclamation);
+    return;
+  }
+  const int record = InsertThing(name);
+  if (record == 0) {
+    SayFull();
+    return;
+  }
+  TheDocument.CurrentThing = record;
+  TheDocument.Modified = true;
+  Redisplay();
+  NoteBox.SetFocus();
+}
+
+void MainForm::DeletePersonItem_Click() {
+  // What was typed belongs to the thing that goes, not to the one that takes its number.
+  TheDocument.PendingEdits = false;
+  if (CurrentRecord() == nullptr) {
+    Global::Say("No record is displayed to delete.", Icon::Information);
+    return;
+  }
+  DeleteThing(TheDocument.CurrentThing);
+  TheDocument.CurrentThing = std::min(TheDocument.CurrentThing, TheDocument.Things.Count());
+  TheDocument.Modified = true;
+  Redisplay();
+  RefreshFrame();
+  Global::Say("Record deleted.", Icon::Information);
+}
+
+void MainForm::RenameItem_Click() {
+  const ThingRecord* thing = CurrentRecord();
+  if (thing == nullptr) {
+    Global::Say("No thing is displayed to rename.", Icon::Exclamation);
+    return;
+  }
+  StoreEdits();
+  const std::string name =
+      NormaliseName(InputBox("Please type the new name for " + thing->NAME, Global::ProgramTitle, thing->NAME));
+  if (name.empty()) return;
+  if (HasNameOfOther(name, TheDocument.CurrentThing)) {
+    Global::Say("Sorry, there is already a thing with that name on file.", Icon::Exclamation);
+    return;
+  }
+  TheDocument.CurrentThing = RenameThing(TheDocument.CurrentThing, name);
+  TheDocument.Modified = true;
+  Redisplay();
+  RefreshFrame();
+  Global::Say("Record renamed.", Icon::Information);
+}
+
+void MainForm::PhotoButton_Click() {
+  ThingRecord* thing = CurrentRecord();
+  if (thing == nullptr) {
+    Global::Say("First choose or add a thing, then click the button to select a portrait file.", Icon::Exclamation);
+    return;
+  }
+  StoreEdits();
+  FileRequest request;
+  request.Mode = FileRequest::Kind::Read;
+  request.Folder = TheStart.WorkingFolder;
+  request.Pattern = "*.JPG";
+  request.Name = thing->PICFILENAME;
+  {
+    // Recently saved documents are no photos: the dialog is not to offer them.
+    const int recent = std::exchange(TheRecentFiles.Count, 0);
+    const FlagScope scope(dialog_open_);
+    FileForm(request).ShowModal();
+    TheRecentFiles.Count = recent;
+  }
+  if (request.Name.empty()) return;
+  thing->PICFILENAME = request.Name;
+  TheDocument.Modified = true;
+  Redisplay();
+}
+
+void MainForm::DefCatButton_Click() {
+  StoreEdits();
+  CatDefForm form;
+  form.ShowModal();
+  if (!form.Accepted) return;
+  TheDocument.Modified = true;
+  if (view_.SelectedCategory != 0 && TheDocument.CategoryNames[view_.SelectedCategory].empty()) {
+    view_.SelectedCategory = 0;
+    view_.CategoryMask = 0;
+  }
+  ShowCategoryFilter();
+  FillCategoryList();
+  Redisplay();
+}
