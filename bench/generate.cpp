@@ -15,7 +15,6 @@
 #include "document/file_handles.h"
 #include "document/writer.h"
 #include "platform/files.h"
-#include "platform/headless/machine.h"
 #include "platform/locale.h"
 
 namespace {
@@ -222,16 +221,6 @@ void GenerateDocument(int things, unsigned seed) {
     TheDocument.Things[record] = std::move(thing);
   }
   MakeLinks(dice);
-}
-
-std::string DocumentAsFilerFile() {
-  const std::string name = "C:\\Generated.FIL";
-  Files::Open(kDataFileHandle, name, Files::Mode::Output);
-  SaveFilerFile(kDataFileHandle);
-  Files::Close(kDataFileHandle);
-  std::string bytes = Machine::FileBytes(name).value();
-  Files::Erase(name);
-  return bytes;
 }
 
 std::string DocumentAsRecFile() {

@@ -9,22 +9,29 @@ namespace {
 constexpr std::size_t kNotePiece = 70;  // characters of a note on one line, before escaping
 constexpr std::string_view kContinuationIndent = "     ";
 
-// Line breaks are escaped as one whether they are CR LF, CR or LF.
+bool IsEscaped(char character) {
+  return character == '~' || character == ';' || character == '+' || character == '\r' || character == '\n';
+}
+
+// Line breaks are escaped as one whether they are CR LF, CR or LF. Most texts need no escaping: they are
+// copied in pieces.
 void AppendEscaped(std::string& out, std::string_view text) {
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const char character = text[at];
-    const bool last = at + 1 == text.size();
+  for (std::size_t at = 0; at < text.size();) {
+    std::size_t next = at;
+    while (next < text.size() && !IsEscaped(text[next])) ++next;
+    out += text.substr(at, next - at);
+    if (next == text.size()) return;
+    at = next + 1;
+    const char character = text[next];
     if (character == '~') {
       out += '?';
     } else if (character == ';') {
       out += "~;";
-    } else if (character == '+' && last) {
-      out += "~+";
-    } else if (character == '\r' || character == '\n') {
-      out += "~/";
-      if (character == '\r' && !last && text[at + 1] == '\n') ++at;
+    } else if (character == '+') {
+      out += at == text.size() ? "~+" : "+";
     } else {
-      out += character;
+      out += "~/";
+      if (character == '\r' && at < text.size() && text[at] == '\n') ++at;
     }
   }
 }

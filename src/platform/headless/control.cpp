@@ -10,8 +10,8 @@
 namespace {
 
 // The event is copied first: its handler may destroy the form it stands in.
-void Raise(Event event) {
-  if (event) event();
+void Raise(const Event& event) {
+  if (const Event handler = event) handler();
 }
 
 }  // namespace

@@ -121,8 +121,8 @@ void Fail(unsigned long system_code) { throw RuntimeError(ErrorNumberOfSystemCod
 NodePtr Find(const std::string& name) {
   const std::string key = KeyOf(name);
   if (key == "C:\\") {
-    static const NodePtr root = std::make_shared<Node>(Node{"", true, false, ""});
-    return root;
+    static const NodePtr kRoot = std::make_shared<Node>(Node{"", true, false, ""});
+    return kRoot;
   }
   if (!FolderExists(key)) Fail(kPathMissing);
   const auto found = tree.find(key);

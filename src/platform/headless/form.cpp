@@ -77,7 +77,7 @@ void Form::SetMenuEnabled(int id, bool enabled) {
   }
 }
 
-bool Form::MenuEnabled(int id) const { return peer_->MenuGreyed.count(id) == 0; }
+bool Form::MenuEnabled(int id) const { return !peer_->MenuGreyed.contains(id); }
 
 void Form::SetMenuChecked(int id, bool checked) {
   if (checked) {
@@ -87,7 +87,7 @@ void Form::SetMenuChecked(int id, bool checked) {
   }
 }
 
-bool Form::MenuChecked(int id) const { return peer_->MenuTicked.count(id) != 0; }
+bool Form::MenuChecked(int id) const { return peer_->MenuTicked.contains(id); }
 
 // Nothing has a place here.
 void Form::PlaceBelow(const Control& /*control*/) {}
