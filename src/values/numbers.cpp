@@ -1,6 +1,7 @@
 // Reading and writing numbers: see numbers.h.
 #include "values/numbers.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -108,5 +109,36 @@ int LeadingRecordNumber(std::string_view text) {
     return TrimLeft(text).starts_with('-') ? 0 : kPastLastRecord;
   }
 }
+
+double ReadNumber(std::string_view text, char separator) {
+  if (separator == '.') return LeadingNumber(text);
+  std::string plain(Trim(text));
+  if (plain.empty() || plain.find('.') != std::string::npos) throw RuntimeError(kTypeMismatch);
+  std::replace(plain.begin(), plain.end(), separator, '.');
+  const std::size_t sign = plain.front() == '-' || plain.front() == '+' ? 1 : 0;
+  long long leading = 0;
+  const std::size_t length = NumberLength(std::string_view(plain).substr(sign), leading);
+  if (length == 0 || sign + length != plain.size()) throw RuntimeError(kTypeMismatch);
+  return LeadingNumber(plain);
+}
+
+namespace {
+
+// The digits of the shortest of two notations, as "%.*G" gives them, without the help of a locale: an
+// exponent below -4 or from `digits` on is written, with two digits at least.
+std::string Written(double number, int digits, char separator) {
+  if (number == 0) return "0";
+  char buffer[64];
+  const auto result = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::general, digits);
+  std::string text(buffer, result.ptr);
+  std::replace(text.begin(), text.end(), '.', separator);
+  std::replace(text.begin(), text.end(), 'e', 'E');
+  return text;
+}
+
+}  // namespace
+
+std::string WriteNumber(double number, char separator) { return Written(number, 15, separator); }
+std::string WriteSingle(float number, char separator) { return Written(static_cast<double>(number), 7, separator); }
 
 std::string SignedText(int number) { return (number < 0 ? "" : " ") + std::to_string(number); }

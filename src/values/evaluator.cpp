@@ -1,0 +1,224 @@
+// The formula evaluator: see evaluator.h.
+#include "values/evaluator.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "document/text.h"
+#include "platform/locale.h"
+#include "platform/program.h"
+#include "platform/runtime_error.h"
+#include "shell/messages.h"
+#include "values/field_types.h"
+#include "values/number_store.h"
+#include "values/numbers.h"
+
+namespace Global {
+
+namespace {
+
+const std::string kFailure = "?";
+
+// A value that holds its own reference would be expanded for ever.
+constexpr int kMostReplacements = 1000;
+constexpr std::size_t kLongestExpanded = 32767;
+
+bool IsOperator(char character) { return character == '+' || character == '-' || character == '*' || character == '/'; }
+
+void Complain(bool quiet, const std::string& text) {
+  if (!quiet) Say(text, Icon::Exclamation);
+}
+
+// The value of the field of that keyword (in capitals); empty when there is none.
+std::string_view ValueOf(std::string_view keyword, const std::array<FieldValueSlot, kFieldValues>& slots) {
+  for (const FieldValueSlot& slot : slots) {
+    if (slot.Keyword().size() == keyword.size() && !keyword.empty() && UpperCase(slot.Keyword()) == keyword) {
+      return slot.Value();
+    }
+  }
+  return {};
+}
+
+double Computed(double left, double right, char sign) {
+  double result = 0;
+  switch (sign) {
+    case '+':
+      result = left + right;
+      break;
+    case '-':
+      result = left - right;
+      break;
+    case '*':
+      result = left * right;
+      break;
+    default:
+      if (right == 0) throw RuntimeError(kDivisionByZero);
+      result = left / right;
+  }
+  if (!std::isfinite(result)) throw RuntimeError(kOverflow);
+  return result;
+}
+
+double Operand(std::string_view text, char separator) { return text.empty() ? 0 : ReadNumber(text, separator); }
+
+// Replaces each innermost, right-most group in parentheses by its result; false when one fails.
+bool ReplaceGroups(std::string& expression, char separator, bool quiet) {
+  for (;;) {
+    const auto open = expression.rfind('(');
+    if (open == std::string::npos) return true;
+    const auto close = expression.find(')', open);
+    if (close == std::string::npos) return true;
+    const std::string result = EvaluateFlat(expression.substr(open + 1, close - open - 1), separator, quiet);
+    if (result == kFailure) return false;
+    expression.replace(open, close - open + 1, result);
+  }
+}
+
+}  // namespace
+
+std::string ExpandFieldReferences(std::string_view expression, const std::array<FieldValueSlot, kFieldValues>& slots) {
+  std::string expanded = UpperCase(Trim(expression));
+  for (int replaced = 0;; ++replaced) {
+    const auto open = expanded.find('[');
+    const auto close = expanded.find(']');
+    if (open == std::string::npos || close == std::string::npos || close < open) return expanded;
+    if (replaced == kMostReplacements || expanded.size() > kLongestExpanded) return {};
+    // Values come as they are stored: a reference in one may be in small letters.
+    const std::string keyword = UpperCase(std::string_view(expanded).substr(open + 1, close - open - 1));
+    const std::string_view value = ValueOf(keyword, slots);
+    if (value.empty()) return {};
+    expanded.replace(open, close - open + 1, value);
+  }
+}
+
+std::string ExpandFieldReferences(std::string_view expression, int thing) {
+  return ExpandFieldReferences(expression, TheDocument.Things[thing].Values);
+}
+
+std::string EvaluateExpression(std::string& expression, std::string_view type, bool quiet) {
+  return CalculateExpression(expression, type, DecimalSeparator(), quiet);
+}
+
+std::string CalculateExpression(std::string& expression, std::string_view type, char separator, bool quiet) {
+  std::erase(expression, ' ');
+  if (expression.empty()) return "0";
+  if (expression.size() == 1) {
+    if (expression.front() < '0' || expression.front() > '9') return kFailure;
+    expression.insert(0, 1, '0');
+  }
+  expression = ConvertPercentages(std::move(expression), separator, quiet);
+  if (!ReplaceGroups(expression, separator, quiet)) return kFailure;
+  expression = EvaluateFlat(std::move(expression), separator, quiet);
+  std::string result = expression;
+  if (result.empty() || result == kFailure) return result;
+  return StoreNumberByType(result, type, separator, quiet) ? result : kFailure;
+}
+
+std::string ConvertPercentages(std::string expression, char separator, bool quiet) {
+  for (auto percent = expression.find('%'); percent != std::string::npos; percent = expression.find('%')) {
+    std::size_t first = percent;
+    while (first > 0 && !IsOperator(expression[first - 1])) --first;
+    const std::string number = expression.substr(first, percent - first);
+    std::string fraction = kFailure;
+    try {
+      fraction = WriteNumber(ReadNumber(number, separator) / 100, separator);
+    } catch (const RuntimeError& error) {
+      Complain(quiet, "Failed to convert percentage " + number + "%" + DueToError(error));
+    }
+    expression.replace(first, percent - first + 1, fraction);
+  }
+  return expression;
+}
+
+std::string EvaluateFlat(std::string expression, char separator, bool quiet) {
+  for (;;) {
+    int first = 0;
+    int last = 0;
+    char sign = 0;
+    if (!FindOperation(expression, "*/", first, last, sign) && !FindOperation(expression, "+-", first, last, sign)) {
+      return expression;
+    }
+    const auto start = static_cast<std::size_t>(first - 1);
+    const auto length = static_cast<std::size_t>(last - first + 1);
+    const std::string operation = expression.substr(start, length);
+    // The operator stands behind the left operand's signs.
+    std::size_t from = 0;
+    if (from < operation.size() && operation[from] == '-') ++from;
+    if (from < operation.size() && operation[from] == '+') ++from;
+    char found = 0;
+    const int position = NextOperator(operation, static_cast<int>(from) + 1, found);
+    const std::string result = ComputeOperation(operation, position, sign, separator, quiet);
+    if (result == kFailure) return result;
+    expression.replace(start, length, result);
+  }
+}
+
+namespace {
+
+// Where to look for the operator behind a left operand that starts at `start`: its signs are passed over.
+int BehindSigns(std::string_view expression, int start) {
+  const auto at = [&](int position) {
+    return static_cast<std::size_t>(position) <= expression.size() ? expression[static_cast<std::size_t>(position - 1)]
+                                                                   : '\0';
+  };
+  if (at(start) == '-') ++start;
+  if (at(start) == '+') ++start;
+  return start;
+}
+
+}  // namespace
+
+bool FindOperation(std::string_view expression, std::string_view operator_class, int& first, int& last, char& sign) {
+  if (expression.find_first_of(operator_class) == std::string_view::npos) return false;
+  int start = 1;
+  for (;;) {
+    const int position = NextOperator(expression, BehindSigns(expression, start), sign);
+    if (position == 0) return false;
+    if (operator_class.find(sign) != std::string_view::npos) {
+      char next_sign = 0;
+      const int next = NextOperator(expression, BehindSigns(expression, position + 1), next_sign);
+      first = start;
+      last = next == 0 ? static_cast<int>(expression.size()) : next - 1;
+      return true;
+    }
+    start = position + 1;
+  }
+}
+
+int NextOperator(std::string_view expression, int start, char& sign) {
+  for (auto at = static_cast<std::size_t>(start - 1); at < expression.size(); ++at) {
+    if (!IsOperator(expression[at])) continue;
+    if (expression[at] == '-' && at > 0 && expression[at - 1] == 'E') continue;
+    sign = expression[at];
+    return static_cast<int>(at) + 1;
+  }
+  return 0;
+}
+
+std::string ComputeOperation(std::string_view operation, int position, char sign, char separator, bool quiet) {
+  if (operation.find(')') != std::string_view::npos) return kFailure;
+  if (position < 1 || operation[static_cast<std::size_t>(position - 1)] != sign) EndProgram();
+  const auto at = static_cast<std::size_t>(position - 1);
+  try {
+    const double left = Operand(operation.substr(0, at), separator);
+    const double right = Operand(operation.substr(at + 1), separator);
+    return WriteNumber(Computed(left, right, sign), separator);
+  } catch (const RuntimeError& error) {
+    Complain(quiet, "Failed to calculate expression " + std::string(operation) + DueToError(error));
+    return kFailure;
+  }
+}
+
+int LastPositionOf(std::string_view text, std::string_view needle) {
+  const auto position = text.rfind(needle);
+  return position == std::string_view::npos ? 0 : static_cast<int>(position) + 1;
+}
+
+}  // namespace Global
+
+std::string FormulaResult(const FormulaDefinition& formula, const std::array<FieldValueSlot, kFieldValues>& slots) {
+  std::string expression = Global::ExpandFieldReferences(formula.Formula, slots);
+  if (expression.empty()) return {};
+  const std::string type = StorageType(formula.Type);
+  return type.empty() ? "?" : Global::EvaluateExpression(expression, type, true);
+}
