@@ -13,6 +13,11 @@
 #define IDD_FileForm 111
 #define IDD_CatPickForm 112
 #define IDD_CatDefForm 113
+#define IDD_FactForm 114
+#define IDD_PickListForm 115
+#define IDD_FieldDefForm 116
+#define IDD_FormulaDefForm 117
+#define IDD_DatePickForm 118
 #define IDD_InputBox 190
 
 // MainForm
@@ -82,6 +87,46 @@
 
 // CatDefForm: IDC_CategoryNameBox is category 1, + 31 is 32.
 #define IDC_CategoryNameBox 1320
+
+// FieldDefForm and FormulaDefForm
+#define IDC_DescriptionBox 1400
+#define IDC_TextOption 1401
+#define IDC_NumberOption 1402
+#define IDC_ChoiceCombo 1403
+#define IDC_FieldTypeCombo 1404
+#define IDC_AutoOption 1405
+#define IDC_FixedOption 1406
+#define IDC_TemplateBox 1407
+#define IDC_FormulaBox 1408
+#define IDC_FieldNameCombo 1409
+#define IDC_InsertButton 1410
+
+// FactForm
+#define IDC_CaptionLabel 1420
+#define IDC_DataLabel 1421
+#define IDC_DataBox 1422
+#define IDC_AddFieldButton 1423
+#define IDC_FormulaList 1424
+#define IDC_AddFieldItem 1430
+#define IDC_AddFormulaItem 1431
+#define IDC_ChangeFieldItem 1432
+#define IDC_ChangeFormulaItem 1433
+#define IDC_DeleteFieldItem 1434
+#define IDC_DeleteFormulaItem 1435
+#define IDC_InsertDateItem 1436
+#define IDC_HelpItem 1437
+
+// PickListForm
+#define IDC_PickList 1440
+
+// DatePickForm: IDC_DayButton is the sheet's upper left corner, + 41 its lower right one.
+#define IDC_MonthCombo 1450
+#define IDC_YearBox 1451
+#define IDC_TodayButton 1452
+#define IDC_DateLabel 1453
+#define IDC_PreviousButton 1454
+#define IDC_NextButton 1455
+#define IDC_DayButton 1460
 
 // The input box
 #define IDC_PromptLabel 1390

@@ -32,7 +32,7 @@ std::span<const MainForm::Command> MainForm::Commands() {
       {IDC_DeletePersonItem, &MainForm::DeleteButton, &MainForm::DeletePersonItem_Click},
       {IDC_RenameItem, nullptr, &MainForm::RenameItem_Click},
       {IDC_PhotoItem, &MainForm::PhotoButton, &MainForm::PhotoButton_Click},
-      {IDC_DataItem, &MainForm::DataButton},
+      {IDC_DataItem, &MainForm::DataButton, &MainForm::DataButton_Click},
       {IDC_DefCatItem, &MainForm::DefCatButton, &MainForm::DefCatButton_Click},
       {IDC_AllNamesItem, nullptr, &MainForm::AllNamesItem_Click},
       {IDC_StartingLetterItem, nullptr, &MainForm::StartingLetterItem_Click},

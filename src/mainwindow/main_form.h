@@ -92,6 +92,7 @@ class MainForm : public Form {
   void DeletePersonItem_Click();
   void RenameItem_Click();
   void PhotoButton_Click();
+  void DataButton_Click();
   void DefCatButton_Click();
 
   // main_form_thing.cpp: the current thing

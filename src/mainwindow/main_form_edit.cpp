@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "document/document.h"
+#include "document/fact_form.h"
+#include "document/fact_values.h"
 #include "document/names.h"
 #include "document/things.h"
 #include "mainwindow/cat_def_form.h"
@@ -90,6 +92,18 @@ void MainForm::PhotoButton_Click() {
   if (request.Name.empty()) return;
   thing->PICFILENAME = request.Name;
   TheDocument.Modified = true;
+  Redisplay();
+}
+
+void MainForm::DataButton_Click() {
+  if (CurrentRecord() == nullptr) {
+    Global::Say("First choose or add a thing, then click the MORE button.", Icon::Exclamation);
+    return;
+  }
+  StoreEdits();
+  FactForm().ShowModal();
+  // Renaming and deleting fields change things even when the dialog is cancelled.
+  ThingDataChanged = false;
   Redisplay();
 }
 

@@ -36,6 +36,9 @@ class Control {
   bool Visible() const;  // as set, whether or not the form is on the screen
   void SetVisible(bool visible);
 
+  void SetBold(bool bold);
+  bool Bold() const;
+
   void SetFocus();  // nothing happens when the control is hidden or disabled
   bool HasFocus() const;
 

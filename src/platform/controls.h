@@ -7,8 +7,6 @@
 class Label : public Control {
  public:
   Label(Form& owner, int id) : Control(owner, id, Kind::Label) {}
-  void SetBold(bool bold);
-  bool Bold() const;
   void SetBorder(bool border);  // a single line around it
   bool Border() const;
   Event Click;

@@ -12,6 +12,9 @@
 // Why a form is about to go.
 enum class UnloadMode { ControlMenu, Code, WindowsShutdown };
 
+// Keys that a form can be told of.
+enum class Key { Enter, Escape, Left, Right, Up, Down, PageUp, PageDown, Home, End };
+
 // The edges of the form that a control keeps its distance to when the form is resized.
 enum Edges : unsigned { kEdgeLeft = 1, kEdgeTop = 2, kEdgeRight = 4, kEdgeBottom = 8 };
 
@@ -59,6 +62,9 @@ class Form {
   // Enter or Esc was pressed and the form has no button with id 1 or 2 to take it.
   Event EnterKey;
   Event EscapeKey;
+
+  // One of the other keys was pressed, without Ctrl and Alt; true keeps it from the control that has the focus.
+  std::function<bool(Key)> KeyDown;
 
   Peer& PeerOf() const { return *peer_; }  // for the platform only
 

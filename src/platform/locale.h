@@ -11,3 +11,7 @@ char DecimalSeparator();
 // Upper-cases text of the system's single-byte character set, accented letters included.
 std::string UpperCase(std::string_view text);
 char UpperCase(char character);
+
+// A date in the system's short format ("8/5/2026"); years before 1601, which the system does not know, as
+// "0476-09-04".
+std::string ShortDate(int year, unsigned month, unsigned day);

@@ -1,6 +1,7 @@
 // The running program: its command line, folders and environment, and its end.
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -15,6 +16,9 @@ std::string CurrentFolder();
 
 // The value of an environment variable; nothing when it is not defined.
 std::optional<std::string> EnvironmentValue(const std::string& name);
+
+// The day it is where the machine stands.
+std::chrono::year_month_day Today();
 
 // Closes every file and ends the process at once, from wherever it is called. The in-memory
 // platform throws ProgramEnded instead, so that a test sees it.

@@ -7,7 +7,18 @@ namespace Global {
 
 std::string ProgramTitle = "Larkspur Filer";
 
-void Say(std::string_view text, Icon icon) { MsgBox(text, ProgramTitle, Buttons::Ok, icon); }
+namespace {
+
+int messages_said = 0;
+
+}  // namespace
+
+void Say(std::string_view text, Icon icon) {
+  ++messages_said;
+  MsgBox(text, ProgramTitle, Buttons::Ok, icon);
+}
+
+int MessagesSaid() { return messages_said; }
 
 bool Ask(std::string_view question, Buttons buttons, Icon icon) {
   const Answer answer = MsgBox(question, ProgramTitle, buttons, icon);

@@ -180,10 +180,13 @@ TEST_F(ControlsTest, LooksAreRemembered) {
   EXPECT_FALSE(form.TitleLabel.Border());
   EXPECT_EQ(form.FirstButton.BackColor(), BackColor::ButtonFace);
   form.TitleLabel.SetBold(true);
+  form.RedOption.SetBold(true);
   form.HintLabel.SetBorder(true);
   form.FirstButton.SetBackColor(BackColor::Marked);
   Use([&] {
     EXPECT_TRUE(form.TitleLabel.Bold());
+    EXPECT_TRUE(form.RedOption.Bold());
+    EXPECT_FALSE(form.GreenOption.Bold());
     EXPECT_FALSE(form.TitleLabel.Border());
     EXPECT_TRUE(form.HintLabel.Border());
     EXPECT_FALSE(form.HintLabel.Bold());

@@ -100,6 +100,29 @@ TEST_F(FormTest, WithoutButtonsOneAndTwoTheFormIsToldOfTheKeys) {
   form.ShowModal();
 }
 
+TEST_F(FormTest, KeysAreToldBeforeTheControlHasThem) {
+  TestForm form;
+  std::vector<Key> keys;
+  bool taken = false;
+  form.KeyDown = [&](Key key) {
+    keys.push_back(key);
+    return taken;
+  };
+  Use(form, [&] {
+    user.MovesTo(IDC_FirstButton);
+    const std::vector<Key> walk = {Key::Left,   Key::Right,    Key::Up,   Key::Down,
+                                   Key::PageUp, Key::PageDown, Key::Home, Key::End};
+    taken = true;
+    for (const Key key : walk) user.Presses(key);
+    EXPECT_EQ(keys, walk);
+    EXPECT_TRUE(user.SeesFocusOn(IDC_FirstButton));  // an arrow would have moved it on
+    taken = false;
+    user.Presses(Key::Home);
+    EXPECT_EQ(keys.size(), walk.size() + 1);
+  });
+  EXPECT_EQ(keys.back(), Key::Home);
+}
+
 TEST_F(FormTest, CloseBoxClicksButtonTwoOrAsksTheForm) {
   TestForm form;
   user.UsesForm(IDD_TestForm, [&] {

@@ -78,6 +78,20 @@ TEST(Locale, EveryCapitalIsItsOwnCapital) {
 
 TEST(Locale, DecimalSeparatorOfAnEnglishMachineIsThePoint) { EXPECT_EQ(DecimalSeparator(), '.'); }
 
+TEST(Locale, ShortDatesAreTheSystemsWithinItsYears) {
+  EXPECT_EQ(ShortDate(2026, 8, 5), "8/5/2026");
+  EXPECT_EQ(ShortDate(2026, 12, 25), "12/25/2026");
+  EXPECT_EQ(ShortDate(1601, 1, 1), "1/1/1601");
+  EXPECT_EQ(ShortDate(9998, 12, 31), "12/31/9998");
+  EXPECT_EQ(ShortDate(1600, 12, 31), "1600-12-31");
+  EXPECT_EQ(ShortDate(476, 9, 4), "0476-09-04");
+}
+
+TEST(Program, TodayIsADayOfTheCalendar) {
+  EXPECT_TRUE(Today().ok());
+  EXPECT_GE(Today().year(), std::chrono::year{2026});
+}
+
 void ExpectFolderForm(const std::string& folder) {
   ASSERT_GE(folder.size(), 3U);
   EXPECT_EQ(folder.substr(1, 2), ":\\") << folder;

@@ -7,9 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/form.h"
 #include "platform/message.h"
-
-enum class Key { Enter, Escape };
 
 class User {
  public:

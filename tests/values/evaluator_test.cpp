@@ -1,6 +1,8 @@
 // Formulas: their language, and what comes of every odd way to write one.
 #include "values/evaluator.h"
 
+#include <algorithm>
+
 #include "support/fresh_test.h"
 
 namespace {
@@ -137,7 +139,10 @@ TEST_F(EvaluatorTest, EndsOnLongExpressions) {
   }
   EXPECT_EQ(Value(sum), "5001");
   EXPECT_EQ(Value(product), "1");
-  EXPECT_EQ(Value(std::string(20000, '(') + "2" + std::string(20000, ')')), "2");
+  std::string nested(40001, '(');
+  nested[20000] = '2';
+  std::fill(nested.begin() + 20001, nested.end(), ')');
+  EXPECT_EQ(Value(nested), "2");
 }
 
 }  // namespace

@@ -7,8 +7,8 @@
 #include "platform/headless/internals.h"
 #include "platform/runtime_error.h"
 
-void Label::SetBold(bool bold) { PeerOf().Bold = bold; }
-bool Label::Bold() const { return PeerOf().Bold; }
+void Control::SetBold(bool bold) { PeerOf().Bold = bold; }
+bool Control::Bold() const { return PeerOf().Bold; }
 void Label::SetBorder(bool border) { PeerOf().Border = border; }
 bool Label::Border() const { return PeerOf().Border; }
 

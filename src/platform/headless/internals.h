@@ -25,7 +25,7 @@ struct Control::Peer {
   bool Enabled = true;
   bool Visible = true;
 
-  bool Bold = false;      // label
+  bool Bold = false;
   bool Border = false;    // label
   bool ReadOnly = false;  // text box
   int TextLimit = 0;      // text box

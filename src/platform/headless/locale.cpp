@@ -5,6 +5,7 @@
 #include <array>
 
 #include "platform/headless/machine.h"
+#include "platform/iso_date.h"
 
 namespace {
 
@@ -40,4 +41,9 @@ std::string UpperCase(std::string_view text) {
   std::string result(text);
   for (char& each : result) each = UpperCase(each);
   return result;
+}
+
+std::string ShortDate(int year, unsigned month, unsigned day) {
+  if (year < kFirstKnownYear) return IsoDate(year, month, day);
+  return std::to_string(month) + "/" + std::to_string(day) + "/" + std::to_string(year);
 }

@@ -11,6 +11,7 @@
 namespace Machine {
 
 void SetDecimalSeparator(char separator);
+void SetToday(int year, unsigned month, unsigned day);
 void SetEnvironment(const std::string& name, const std::optional<std::string>& value);  // nothing: not defined
 void SetCommandLine(const std::string& text);
 void SetProgramFolder(const std::string& folder);

@@ -26,7 +26,7 @@ std::vector<HWND> GroupOf(HWND option) {
 
 }  // namespace
 
-void Label::SetBold(bool bold) {
+void Control::SetBold(bool bold) {
   if (bold == Bold()) return;
   Form::Peer& form = Owner().PeerOf();
   PeerOf().Bold = bold;
@@ -34,7 +34,7 @@ void Label::SetBold(bool bold) {
   PeerOf().Send(WM_SETFONT, bold ? reinterpret_cast<WPARAM>(form.Bold()) : static_cast<WPARAM>(plain), TRUE);
 }
 
-bool Label::Bold() const { return PeerOf().Bold; }
+bool Control::Bold() const { return PeerOf().Bold; }
 
 void Label::SetBorder(bool border) {
   if (border == Border()) return;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <utility>
 
 #include "platform/win32/internals.h"
@@ -15,14 +16,53 @@ std::vector<Form*>& OpenForms() {
 
 Form* TopmostForm() { return OpenForms().empty() ? nullptr : OpenForms().back(); }
 
+namespace {
+
+std::optional<Key> KeyOf(const MSG& message) {
+  if (message.message != WM_KEYDOWN || GetKeyState(VK_CONTROL) < 0 || GetKeyState(VK_MENU) < 0) return std::nullopt;
+  switch (message.wParam) {
+    case VK_LEFT:
+      return Key::Left;
+    case VK_RIGHT:
+      return Key::Right;
+    case VK_UP:
+      return Key::Up;
+    case VK_DOWN:
+      return Key::Down;
+    case VK_PRIOR:
+      return Key::PageUp;
+    case VK_NEXT:
+      return Key::PageDown;
+    case VK_HOME:
+      return Key::Home;
+    case VK_END:
+      return Key::End;
+    default:
+      return std::nullopt;
+  }
+}
+
+// True when the form took the key.
+bool TellKey(Form::Peer& peer, const MSG& message) {
+  const std::optional<Key> key = KeyOf(message);
+  const std::function<bool(Key)> key_down = peer.Self->KeyDown;
+  if (!key || !key_down) return false;
+  bool taken = false;
+  peer.Guard([&] { taken = key_down(*key); });
+  return taken;
+}
+
+}  // namespace
+
 void Dispatch(MSG& message) {
   if (const Form* form = TopmostForm()) {
-    const Form::Peer& peer = form->PeerOf();
+    Form::Peer& peer = form->PeerOf();
     const bool takes_keys = GetActiveWindow() == peer.Window && IsWindowEnabled(peer.Window);
     if (takes_keys && peer.Accelerators != nullptr &&
         TranslateAcceleratorA(peer.Window, peer.Accelerators, &message) != 0) {
       return;
     }
+    if (takes_keys && TellKey(peer, message)) return;
     if (IsDialogMessageA(peer.Window, &message)) return;
   }
   TranslateMessage(&message);

@@ -31,7 +31,7 @@ struct Control::Peer {
   std::string Told;      // text box, combo: the text as the program knows it
   int Selected = -1;     // lists: the selection as the program knows it
   bool Checked = false;  // option button, likewise
-  bool Bold = false;     // label
+  bool Bold = false;
   ::BackColor Back = ::BackColor::ButtonFace;
   std::shared_ptr<Photo> Shown;  // picture; null when empty
 

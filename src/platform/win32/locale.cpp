@@ -7,6 +7,8 @@
 #include <array>
 #include <cstddef>
 
+#include "platform/iso_date.h"
+
 namespace {
 
 using CapitalTable = std::array<char, 256>;
@@ -47,4 +49,17 @@ std::string UpperCase(std::string_view text) {
   std::string result(text);
   std::transform(result.begin(), result.end(), result.begin(), [](char each) { return UpperCase(each); });
   return result;
+}
+
+std::string ShortDate(int year, unsigned month, unsigned day) {
+  SYSTEMTIME date{};
+  date.wYear = static_cast<WORD>(year);
+  date.wMonth = static_cast<WORD>(month);
+  date.wDay = static_cast<WORD>(day);
+  std::array<char, 80> text{};
+  if (year < kFirstKnownYear || GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &date, nullptr, text.data(),
+                                               static_cast<int>(text.size())) == 0) {
+    return IsoDate(year, month, day);
+  }
+  return text.data();
 }

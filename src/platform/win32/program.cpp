@@ -60,6 +60,12 @@ std::optional<std::string> EnvironmentValue(const std::string& name) {
   return value;
 }
 
+std::chrono::year_month_day Today() {
+  SYSTEMTIME now{};
+  GetLocalTime(&now);
+  return {std::chrono::year{now.wYear}, std::chrono::month{now.wMonth}, std::chrono::day{now.wDay}};
+}
+
 void EndProgram() {
   Files::CloseAll();
   if (EndHook != nullptr) EndHook();

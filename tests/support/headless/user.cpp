@@ -157,6 +157,12 @@ void User::Presses(Key key) {
     PressOn(*form, kEscapeButton, form->EscapeKey);
     return;
   }
+  if (key != Key::Enter) {
+    // What a control does with such a key is its own affair, and none here does anything.
+    const std::function<bool(Key)> key_down = form->KeyDown;
+    if (key_down) key_down(key);
+    return;
+  }
   Control* focused = form->PeerOf().Focus;
   if (focused != nullptr && focused->PeerOf().What == Kind::Button && focused->PeerOf().TakesFocus()) {
     focused->PeerOf().Click();

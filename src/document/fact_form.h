@@ -1,0 +1,59 @@
+// FactForm: the field values of the current thing, what the formulas make of them, and the menus that define
+// fields and formulas. The values are edited on a copy; the definitions are changed at once.
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/form.h"
+#include "platform/lists.h"
+#include "values/definitions.h"
+#include "values/number_store.h"
+
+class FactForm : public Form {
+ public:
+  FactForm();
+
+ private:
+  struct Command;
+  static std::span<const Command> Commands();
+
+  Label CaptionLabel;
+  DropDownList FieldNameCombo;
+  Button AddFieldButton;
+  Label DataLabel;
+  TextBox DataBox;
+  ListBox FormulaList;
+  Button OKButton;
+  Button CancelButton;
+
+  void Form_Load() override;
+  void FieldNameCombo_Click();
+  void OKButton_Click();
+
+  // The menus: what is being edited is stored before one of these runs.
+  void RunCommand(int id);
+  void AddFieldItem_Click();
+  void AddFormulaItem_Click();
+  void ChangeFieldItem_Click();
+  void ChangeFormulaItem_Click();
+  void DeleteFieldItem_Click();
+  void DeleteFormulaItem_Click();
+  void InsertDateItem_Click();
+  void DefineField(int number);
+  void DefineFormula(int number);
+
+  bool EndEdit();
+  void MoveToNextField();
+  void ShowDefinitions();
+  void ShowField();
+  void ShowValue();
+  void ShowFormulas();
+
+  FieldSlots working_;
+  int field_ = 0;      // the field whose value is in the box, 0 for none
+  std::string shown_;  // what the box was filled with: any other text was typed
+  Global::InterestQuestionOnce interest_question_once_;
+};

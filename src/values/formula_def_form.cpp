@@ -1,0 +1,103 @@
+// FormulaDefForm: see formula_def_form.h.
+#include "values/formula_def_form.h"
+
+#include "document/text.h"
+#include "platform/locale.h"
+#include "resource.h"
+#include "shell/messages.h"
+#include "values/field_types.h"
+#include "values/templates.h"
+
+FormulaDefForm::FormulaDefForm(int number)
+    : Form(IDD_FormulaDefForm),
+      NameBox(*this, IDC_NameBox),
+      DescriptionBox(*this, IDC_DescriptionBox),
+      FieldTypeCombo(*this, IDC_FieldTypeCombo),
+      AutoOption(*this, IDC_AutoOption),
+      FixedOption(*this, IDC_FixedOption),
+      TemplateBox(*this, IDC_TemplateBox),
+      FormulaBox(*this, IDC_FormulaBox),
+      FieldNameCombo(*this, IDC_FieldNameCombo),
+      InsertButton(*this, IDC_InsertButton),
+      OKButton(*this, IDC_OKButton),
+      CancelButton(*this, IDC_CancelButton),
+      number_(number) {
+  FieldTypeCombo.Click = [this] { FieldTypeCombo_Click(); };
+  AutoOption.Click = [this] { AutoOption_Click(); };
+  FixedOption.Click = [this] { FixedOption_Click(); };
+  InsertButton.Click = [this] { InsertButton_Click(); };
+  OKButton.Click = [this] { OKButton_Click(); };
+  CancelButton.Click = [this] { Close(); };
+}
+
+void FormulaDefForm::Form_Load() {
+  FieldTypeCombo.Fill(TypeEntries());
+  FieldNameCombo.Fill(FieldEntries());
+  if (TheDocument.Formulas.Holds(number_)) {
+    SetCaption("Change Formula");
+    ShowFormula(TheDocument.Formulas[number_]);
+  } else {
+    SetCaption("Add Formula");
+    FieldTypeCombo.Select(0);
+    AutoOption.SetChecked(true);
+  }
+  NameBox.SetFocus();
+  NameBox.SelectAll();
+}
+
+void FormulaDefForm::ShowFormula(const FormulaDefinition& formula) {
+  NameBox.SetText(formula.Name);
+  DescriptionBox.SetText(formula.Title);
+  loaded_type_ = formula.Type;
+  FieldTypeCombo.Select(TypePosition(formula.Type));
+  if (formula.Format.empty()) {
+    AutoOption.SetChecked(true);
+  } else {
+    FixedOption.SetChecked(true);
+    TemplateBox.SetText(formula.Format);
+  }
+  FormulaBox.SetText(formula.Formula);
+}
+
+void FormulaDefForm::ShowDefaultTemplate() {
+  const std::string display_template = Global::LocaliseTemplate(Global::DefaultTemplate(ChosenType()));
+  if (!display_template.empty()) TemplateBox.SetText(display_template);
+}
+
+void FormulaDefForm::AutoOption_Click() {
+  ShowDefaultTemplate();
+  TemplateBox.SetEnabled(false);
+}
+
+void FormulaDefForm::FixedOption_Click() { TemplateBox.SetEnabled(true); }
+
+void FormulaDefForm::InsertButton_Click() {
+  if (FieldNameCombo.Selected() < 0) return;
+  FormulaBox.SetText(AppendReference(FormulaBox.Text(), FieldNameCombo.Text()));
+}
+
+// A type that the list does not offer is kept until another one is picked.
+std::string FormulaDefForm::ChosenType() const {
+  return FieldTypeCombo.Selected() < 0 ? loaded_type_ : FieldTypeCombo.Text();
+}
+
+Control& FormulaDefForm::BoxOf(DefinitionBox box) {
+  if (box == DefinitionBox::Name) return NameBox;
+  if (box == DefinitionBox::Description) return DescriptionBox;
+  return TemplateBox;
+}
+
+void FormulaDefForm::OKButton_Click() {
+  NameBox.SetText(UpperCase(NameBox.Text()));
+  const bool fixed = FixedOption.Checked();
+  const FormulaDefinition entry{NameBox.Text(), DescriptionBox.Text(), ChosenType(), fixed ? TemplateBox.Text() : "",
+                                std::string(Trim(FormulaBox.Text()))};
+  if (const Refusal refusal = CheckFormula(entry, number_, fixed)) {
+    Global::Say(refusal.Text, Icon::Exclamation);
+    BoxOf(refusal.Box).SetFocus();
+    return;
+  }
+  StoreFormula(number_, entry);
+  Accepted = true;
+  Close();
+}
