@@ -57,6 +57,7 @@ DatePickForm::DatePickForm(CalendarDate date)
 
 void DatePickForm::Form_Load() {
   std::vector<ListEntry> months;
+  months.reserve(std::size(kMonths));
   for (const std::string_view month : kMonths) months.push_back({std::string(month), 0});
   MonthCombo.Fill(months);
   YearBox.SetTextLimit(4);

@@ -197,6 +197,7 @@ std::vector<ListEntry> FieldEntries() {
 
 std::vector<ListEntry> TypeEntries() {
   std::vector<ListEntry> entries;
+  entries.reserve(kOfferedTypes.size());
   for (const std::string_view type : kOfferedTypes) entries.push_back({std::string(type), 0});
   return entries;
 }

@@ -147,7 +147,7 @@ std::string EvaluateFlat(std::string expression, char separator, bool quiet) {
     if (from < operation.size() && operation[from] == '+') ++from;
     char found = 0;
     const int position = NextOperator(operation, static_cast<int>(from) + 1, found);
-    const std::string result = ComputeOperation(operation, position, sign, separator, quiet);
+    std::string result = ComputeOperation(operation, position, sign, separator, quiet);
     if (result == kFailure) return result;
     expression.replace(start, length, result);
   }

@@ -51,7 +51,7 @@ std::optional<std::string> PlainNumber(const std::string& type, double number, c
 std::string MoneyText(double amount, char separator) {
   const double pennies = std::nearbyint(amount * 100);
   if (pennies == 0) return "0";
-  const std::int64_t whole = static_cast<std::int64_t>(std::abs(pennies));
+  const auto whole = static_cast<std::int64_t>(std::abs(pennies));
   std::string text = (pennies < 0 ? "-" : "") + std::to_string(whole / 100) + separator;
   text += static_cast<char>('0' + whole / 10 % 10);
   text += static_cast<char>('0' + whole % 10);
@@ -69,7 +69,7 @@ bool KeepsHighInterest(bool quiet) {
 
 // The stored text of a percentage, replaced when it is out of the type's range.
 std::string PercentText(const std::string& type, float percentage, char separator, bool quiet) {
-  const std::string written = WriteSingle(percentage, separator) + "%";
+  std::string written = WriteSingle(percentage, separator) + "%";
   if (type == "INTRATE") {
     if (percentage < 0) {
       Complain(quiet, "Invalid interest value " + written +
