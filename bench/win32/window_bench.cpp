@@ -122,14 +122,18 @@ void TimeFilling(HWND window) {
 void TimePicking(HWND window) {
   HWND combo = GetDlgItem(window, IDC_PersonCombo);
   std::vector<double> picks;
+  std::vector<double> handled;
   for (int pick = 1; pick <= kPicks; ++pick) {
     const int position = static_cast<int>(static_cast<long long>(pick) * (kLastRecord - 1) / kPicks);
     picks.push_back(TimeOf([&] {
-      SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(position), 0);
-      SendMessageA(window, WM_COMMAND, MAKEWPARAM(IDC_PersonCombo, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+      handled.push_back(TimeOf([&] {
+        SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(position), 0);
+        SendMessageA(window, WM_COMMAND, MAKEWPARAM(IDC_PersonCombo, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+      }));
       Pump();
     }));
   }
+  Report("picking a thing, handled", handled);
   ReportAim("picking a thing", Report("picking a thing, painted", picks), 16);
 }
 

@@ -1,6 +1,8 @@
 // The writer of the Filer data file: see writer.h.
 #include "document/writer.h"
 
+#include <array>
+
 #include "document/document.h"
 #include "platform/files.h"
 
@@ -9,9 +11,16 @@ namespace {
 constexpr std::size_t kNotePiece = 70;  // characters of a note on one line, before escaping
 constexpr std::string_view kContinuationIndent = "     ";
 
-bool IsEscaped(char character) {
-  return character == '~' || character == ';' || character == '+' || character == '\r' || character == '\n';
+// Which characters may have to be escaped: a table, as every character of the document passes here.
+constexpr std::array<bool, 256> MakeEscaped() {
+  std::array<bool, 256> escaped{};
+  for (const char character : {'~', ';', '+', '\r', '\n'}) escaped[static_cast<unsigned char>(character)] = true;
+  return escaped;
 }
+
+constexpr auto kEscaped = MakeEscaped();
+
+bool IsEscaped(char character) { return kEscaped[static_cast<unsigned char>(character)]; }
 
 // Line breaks are escaped as one whether they are CR LF, CR or LF. Most texts need no escaping: they are
 // copied in pieces.
