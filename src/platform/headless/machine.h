@@ -17,6 +17,11 @@ void SetCommandLine(const std::string& text);
 void SetProgramFolder(const std::string& folder);
 void SetCurrentFolder(const std::string& folder);  // need not exist: the system does not see to it either
 
+// Programs. A start succeeds for a file of the machine's disk (".exe" may be left out).
+std::vector<std::string> StartedPrograms();  // the command lines since the last call
+void FailStart(
+    std::optional<int> error);  // every start fails with that error, or gives no process (0); nothing: none does
+
 // Files, by full name or relative to the current folder. None of these counts as a file call, and
 // none minds read-only flags or handles. Putting a file into a folder that is missing throws.
 void PutFile(const std::string& name, std::string_view bytes);
