@@ -26,6 +26,7 @@ void CheckList::Fill(const std::vector<std::string>& entries) {
   const bool visible = Visible();
   if (visible) peer.Send(WM_SETREDRAW, FALSE);
   peer.Send(LVM_DELETEALLITEMS);
+  peer.Ticks.assign(entries.size(), false);
   std::string text;
   for (std::size_t index = 0; index < entries.size(); ++index) {
     text = entries[index];
@@ -43,7 +44,7 @@ void CheckList::Fill(const std::vector<std::string>& entries) {
   peer.After(WM_SIZE);  // a scroll bar may have come or gone
 }
 
-int CheckList::Count() const { return static_cast<int>(PeerOf().Send(LVM_GETITEMCOUNT)); }
+int CheckList::Count() const { return static_cast<int>(PeerOf().Ticks.size()); }
 
 std::string CheckList::EntryText(int position) const {
   if (position < 0 || position >= Count()) return {};
@@ -62,8 +63,7 @@ std::string CheckList::EntryText(int position) const {
 
 bool CheckList::Checked(int position) const {
   if (position < 0 || position >= Count()) return false;
-  const LRESULT state = PeerOf().Send(LVM_GETITEMSTATE, static_cast<WPARAM>(position), LVIS_STATEIMAGEMASK);
-  return ImageOf(static_cast<UINT>(state)) == kChecked;
+  return PeerOf().Ticks[static_cast<std::size_t>(position)];
 }
 
 void CheckList::SetChecked(int position, bool checked) {
@@ -77,11 +77,13 @@ void CheckList::SetChecked(int position, bool checked) {
 }
 
 void Control::Peer::Notified(const NMHDR& header) {
-  if (What != Kind::CheckList || Silent > 0 || header.code != LVN_ITEMCHANGED) return;
+  if (What != Kind::CheckList || header.code != LVN_ITEMCHANGED) return;
   const NMLISTVIEW& change = reinterpret_cast<const NMLISTVIEW&>(header);
   const UINT before = ImageOf(change.uOldState);
   const UINT after = ImageOf(change.uNewState);
   if ((change.uChanged & LVIF_STATE) == 0 || before == after || before == 0 || after == 0) return;
+  Ticks[static_cast<std::size_t>(change.iItem)] = after == kChecked;
+  if (Silent > 0) return;
   const std::function<void(int)> item_check = static_cast<CheckList*>(Self)->ItemCheck;
   if (item_check) item_check(change.iItem);
 }
