@@ -1,7 +1,11 @@
 // The writer of the Filer data file: see writer.h.
 #include "document/writer.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
+#include <cstddef>
+#include <vector>
 
 #include "document/document.h"
 #include "platform/files.h"
@@ -20,29 +24,30 @@ constexpr std::array<bool, 256> MakeEscaped() {
 
 constexpr auto kEscaped = MakeEscaped();
 
-bool IsEscaped(char character) { return kEscaped[static_cast<unsigned char>(character)]; }
+constexpr std::size_t kLongestEscape = 2;
 
-// Line breaks are escaped as one whether they are CR LF, CR or LF. Most texts need no escaping: they are
-// copied in pieces.
-void AppendEscaped(std::string& out, std::string_view text) {
-  for (std::size_t at = 0; at < text.size();) {
-    std::size_t next = at;
-    while (next < text.size() && !IsEscaped(text[next])) ++next;
-    out += text.substr(at, next - at);
-    if (next == text.size()) return;
-    at = next + 1;
-    const char character = text[next];
+// Writes the escaped text at `out`, where there is room for kLongestEscape times its length, and returns its end.
+// Line breaks are escaped as one whether they are CR LF, CR or LF.
+char* Escape(std::string_view text, char* out) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const char character = text[at];
+    if (!kEscaped[static_cast<unsigned char>(character)]) {
+      *out++ = character;
+      continue;
+    }
+    const bool last = at + 1 == text.size();
     if (character == '~') {
-      out += '?';
-    } else if (character == ';') {
-      out += "~;";
+      *out++ = '?';
     } else if (character == '+') {
-      out += at == text.size() ? "~+" : "+";
+      if (last) *out++ = '~';
+      *out++ = '+';
     } else {
-      out += "~/";
-      if (character == '\r' && at < text.size() && text[at] == '\n') ++at;
+      *out++ = '~';
+      *out++ = character == ';' ? ';' : '/';
+      if (character == '\r' && !last && text[at + 1] == '\n') ++at;
     }
   }
+  return out;
 }
 
 // Builds the text line by line and hands it to the file in large pieces.
@@ -51,28 +56,44 @@ class LineWriter {
   explicit LineWriter(int handle) : handle_(handle) {}
 
   LineWriter& Plain(std::string_view text) {
-    text_ += text;
+    char* out = RoomFor(text.size());
+    end_ = std::copy(text.begin(), text.end(), out);
     return *this;
   }
-  LineWriter& Plain(int number) { return Plain(std::to_string(number)); }
+  LineWriter& Plain(int number) {
+    constexpr std::size_t kLongest = 12;
+    char* out = RoomFor(kLongest);
+    end_ = std::to_chars(out, out + kLongest, number).ptr;
+    return *this;
+  }
   LineWriter& Escaped(std::string_view text) {
-    AppendEscaped(text_, text);
+    end_ = Escape(text, RoomFor(text.size() * kLongestEscape));
     return *this;
   }
-  void EndLine() {
-    text_ += "\r\n";
-    if (text_.size() >= kPiece) Deliver();
-  }
+  void EndLine() { Plain("\r\n"); }
   void Line(std::string_view text) { Plain(text).EndLine(); }
   void Deliver() {
-    Files::Write(handle_, text_);
-    text_.clear();
+    Files::Write(handle_, std::string_view(text_.data(), static_cast<std::size_t>(end_ - text_.data())));
+    end_ = text_.data();
   }
 
  private:
-  static constexpr std::size_t kPiece = 65536;
+  static constexpr std::size_t kPiece = 262144;
+
+  char* RoomFor(std::size_t size) {
+    if (size > static_cast<std::size_t>(text_.data() + text_.size() - end_)) {
+      Deliver();
+      if (size > text_.size()) {
+        text_.resize(size);
+        end_ = text_.data();
+      }
+    }
+    return end_;
+  }
+
   int handle_;
-  std::string text_;
+  std::vector<char> text_ = std::vector<char>(kPiece);
+  char* end_ = text_.data();  // behind what is still to be delivered
 };
 
 void WriteCategories(LineWriter& out) {
@@ -156,16 +177,19 @@ void WriteThing(LineWriter& out, int number) {
   WriteLinks(out, thing);
   if (thing.CATBITMAP != 0) out.Plain("CATBITMAP=").Plain(thing.CATBITMAP).EndLine();
   for (const FieldValueSlot& slot : thing.Values) {
-    if (slot.Keyword().empty()) continue;
-    out.Plain("%").Escaped(slot.Keyword()).Plain("=").Escaped(slot.Value()).EndLine();
+    if (slot.Text.empty()) continue;
+    const std::string_view keyword = slot.Keyword();
+    if (keyword.empty()) continue;
+    const std::string_view value = std::string_view(slot.Text).substr(keyword.size() + 1);
+    out.Plain("%").Escaped(keyword).Plain("=").Escaped(value).EndLine();
   }
 }
 
 }  // namespace
 
 std::string EscapeValue(std::string_view text) {
-  std::string escaped;
-  AppendEscaped(escaped, text);
+  std::string escaped(text.size() * kLongestEscape, '\0');
+  escaped.resize(static_cast<std::size_t>(Escape(text, escaped.data()) - escaped.data()));
   return escaped;
 }
 
