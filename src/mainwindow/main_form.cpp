@@ -114,7 +114,7 @@ void MainForm::WireEvents() {
   PersonCombo.Change = [this] { PersonCombo_Change(); };
   PersonCombo.LostFocus = [this] { PersonCombo_LostFocus(); };
   NoteBox.Change = On(&MainForm::NoteBox_Change);
-  NoteBox.LostFocus = On(&MainForm::NoteBox_LostFocus);
+  NoteBox.LostFocus = [this] { Later(On(&MainForm::NoteBox_LostFocus)); };
   FatherCombo.Click = MotherCombo.Click = On(&MainForm::LinkCombo_Click);
   CatList.ItemCheck = [this](int position) {
     CatList_ItemCheck(position);

@@ -50,6 +50,10 @@ class Form {
   std::string Caption() const;
   void SetCaption(std::string_view caption);
 
+  // Runs the event when what the user is doing now is done: a box shown while a click moves the focus would
+  // swallow that click.
+  void Later(Event event);
+
   // Menu entries, by id. Separators and unknown ids are left alone.
   void SetMenuEnabled(int id, bool enabled);
   bool MenuEnabled(int id) const;

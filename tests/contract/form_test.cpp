@@ -123,6 +123,19 @@ TEST_F(FormTest, KeysAreToldBeforeTheControlHasThem) {
   EXPECT_EQ(keys.back(), Key::Home);
 }
 
+TEST_F(FormTest, WhatIsForLaterComesBehindTheClickThatMovedTheFocus) {
+  TestForm form;
+  form.LineBox.LostFocus = [&form] { form.Later([&form] { form.Log.push_back("Later"); }); };
+  Use(form, [&] {
+    user.MovesTo(IDC_LineBox);
+    user.Clicks(IDC_FirstButton);
+    EXPECT_EQ(form.Came(), (Events{"FirstButton Click", "Later"}));
+    user.MovesTo(IDC_LineBox);
+    user.MovesTo(IDC_FirstButton);
+    EXPECT_EQ(form.Came(), Events{"Later"});
+  });
+}
+
 TEST_F(FormTest, CloseBoxClicksButtonTwoOrAsksTheForm) {
   TestForm form;
   user.UsesForm(IDD_TestForm, [&] {

@@ -179,6 +179,13 @@ TEST_F(ListTest, CorrectsLineBreaksOnce) {
   user.Picks(IDC_PersonCombo, "Zoo");
   EXPECT_EQ(TheDocument.Things[1].NOTE, "one??two");
 
+  // A click that leaves the box still counts.
+  user.Types(IDC_NoteBox, "three\r\nfour");
+  user.Reads(message, Icon::Exclamation);
+  user.UsesForm(IDD_CatDefForm, [&] { user.Clicks(IDC_CancelButton); });
+  user.Clicks(IDC_DefCatButton);
+  EXPECT_EQ(TheDocument.Things[5].NOTE, "three?four");
+
   std::string text = "a\rb\nc\r\nd";
   user.Reads(message, Icon::Exclamation);
   EXPECT_TRUE(MainForm::ValidateText(text));

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <utility>
 
 #include "platform/headless/internals.h"
 #include "platform/program.h"
@@ -63,6 +64,8 @@ void Form::RunUntilClosed() {
   peer_->Gone();
 }
 
+void Form::Later(Event event) { peer_->Deferred.push_back(std::move(event)); }
+
 void Form::Close() { peer_->Unload(UnloadMode::Code); }
 bool Form::Closed() const { return peer_->Closed; }
 
@@ -105,6 +108,10 @@ void Form::Peer::MoveFocus(Control* control) {
   Focus = control;
   if (lost) lost();
   if (got) got();
+}
+
+void Form::Peer::RunDeferred() {
+  for (const Event& event : std::exchange(Deferred, {})) event();
 }
 
 void Form::Peer::Appear() {

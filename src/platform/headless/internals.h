@@ -61,11 +61,13 @@ struct Form::Peer {
   bool Shown = false;
   bool Modal = false;
   bool Closed = false;
+  std::vector<Event> Deferred;
   std::set<int> MenuGreyed;
   std::set<int> MenuTicked;
 
   Control* Find(int id) const;       // nullptr when there is none
   void MoveFocus(Control* control);  // raises LostFocus and GotFocus while the form is shown
+  void RunDeferred();                // when the person has done what there was to do
   void Appear();                     // Form_Load, onto the stack, first focus, Form_Activate
   void Activate() { Self->Form_Activate(); }
   void Unload(UnloadMode mode);  // Form_QueryUnload, Form_Unload

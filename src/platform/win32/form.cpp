@@ -129,6 +129,11 @@ bool Form::Closed() const { return peer_->Closed; }
 std::string Form::Caption() const { return TextOfWindow(peer_->Window); }
 void Form::SetCaption(std::string_view caption) { SetWindowTextA(peer_->Window, std::string(caption).c_str()); }
 
+void Form::Later(Event event) {
+  peer_->Deferred.push_back(std::move(event));
+  PostMessageA(peer_->Window, WM_NULL, 0, 0);  // wakes the message loop
+}
+
 void Form::Anchor(Control& control, unsigned edges) { peer_->Sizes.Anchor(control.PeerOf().Window, edges); }
 
 Control* Form::Peer::Find(int id) const {
@@ -192,8 +197,14 @@ void Form::Peer::Loop() {
       return;
     }
     Dispatch(message);
+    RunDeferred();
   }
   RethrowCarried();
+}
+
+void Form::Peer::RunDeferred() {
+  if (Deferred.empty() || GetCapture() != nullptr || GetKeyState(VK_LBUTTON) < 0) return;
+  for (const Event& event : std::exchange(Deferred, {})) Raise(event);
 }
 
 void Form::Peer::Unload(UnloadMode mode) {

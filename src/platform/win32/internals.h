@@ -85,10 +85,11 @@ struct Form::Peer {
   bool Appearing = false;  // moves of the focus are not told yet
   bool Modal = false;
   bool Closed = false;
-  bool ToActivate = false;     // became the active form, and Form_Activate did not run yet
-  int Runs = 0;                // how often its message loop was begun
-  bool Running = false;        // it is in its message loop
-  std::exception_ptr Carried;  // what a handler threw, until the message loop takes it up
+  bool ToActivate = false;      // became the active form, and Form_Activate did not run yet
+  int Runs = 0;                 // how often its message loop was begun
+  bool Running = false;         // it is in its message loop
+  std::vector<Event> Deferred;  // for when no mouse button is held down
+  std::exception_ptr Carried;   // what a handler threw, until the message loop takes it up
 
   Control* Find(int id) const;  // nullptr when there is none
   void Make(int template_id);
@@ -97,6 +98,7 @@ struct Form::Peer {
   void Appear(Form* owner);
   void GiveFirstFocus();
   void Loop();
+  void RunDeferred();
   void Unload(UnloadMode mode);
   void Gone();  // closed and off the screen, without asking
   void Activate();

@@ -31,6 +31,11 @@ Form* Topmost() {
   return OpenForms().back();
 }
 
+// What an action set off for later.
+void Settle() {
+  if (!OpenForms().empty()) OpenForms().back()->PeerOf().RunDeferred();
+}
+
 // The control of that id on the topmost form, or null, which fails the test.
 Control::Peer* Find(int id) {
   Form* form = Topmost();
@@ -108,11 +113,13 @@ void User::Types(int id, std::string_view text) {
   }
   if (peer->TextLimit > 0) text = text.substr(0, static_cast<std::size_t>(peer->TextLimit));
   peer->ChangeText(std::string(text));
+  Settle();
 }
 
 void User::Clicks(int id) {
   Control::Peer* peer = Reach(id, {Kind::Button, Kind::OptionButton, Kind::Label, Kind::Picture});
   if (peer != nullptr) peer->Click();
+  Settle();
 }
 
 void User::Picks(int id, std::string_view entry) {
@@ -120,6 +127,7 @@ void User::Picks(int id, std::string_view entry) {
   if (peer == nullptr) return;
   const int position = Position(*peer, entry);
   if (position >= 0) peer->ChangeSelection(position);
+  Settle();
 }
 
 void User::PicksAt(int id, int position) {
@@ -130,6 +138,7 @@ void User::PicksAt(int id, int position) {
     return;
   }
   peer->ChangeSelection(position);
+  Settle();
 }
 
 void User::Ticks(int id, std::string_view entry) {
@@ -137,6 +146,7 @@ void User::Ticks(int id, std::string_view entry) {
   if (peer == nullptr) return;
   const int position = Position(*peer, entry);
   if (position >= 0) peer->ChangeTick(position, !peer->Ticks[static_cast<std::size_t>(position)]);
+  Settle();
 }
 
 void User::ChoosesMenu(int id) {
@@ -171,7 +181,10 @@ void User::Presses(Key key) {
   }
 }
 
-void User::MovesTo(int id) { Reach(id, {}); }
+void User::MovesTo(int id) {
+  Reach(id, {});
+  Settle();
+}
 
 void User::ClosesWindow() {
   Form* form = Topmost();

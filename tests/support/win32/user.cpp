@@ -18,14 +18,21 @@ using Kind = Control::Peer::Kind;
 
 std::unique_ptr<Watcher> watcher;
 
-// Lets everything happen that an action set off; the watcher's own timer waits for a message loop.
-void Settle() {
+// Lets everything happen that part of an action set off; the watcher's own timer waits for a message loop.
+void SettlePart() {
   MSG message{};
   while (PeekMessageA(&message, nullptr, 0, WM_TIMER - 1, PM_REMOVE) ||
          PeekMessageA(&message, nullptr, WM_TIMER + 1, 0xFFFF, PM_REMOVE)) {
     Dispatch(message);
   }
   RethrowCarried();
+}
+
+// The same when the action is complete.
+void Settle() {
+  SettlePart();
+  if (Form* form = TopmostForm()) form->PeerOf().RunDeferred();
+  SettlePart();
 }
 
 // The form that a person can reach, or null, which fails the test.
@@ -66,7 +73,7 @@ Control::Peer* Reach(int id, std::initializer_list<Kind> kinds) {
   }
   if (peer->TakesFocus() && GetFocus() != peer->Window && !IsChild(peer->Window, GetFocus())) {
     SendMessageA(FormWindow(*peer), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(peer->Window), TRUE);
-    Settle();
+    SettlePart();
   }
   return peer;
 }
@@ -210,7 +217,10 @@ void User::Presses(Key key) {
   Settle();
 }
 
-void User::MovesTo(int id) { Reach(id, {}); }
+void User::MovesTo(int id) {
+  Reach(id, {});
+  Settle();
+}
 
 void User::ClosesWindow() {
   const Form::Peer* form = Topmost();
