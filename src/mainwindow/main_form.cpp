@@ -112,6 +112,7 @@ void MainForm::WireEvents() {
   CategoryFilterLabel.Click = On(&MainForm::CategoryFilterLabel_Click);
   PersonCombo.Click = On(&MainForm::PersonCombo_Click);
   PersonCombo.Change = [this] { PersonCombo_Change(); };
+  PersonCombo.GotFocus = [this] { PersonCombo_GotFocus(); };
   PersonCombo.LostFocus = [this] { PersonCombo_LostFocus(); };
   NoteBox.Change = On(&MainForm::NoteBox_Change);
   NoteBox.LostFocus = [this] { Later(On(&MainForm::NoteBox_LostFocus)); };

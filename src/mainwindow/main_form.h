@@ -80,6 +80,7 @@ class MainForm : public Form {
   void SetNameOrder(bool noun_order);
   void PersonCombo_Click();
   void PersonCombo_Change();
+  void PersonCombo_GotFocus();
   void PersonCombo_LostFocus() { RestoreShownName(); }
   void Enter_Press();
   void Escape_Press();
@@ -125,7 +126,6 @@ class MainForm : public Form {
   std::string command_line_;
   ThingListView view_;
   std::vector<ListEntry> listed_;  // what the thing list holds
-  std::vector<ListEntry> links_;   // what both link lists hold
   std::string typed_;              // what the user typed into the thing list, without what was offered
   bool displaying_ = false;        // controls are being filled: their events are no edits
   bool shown_before_ = false;

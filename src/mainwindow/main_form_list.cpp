@@ -22,14 +22,10 @@ void MainForm::FillThingList(int selected) {
   FillLinkLists();
 }
 
-// The link lists hold every thing, so that filling them is dear in a large document: they are left
-// alone when neither the names nor their order changed.
 void MainForm::FillLinkLists() {
-  std::vector<ListEntry> links = ListLinks(view_.NounOrder);
-  if (links == links_) return;
-  links_ = std::move(links);
-  FatherCombo.Fill(links_);
-  MotherCombo.Fill(links_);
+  const std::vector<ListEntry> links = ListLinks(view_.NounOrder);
+  FatherCombo.Fill(links);
+  MotherCombo.Fill(links);
 }
 
 void MainForm::Redisplay() {
@@ -162,6 +158,9 @@ void MainForm::PersonCombo_Change() {
   PersonCombo.SetText(offered);
   PersonCombo.SelectText(static_cast<int>(typed_.size()), static_cast<int>(offered.size()));
 }
+
+// Whoever comes here by keyboard types another name over the one shown.
+void MainForm::PersonCombo_GotFocus() { PersonCombo.SelectText(0, static_cast<int>(PersonCombo.Text().size())); }
 
 void MainForm::Enter_Press() {
   if (!PersonCombo.HasFocus() || typed_.empty()) return;

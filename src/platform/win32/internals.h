@@ -28,10 +28,11 @@ struct Control::Peer {
   HWND Window = nullptr;
   int Silent = 0;  // native notifications are our own doing and no events
 
-  std::string Told;         // text box, combo: the text as the program knows it
-  int Selected = -1;        // lists: the selection as the program knows it
-  bool Checked = false;     // option button, likewise
-  std::vector<bool> Ticks;  // check list: a copy, for asking the native one takes long
+  std::string Told;                // text box, combo: the text as the program knows it
+  int Selected = -1;               // lists: the selection as the program knows it
+  bool Checked = false;            // option button, likewise
+  std::vector<ListEntry> Entries;  // lists: a copy, for asking the native one takes long
+  std::vector<bool> Ticks;         // check list: a copy, for asking the native one takes long
   bool Bold = false;
   ::BackColor Back = ::BackColor::ButtonFace;
   std::shared_ptr<Photo> Shown;  // picture; null when empty

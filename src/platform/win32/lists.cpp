@@ -10,13 +10,13 @@ namespace {
 
 // The same request in the languages of both native controls.
 struct Verbs {
-  UINT Reset, Reserve, Add, SetData, GetData, Count, GetSelected, Select, TextLength, GetText;
+  UINT Reset, Reserve, Insert, Delete, SetData, GetSelected, Select;
 };
 
-constexpr Verbs kListVerbs{LB_RESETCONTENT, LB_INITSTORAGE, LB_ADDSTRING, LB_SETITEMDATA, LB_GETITEMDATA,
-                           LB_GETCOUNT,     LB_GETCURSEL,   LB_SETCURSEL, LB_GETTEXTLEN,  LB_GETTEXT};
-constexpr Verbs kDropVerbs{CB_RESETCONTENT, CB_INITSTORAGE, CB_ADDSTRING, CB_SETITEMDATA,  CB_GETITEMDATA,
-                           CB_GETCOUNT,     CB_GETCURSEL,   CB_SETCURSEL, CB_GETLBTEXTLEN, CB_GETLBTEXT};
+constexpr Verbs kListVerbs{LB_RESETCONTENT, LB_INITSTORAGE, LB_INSERTSTRING, LB_DELETESTRING,
+                           LB_SETITEMDATA,  LB_GETCURSEL,   LB_SETCURSEL};
+constexpr Verbs kDropVerbs{CB_RESETCONTENT, CB_INITSTORAGE, CB_INSERTSTRING, CB_DELETESTRING,
+                           CB_SETITEMDATA,  CB_GETCURSEL,   CB_SETCURSEL};
 
 const Verbs& VerbsOf(const Control::Peer& peer) { return peer.DropsDown() ? kDropVerbs : kListVerbs; }
 
@@ -44,22 +44,89 @@ void WidenDropList(const Control::Peer& peer, const std::vector<ListEntry>& entr
   peer.Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::clamp(widest + margins, width, 2 * width)));
 }
 
+using Entries = std::vector<ListEntry>;
+
+bool SameText(const ListEntry& one, const ListEntry& other) { return one.Text == other.Text; }
+
+// The native list and the copy of it, changed together.
+class Editor {
+ public:
+  explicit Editor(Control::Peer& peer) : peer_(peer), verbs_(VerbsOf(peer)), held_(peer.Entries) {}
+
+  void Delete(std::size_t position) {
+    peer_.Send(verbs_.Delete, position);
+    held_.erase(held_.begin() + static_cast<std::ptrdiff_t>(position));
+  }
+
+  void Insert(std::size_t position, const ListEntry& entry) {
+    peer_.Send(verbs_.Insert, position, reinterpret_cast<LPARAM>(entry.Text.c_str()));
+    held_.insert(held_.begin() + static_cast<std::ptrdiff_t>(position), {entry.Text, 0});
+  }
+
+  void Replace(const Entries& entries) {
+    std::size_t bytes = 0;
+    for (const ListEntry& entry : entries) bytes += 2 * (entry.Text.size() + 1);
+    peer_.Send(verbs_.Reset);
+    peer_.Send(verbs_.Reserve, entries.size(), static_cast<LPARAM>(bytes));
+    held_.clear();
+    held_.reserve(entries.size());
+    for (const ListEntry& entry : entries) Insert(held_.size(), entry);
+  }
+
+  // Without the way through the drop-down, which doubles the time.
+  void SetData(const Entries& entries) {
+    HWND list = peer_.DropsDown() ? peer_.DropList() : peer_.Window;
+    for (std::size_t position = 0; position < entries.size(); ++position) {
+      if (held_[position].Data == entries[position].Data) continue;
+      SendMessageA(list, LB_SETITEMDATA, position, entries[position].Data);
+      held_[position].Data = entries[position].Data;
+    }
+  }
+
+ private:
+  Control::Peer& peer_;
+  const Verbs& verbs_;
+  Entries& held_;
+};
+
+// Makes the list hold these entries. Filling a native list takes long, and most often one entry came, went or
+// moved: only the stretch between the first and the last difference is touched, when it is short.
+void HoldEntries(Control::Peer& peer, const Entries& entries) {
+  constexpr std::size_t kShort = 100;
+  Editor editor(peer);
+  const Entries& held = peer.Entries;
+  const auto start = std::mismatch(held.begin(), held.end(), entries.begin(), entries.end(), SameText);
+  const auto end = std::mismatch(held.rbegin(), std::make_reverse_iterator(start.first), entries.rbegin(),
+                                 std::make_reverse_iterator(start.second), SameText);
+  const auto first = static_cast<std::size_t>(start.first - held.begin());
+  const auto old_size = static_cast<std::size_t>(end.first.base() - start.first);
+  const auto new_size = static_cast<std::size_t>(end.second.base() - start.second);
+  const std::size_t last = first + old_size - 1;
+  if (old_size == new_size && old_size > 1 && std::equal(start.first + 1, end.first.base(), start.second, SameText)) {
+    editor.Delete(first);
+    editor.Insert(last, entries[last]);
+  } else if (old_size == new_size && old_size > 1 &&
+             std::equal(start.first, end.first.base() - 1, start.second + 1, SameText)) {
+    editor.Delete(last);
+    editor.Insert(first, entries[first]);
+  } else if (old_size + new_size <= kShort) {
+    for (std::size_t count = old_size; count > 0; --count) editor.Delete(first + count - 1);
+    for (std::size_t index = 0; index < new_size; ++index) editor.Insert(first + index, entries[first + index]);
+  } else {
+    editor.Replace(entries);
+  }
+  editor.SetData(entries);
+}
+
 }  // namespace
 
 void ListControl::Fill(const std::vector<ListEntry>& entries) {
   Peer& peer = PeerOf();
-  const Verbs& verbs = VerbsOf(peer);
   const Silence silence(peer);
   const bool visible = Visible();
   if (visible) peer.Send(WM_SETREDRAW, FALSE);
-  peer.Send(verbs.Reset);
-  std::size_t bytes = 0;
-  for (const ListEntry& entry : entries) bytes += 2 * (entry.Text.size() + 1);
-  peer.Send(verbs.Reserve, entries.size(), static_cast<LPARAM>(bytes));
-  for (const ListEntry& entry : entries) {
-    const LRESULT position = peer.Send(verbs.Add, 0, reinterpret_cast<LPARAM>(entry.Text.c_str()));
-    if (entry.Data != 0) peer.Send(verbs.SetData, static_cast<WPARAM>(position), entry.Data);
-  }
+  HoldEntries(peer, entries);
+  peer.Send(VerbsOf(peer).Select, static_cast<WPARAM>(-1));
   peer.Selected = -1;
   if (peer.DropsDown()) WidenDropList(peer, entries);
   if (peer.What == Peer::Kind::ComboBox) {
@@ -71,22 +138,14 @@ void ListControl::Fill(const std::vector<ListEntry>& entries) {
   RedrawWindow(peer.Window, nullptr, nullptr, RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
-int ListControl::Count() const { return static_cast<int>(PeerOf().Send(VerbsOf(PeerOf()).Count)); }
+int ListControl::Count() const { return static_cast<int>(PeerOf().Entries.size()); }
 
 std::string ListControl::EntryText(int position) const {
-  if (!Valid(*this, position)) return {};
-  const Verbs& verbs = VerbsOf(PeerOf());
-  const auto index = static_cast<WPARAM>(position);
-  std::string text(static_cast<std::size_t>(PeerOf().Send(verbs.TextLength, index)), '\0');
-  // The length told may be more than there is.
-  const LRESULT length = PeerOf().Send(verbs.GetText, index, reinterpret_cast<LPARAM>(text.data()));
-  text.resize(static_cast<std::size_t>(std::max<LRESULT>(length, 0)));
-  return text;
+  return Valid(*this, position) ? PeerOf().Entries[static_cast<std::size_t>(position)].Text : std::string();
 }
 
 int ListControl::EntryData(int position) const {
-  if (!Valid(*this, position)) return 0;
-  return static_cast<int>(PeerOf().Send(VerbsOf(PeerOf()).GetData, static_cast<WPARAM>(position)));
+  return Valid(*this, position) ? PeerOf().Entries[static_cast<std::size_t>(position)].Data : 0;
 }
 
 int ListControl::Selected() const { return PeerOf().Selected; }
