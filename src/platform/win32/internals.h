@@ -54,7 +54,6 @@ struct Control::Peer {
   void Notified(const NMHDR& header);
   void DroppedUp();  // some time after a combo's list was closed
 
-  // The parts of Commanded, by kind.
   void ButtonCommanded(int code);
   void ComboCommanded(int code);
   void TextMayHaveChanged();
