@@ -217,7 +217,7 @@ void FactForm::ChangeFormulaItem_Click() {
   }
   if (TheDocument.Fields.Count() == 0) {
     Refuse(
-        "Formulas are based on fields, but no field definitions are on file.  Before proceeding, please define one or "
+        "Formulas are based on fields, but no field definitions are on file. Before proceeding, please define one or "
         "more data fields.");
     return;
   }

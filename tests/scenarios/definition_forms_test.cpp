@@ -27,7 +27,7 @@ TEST_F(DefinitionFormsTest, AddsFieldsFromNothing) {
     user.ChoosesMenu(IDC_DeleteFormulaItem);
     TheDocument.Formulas.SetCount(1);
     Refuses(
-        "Formulas are based on fields, but no field definitions are on file.  Before proceeding, please define one or "
+        "Formulas are based on fields, but no field definitions are on file. Before proceeding, please define one or "
         "more data fields.");
     user.ChoosesMenu(IDC_ChangeFormulaItem);
 
