@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/registry.h"
+
 namespace Machine {
 
 void SetDecimalSeparator(char separator);
@@ -21,6 +23,12 @@ void SetCurrentFolder(const std::string& folder);  // need not exist: the system
 std::vector<std::string> StartedPrograms();  // the command lines since the last call
 void FailStart(
     std::optional<int> error);  // every start fails with that error, or gives no process (0); nothing: none does
+
+// The registry.
+void SetRegistryValue(RegistryRoot root, const std::string& key, const std::string& name, const std::string& text,
+                      unsigned long type = kRegistryText);
+void RemoveRegistryKey(RegistryRoot root, const std::string& key);  // with all keys below it
+void FailRegistryReads(bool fail);                                  // values are there, but cannot be read
 
 // Files, by full name or relative to the current folder. None of these counts as a file call, and
 // none minds read-only flags or handles. Putting a file into a folder that is missing throws.

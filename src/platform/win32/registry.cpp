@@ -1,0 +1,43 @@
+// The registry of Windows.
+#include "platform/registry.h"
+
+#include <windows.h>
+
+struct RegistryKey::Peer {
+  HKEY Key = nullptr;
+};
+
+RegistryKey::RegistryKey(RegistryRoot root, const std::string& path) : peer_(std::make_unique<Peer>()) {
+  constexpr REGSAM kAccess =
+      KEY_QUERY_VALUE | KEY_SET_VALUE | KEY_CREATE_SUB_KEY | KEY_ENUMERATE_SUB_KEYS | KEY_NOTIFY | KEY_CREATE_LINK;
+  static_assert(kAccess == 63);
+  HKEY from = root == RegistryRoot::CurrentUser ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+  const LSTATUS status = RegOpenKeyExA(from, path.c_str(), 0, kAccess, &peer_->Key);
+  // Ordinary users may not write below the machine's root.
+  if (status == ERROR_ACCESS_DENIED) RegOpenKeyExA(from, path.c_str(), 0, KEY_READ, &peer_->Key);
+}
+
+RegistryKey::~RegistryKey() {
+  if (IsOpen()) RegCloseKey(peer_->Key);
+}
+
+bool RegistryKey::IsOpen() const { return peer_->Key != nullptr; }
+
+std::optional<RegistryValue> RegistryKey::Query(const std::string& name) const {
+  if (!IsOpen()) return std::nullopt;
+  DWORD type = 0;
+  DWORD size = 0;
+  if (RegQueryValueExA(peer_->Key, name.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS) return std::nullopt;
+  return RegistryValue{type, size};
+}
+
+std::optional<std::string> RegistryKey::ReadText(const std::string& name, std::size_t size) const {
+  if (!IsOpen()) return std::nullopt;
+  std::string text(size, '\0');
+  DWORD bytes = static_cast<DWORD>(size);
+  const LSTATUS status =
+      RegQueryValueExA(peer_->Key, name.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(text.data()), &bytes);
+  if (status != ERROR_SUCCESS) return std::nullopt;
+  text.resize(bytes);
+  return text.substr(0, text.find('\0'));  // the size counts the end mark, where there is one
+}
