@@ -12,8 +12,8 @@
 // Why a form is about to go.
 enum class UnloadMode { ControlMenu, Code, WindowsShutdown };
 
-// Keys that a form can be told of.
-enum class Key { Enter, Escape, Left, Right, Up, Down, PageUp, PageDown, Home, End };
+// Keys that a form can be told of. Help is F1.
+enum class Key { Enter, Escape, Left, Right, Up, Down, PageUp, PageDown, Home, End, Help };
 
 // The edges of the form that a control keeps its distance to when the form is resized.
 enum Edges : unsigned { kEdgeLeft = 1, kEdgeTop = 2, kEdgeRight = 4, kEdgeBottom = 8 };
@@ -66,6 +66,9 @@ class Form {
   // Enter or Esc was pressed and the form has no button with id 1 or 2 to take it.
   Event EnterKey;
   Event EscapeKey;
+
+  // F1 was pressed, in whichever control, and is no accelerator of the form; holding it down tells of it once.
+  Event HelpKey;
 
   // One of the other keys was pressed, without Ctrl and Alt; true keeps it from the control that has the focus.
   std::function<bool(Key)> KeyDown;

@@ -136,6 +136,28 @@ TEST_F(FormTest, WhatIsForLaterComesBehindTheClickThatMovedTheFocus) {
   });
 }
 
+TEST_F(FormTest, HelpKeyIsToldWhereverTheFocusIs) {
+  TestForm form;
+  TestForm above;
+  form.FirstButton.Click = [&] { above.ShowModal(); };
+  Use(form, [&] {
+    for (const int id : {IDC_LineBox, IDC_LinesBox, IDC_SmallOption, IDC_NameCombo, IDC_TickList, IDC_OKButton}) {
+      user.MovesTo(id);
+      user.Presses(Key::Help);
+      EXPECT_EQ(form.Came(), Events{"HelpKey"}) << id;
+      EXPECT_TRUE(user.SeesFocusOn(id)) << id;
+    }
+    // Only the topmost form is told.
+    user.UsesForm(IDD_TestForm, [&] {
+      user.Presses(Key::Help);
+      user.Clicks(IDC_CancelButton);
+    });
+    user.Clicks(IDC_FirstButton);
+    EXPECT_EQ(form.Came(), (Events{"Activate"}));
+  });
+  EXPECT_EQ(above.Came(), (Events{"Load", "Activate", "HelpKey", "CancelButton Click", "QueryUnload Code", "Unload"}));
+}
+
 TEST_F(FormTest, CloseBoxClicksButtonTwoOrAsksTheForm) {
   TestForm form;
   user.UsesForm(IDD_TestForm, [&] {

@@ -83,6 +83,7 @@ class TestForm : public LoggingForm {
     MenuClick = [this](int id) { Log.push_back("Menu " + std::to_string(id)); };
     EnterKey = Logs("EnterKey");
     EscapeKey = Logs("EscapeKey");
+    HelpKey = Logs("HelpKey");
     LogFocusOf(LineBox, "LineBox");
     LogFocusOf(LinesBox, "LinesBox");
     LogFocusOf(FirstButton, "FirstButton");

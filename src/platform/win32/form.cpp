@@ -37,14 +37,22 @@ std::optional<Key> KeyOf(const MSG& message) {
       return Key::Home;
     case VK_END:
       return Key::End;
+    case VK_F1:
+      return Key::Help;
     default:
       return std::nullopt;
   }
 }
 
+bool IsRepeated(const MSG& message) { return (HIWORD(message.lParam) & KF_REPEAT) != 0; }
+
 // True when the form took the key.
 bool TellKey(Form::Peer& peer, const MSG& message) {
   const std::optional<Key> key = KeyOf(message);
+  if (key == Key::Help) {
+    if (!IsRepeated(message)) peer.Guard([&] { Raise(peer.Self->HelpKey); });
+    return true;
+  }
   const std::function<bool(Key)> key_down = peer.Self->KeyDown;
   if (!key || !key_down) return false;
   bool taken = false;

@@ -167,6 +167,11 @@ void User::Presses(Key key) {
     PressOn(*form, kEscapeButton, form->EscapeKey);
     return;
   }
+  if (key == Key::Help) {
+    const Event help_key = form->HelpKey;
+    if (help_key) help_key();
+    return;
+  }
   if (key != Key::Enter) {
     // What a control does with such a key is its own affair, and none here does anything.
     const std::function<bool(Key)> key_down = form->KeyDown;

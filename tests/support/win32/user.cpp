@@ -209,8 +209,8 @@ void User::Presses(Key key) {
   HWND focus = GetFocus();
   if (focus == nullptr) focus = form->Window;
   // In the order of Key.
-  constexpr WPARAM kCodes[] = {VK_RETURN, VK_ESCAPE, VK_LEFT, VK_RIGHT, VK_UP,
-                               VK_DOWN,   VK_PRIOR,  VK_NEXT, VK_HOME,  VK_END};
+  constexpr WPARAM kCodes[] = {VK_RETURN, VK_ESCAPE, VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN,
+                               VK_PRIOR,  VK_NEXT,   VK_HOME, VK_END,   VK_F1};
   const WPARAM code = kCodes[static_cast<std::size_t>(key)];
   PostMessageA(focus, WM_KEYDOWN, code, 1);
   PostMessageA(focus, WM_KEYUP, code, 1);
