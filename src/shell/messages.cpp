@@ -1,11 +1,13 @@
 // Message boxes with the program's title: see messages.h.
 #include "shell/messages.h"
 
+#include "platform/program.h"
 #include "values/numbers.h"
 
 namespace Global {
 
 std::string ProgramTitle = "Larkspur Filer";
+std::function<void()> KeepDocument;
 
 namespace {
 
@@ -23,6 +25,12 @@ int MessagesSaid() { return messages_said; }
 bool Ask(std::string_view question, Buttons buttons, Icon icon) {
   const Answer answer = MsgBox(question, ProgramTitle, buttons, icon);
   return answer == Answer::Yes || answer == Answer::Ok;
+}
+
+void SayAndEnd(std::string_view text) {
+  if (KeepDocument) KeepDocument();
+  Say(text, Icon::Critical);
+  EndProgram();
 }
 
 std::string DueToError(const RuntimeError& error) {

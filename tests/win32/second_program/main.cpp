@@ -1,5 +1,6 @@
 // A second running copy of the program for the tests of the lock: does with a data file what it is told to
-// on its input, a line a command, and answers each with a line.
+// on its input, a line a command, and answers each with a line. Started with arguments, it writes these into
+// STARTED.TXT instead.
 //   open FILE   loads the file as the program does
 //   race FILE   reads the file and then takes its lock, saying nothing when another has it
 //   close       gives the file up
@@ -10,6 +11,7 @@
 #include "document/file_handles.h"
 #include "document/reader.h"
 #include "platform/files.h"
+#include "platform/program.h"
 #include "platform/runtime_error.h"
 
 namespace {
@@ -43,9 +45,20 @@ std::string Obey(const std::string& line) {
   return "closed";
 }
 
+void WriteDown(const std::string& arguments) {
+  Files::Open(kDataFileHandle, "STARTED.NEW", Files::Mode::Output);
+  Files::Write(kDataFileHandle, arguments);
+  Files::Close(kDataFileHandle);
+  Files::Rename("STARTED.NEW", "STARTED.TXT");  // whoever sees it sees all of it
+}
+
 }  // namespace
 
 int main() {
+  if (const std::string arguments = CommandLineText(); !arguments.empty()) {
+    WriteDown(arguments);
+    return 0;
+  }
   std::string line;
   while (std::getline(std::cin, line)) {
     try {
