@@ -18,6 +18,7 @@
 #define IDD_FieldDefForm 116
 #define IDD_FormulaDefForm 117
 #define IDD_DatePickForm 118
+#define IDD_AboutForm 120
 #define IDD_InputBox 190
 
 // MainForm
@@ -127,6 +128,10 @@
 #define IDC_PreviousButton 1454
 #define IDC_NextButton 1455
 #define IDC_DayButton 1460
+
+// AboutForm
+#define IDC_ProgramTitleLabel 1550
+#define IDC_VersionLabel 1551
 
 // The input box
 #define IDC_PromptLabel 1390

@@ -8,6 +8,7 @@
 #include "platform/program.h"
 #include "resource.h"
 #include "shell/date_pick_form.h"
+#include "shell/help.h"
 #include "shell/messages.h"
 #include "values/field_def_form.h"
 #include "values/field_types.h"
@@ -68,13 +69,13 @@ FactForm::FactForm()
   AddFieldButton.Click = [this] { RunCommand(IDC_AddFieldItem); };
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
+  HelpKey = Global::HelpOn(HelpPages::kFactForm);
 }
 
 void FactForm::Form_Load() {
   const ThingRecord& thing = TheDocument.Things[TheDocument.CurrentThing];
   CaptionLabel.SetText("Data for " + thing.NAME);
   CaptionLabel.SetBold(true);
-  SetMenuEnabled(IDC_HelpItem, false);
   working_ = thing.Values;
   // Nothing stands between opening the dialog and typing the first value.
   field_ = TheDocument.Fields.Count() > 0 ? 1 : 0;
@@ -161,6 +162,7 @@ void FactForm::OKButton_Click() {
 
 void FactForm::RunCommand(int id) {
   if (id == IDC_InsertDateItem) InsertDateItem_Click();
+  if (id == IDC_HelpItem) Global::ShowHelpPage(HelpPages::kFiler);
   for (const Command& command : Commands()) {
     if (command.Item == id && EndEdit()) (this->*command.Handler)();
   }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "resource.h"
+#include "shell/help.h"
 #include "shell/messages.h"
 
 PickListForm::PickListForm(const std::string& caption, std::vector<ListEntry> entries)
@@ -16,6 +17,7 @@ PickListForm::PickListForm(const std::string& caption, std::vector<ListEntry> en
   PickList.DoubleClick = [this] { OKButton_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
+  HelpKey = Global::HelpOn(HelpPages::kPickListForm);
 }
 
 void PickListForm::Form_Load() {

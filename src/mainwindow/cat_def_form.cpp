@@ -3,6 +3,7 @@
 
 #include "document/text.h"
 #include "resource.h"
+#include "shell/help.h"
 
 CatDefForm::CatDefForm()
     : Form(IDD_CatDefForm),
@@ -14,13 +15,13 @@ CatDefForm::CatDefForm()
   }
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
+  HelpButton.Click = HelpKey = Global::HelpOn(HelpPages::kCatDefForm);
 }
 
 void CatDefForm::Form_Load() {
   for (int number = 1; number <= kCategories; ++number) {
     NameBox[static_cast<std::size_t>(number - 1)]->SetText(TheDocument.CategoryNames[number]);
   }
-  HelpButton.SetEnabled(false);
   NameBox.front()->SetFocus();
   NameBox.front()->SelectAll();
 }

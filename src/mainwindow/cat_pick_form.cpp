@@ -3,6 +3,7 @@
 
 #include "document/document.h"
 #include "resource.h"
+#include "shell/help.h"
 
 CatPickForm::CatPickForm(int selected_category, const Control* below_label)
     : Form(IDD_CatPickForm),
@@ -13,6 +14,7 @@ CatPickForm::CatPickForm(int selected_category, const Control* below_label)
   CategoryList.DoubleClick = [this] { OKButton_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
+  HelpKey = Global::HelpOn(HelpPages::kCatPickForm);
   if (below_label != nullptr) PlaceBelow(*below_label);
 }
 

@@ -43,9 +43,9 @@ std::span<const MainForm::Command> MainForm::Commands() {
       {IDC_AddressRepItem},
       {IDC_ItemValuesItem},
       {IDC_DescendantItem},
-      {IDC_ManualItem, &MainForm::HelpButton},
-      {IDC_FilerHelpItem},
-      {IDC_AboutItem},
+      {IDC_ManualItem, &MainForm::HelpButton, &MainForm::ManualItem_Click},
+      {IDC_FilerHelpItem, nullptr, &MainForm::FilerHelpItem_Click},
+      {IDC_AboutItem, nullptr, &MainForm::AboutItem_Click},
   };
   return kCommands;
 }
@@ -82,7 +82,7 @@ MainForm::MainForm(std::string command_line)
   WireEvents();
 }
 
-MainForm::~MainForm() = default;
+MainForm::~MainForm() { Global::KeepDocument = nullptr; }
 
 // Every event ends with the caption and the greying brought in line with the document.
 Event MainForm::On(void (MainForm::*handler)()) {
@@ -102,6 +102,7 @@ void MainForm::WireEvents() {
   MenuClick = [this](int id) { RunCommand(id); };
   EnterKey = On(&MainForm::Enter_Press);
   EscapeKey = On(&MainForm::Escape_Press);
+  HelpKey = On(&MainForm::ManualItem_Click);
   AllLabel.Click = On(&MainForm::AllLabel_Click);
   for (int index = 0; index < kLetters; ++index) {
     LetterLabel[static_cast<std::size_t>(index)]->Click = [this, index] {
@@ -165,6 +166,7 @@ void MainForm::AnchorControls() {
 void MainForm::Form_Load() {
   TheDocument = {};
   Global::ProgramTitle = "Larkspur Filer";
+  Global::KeepDocument = [this] { KeepDocument(); };
   Global::FillAddressTitles();
   PhotoButton.SetBackColor(DataButton.BackColor());
   AnchorControls();

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "mainwindow/flag_scope.h"
 #include "mainwindow/thing_list.h"
 #include "platform/controls.h"
 #include "platform/form.h"
@@ -107,6 +108,12 @@ class MainForm : public Form {
   void LinkCombo_Click();
   void CatList_ItemCheck(int position);
 
+  // main_form_help.cpp: the Help menu
+  void ManualItem_Click();
+  void FilerHelpItem_Click();
+  void AboutItem_Click();
+  void KeepDocument();
+
   Button NewButton, OpenButton, SaveButton, AddPersonButton, DeleteButton, HelpButton, ExitButton;
   Label AllLabel;
   std::array<std::unique_ptr<Label>, kLetters> LetterLabel;
@@ -130,17 +137,4 @@ class MainForm : public Form {
   bool displaying_ = false;        // controls are being filled: their events are no edits
   bool shown_before_ = false;
   bool dialog_open_ = false;
-};
-
-// Sets a flag for as long as it lives, and puts back what it was.
-class FlagScope {
- public:
-  explicit FlagScope(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
-  ~FlagScope() { flag_ = before_; }
-  FlagScope(const FlagScope&) = delete;
-  FlagScope& operator=(const FlagScope&) = delete;
-
- private:
-  bool& flag_;
-  bool before_;
 };

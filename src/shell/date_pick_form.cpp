@@ -7,6 +7,7 @@
 
 #include "platform/program.h"
 #include "resource.h"
+#include "shell/help.h"
 #include "shell/messages.h"
 
 namespace {
@@ -52,6 +53,7 @@ DatePickForm::DatePickForm(CalendarDate date)
   TodayButton.Click = [this] { TodayButton_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
+  HelpKey = Global::HelpOn(HelpPages::kDatePickForm);
   KeyDown = [this](Key key) { return Key_Press(key); };
 }
 

@@ -10,6 +10,7 @@
 #include "platform/file_dialog.h"
 #include "platform/files.h"
 #include "resource.h"
+#include "shell/help.h"
 #include "shell/messages.h"
 
 namespace {
@@ -48,6 +49,7 @@ FileForm::FileForm(FileRequest& request)
   BrowseButton.Click = [this] { BrowseButton_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { CancelButton_Click(); };
+  HelpKey = Global::HelpOn(HelpPages::kFileForm);
   request_.Name.clear();
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/locale.h"
 #include "resource.h"
+#include "shell/help.h"
 #include "shell/messages.h"
 #include "values/field_types.h"
 
@@ -21,6 +22,7 @@ FieldDefForm::FieldDefForm(int number, FieldSlots& working)
   NumberOption.Click = [this] { NumberOption_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
+  HelpKey = Global::HelpOn(HelpPages::kFieldDefForm);
 }
 
 void FieldDefForm::Form_Load() {

@@ -4,6 +4,7 @@
 #include "document/text.h"
 #include "platform/locale.h"
 #include "resource.h"
+#include "shell/help.h"
 #include "shell/messages.h"
 #include "values/field_types.h"
 #include "values/templates.h"
@@ -28,6 +29,7 @@ FormulaDefForm::FormulaDefForm(int number)
   InsertButton.Click = [this] { InsertButton_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
+  HelpKey = Global::HelpOn(HelpPages::kFormulaDefForm);
 }
 
 void FormulaDefForm::Form_Load() {

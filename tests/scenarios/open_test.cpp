@@ -254,7 +254,7 @@ TEST_F(OpenTest, GreysWhatCannotBeDone) {
   for (const int id : {IDC_NewItem, IDC_OpenItem, IDC_SaveItem, IDC_ExitItem, IDC_AllNamesItem, IDC_SelCategoryItem}) {
     EXPECT_TRUE(user.SeesMenuEnabled(id)) << id;
   }
-  for (const int id : {IDC_AddressRepItem, IDC_ManualItem}) {
+  for (const int id : {IDC_AddressRepItem, IDC_ItemValuesItem}) {
     EXPECT_FALSE(user.SeesMenuEnabled(id)) << id;
   }
 }
