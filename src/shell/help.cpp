@@ -1,14 +1,13 @@
 // Showing the help pages: see help.h.
 #include "shell/help.h"
 
-#include "mainwindow/file_names.h"
 #include "platform/program.h"
 #include "shell/file_form.h"
 #include "shell/launch.h"
 #include "shell/messages.h"
 
 void Global::ShowHelpPage(const std::string& page) {
-  std::string path = FullFileName(ProgramFolder(), page.empty() ? "Larkspur_Manual.htm" : page);
+  std::string path = ProgramFolder() + "\\" + (page.empty() ? "Larkspur_Manual.htm" : page);
   std::string browser = ".HTM";
   if (APISubs::LaunchProgram(browser, path) >= 0) return;
   if (!Ask("I need a web browser to display the help, but your registry does not have an unambiguous reference to a "

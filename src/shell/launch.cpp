@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "document/text.h"
-#include "mainwindow/file_names.h"
 #include "platform/process.h"
 #include "platform/program.h"
 #include "shell/messages.h"
@@ -75,7 +74,7 @@ std::int16_t APISubs::LaunchProgram(std::string& program, std::string& argument)
     program = ProgramOf(command);
   }
   if (!argument.empty()) {
-    if (argument.find('\\') == std::string::npos) argument = Global::FullFileName(CurrentFolder(), argument);
+    if (argument.find('\\') == std::string::npos) argument = CurrentFolder() + "\\" + argument;
     QuoteBlanks(argument);
   }
   if (!ReplaceSymbols(program, hint)) return kUnknownProgram;
