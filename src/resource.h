@@ -18,6 +18,7 @@
 #define IDD_FieldDefForm 116
 #define IDD_FormulaDefForm 117
 #define IDD_DatePickForm 118
+#define IDD_ReportForm 119
 #define IDD_AboutForm 120
 #define IDD_InputBox 190
 
@@ -132,6 +133,15 @@
 // AboutForm
 #define IDC_ProgramTitleLabel 1550
 #define IDC_VersionLabel 1551
+
+// ReportForm
+#define IDC_CatFrame 1500
+#define IDC_AllCatOption 1501
+#define IDC_SelCatOption 1502
+#define IDC_FieldFrame 1503
+#define IDC_FieldList 1504
+#define IDC_Label3 1505
+#define IDC_PrintFileBox 1506
 
 // The input box
 #define IDC_PromptLabel 1390

@@ -15,6 +15,8 @@
 
 inline constexpr int kLetters = 26;
 
+struct ReportRequest;
+
 class MainForm : public Form {
  public:
   // The command line: see command_line.h. It is read, and the file it names loaded, when the form is shown.
@@ -30,6 +32,8 @@ class MainForm : public Form {
   static bool ValidateText(std::string& text);
   // Empties the photo box.
   void ResetPicBox();
+  // Starts the report viewer on a print file and says when that fails. A name with a blank is put into quotes.
+  static void ShowReport(std::string& print_file_name);
 
  private:
   struct Command;
@@ -96,6 +100,12 @@ class MainForm : public Form {
   void PhotoButton_Click();
   void DataButton_Click();
   void DefCatButton_Click();
+
+  // main_form_report.cpp: the Report menu
+  void AddressRepItem_Click();
+  void ItemValuesItem_Click();
+  void DescendantItem_Click();
+  void MakeReport(int parts, void (*write)(const ReportRequest& request));
 
   // main_form_thing.cpp: the current thing
   ThingRecord* CurrentRecord() const;

@@ -39,6 +39,10 @@ class Control {
   void SetBold(bool bold);
   bool Bold() const;
 
+  // A line that comes up while the mouse rests on the control; empty for none.
+  void SetToolTip(const std::string& text);
+  std::string ToolTip() const;
+
   void SetFocus();  // nothing happens when the control is hidden or disabled
   bool HasFocus() const;
 

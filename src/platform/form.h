@@ -85,6 +85,11 @@ class Form {
   // such control can be resized, but never below its template's size.
   void Anchor(Control& control, unsigned edges);
 
+  // Takes out of the form what lies between the tops of two controls: `next` and all that stands at its height or
+  // below moves up to where `first` is, and the form gets lower by as much. For rows whose controls are hidden,
+  // before the form is shown; not for forms that can be resized.
+  void RemoveRows(const Control& first, const Control& next);
+
  private:
   friend struct Peer;
   std::unique_ptr<Peer> peer_;

@@ -199,3 +199,10 @@ std::string FormatValue(std::string_view stored, std::string_view type, std::str
       Trim(format).empty() ? Global::LocaliseTemplate(Global::DefaultTemplate(type)) : std::string(format);
   return FormatByTemplate(stored, display_template, DecimalSeparator());
 }
+
+std::optional<double> StoredNumber(std::string_view stored, char separator) {
+  const bool percent = stored.ends_with('%');
+  const std::string number = NumberOf(percent ? stored.substr(0, stored.size() - 1) : stored, separator);
+  if (number.empty()) return std::nullopt;
+  return percent ? ReadNumber(number, '.') / 100 : ReadNumber(number, '.');
+}

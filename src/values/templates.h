@@ -4,6 +4,7 @@
 // decimal point) and "%" (times 100, with the sign).
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,3 +26,6 @@ std::string FormatByTemplate(std::string_view stored, std::string_view display_t
 // A stored value as a field or formula of that type and format shows it; an empty format stands for the
 // type's own.
 std::string FormatValue(std::string_view stored, std::string_view type, std::string_view format);
+
+// The number of a stored value, a percentage as a fraction; nothing for text that is no number.
+std::optional<double> StoredNumber(std::string_view stored, char separator);

@@ -9,6 +9,9 @@
 
 void Control::SetBold(bool bold) { PeerOf().Bold = bold; }
 bool Control::Bold() const { return PeerOf().Bold; }
+
+void Control::SetToolTip(const std::string& text) { PeerOf().Tip = text; }
+std::string Control::ToolTip() const { return PeerOf().Tip; }
 void Label::SetBorder(bool border) { PeerOf().Border = border; }
 bool Label::Border() const { return PeerOf().Border; }
 

@@ -26,6 +26,7 @@ struct Control::Peer {
   bool Visible = true;
 
   bool Bold = false;
+  std::string Tip;
   bool Border = false;    // label
   bool ReadOnly = false;  // text box
   int TextLimit = 0;      // text box

@@ -143,6 +143,9 @@ void Form::Later(Event event) {
 }
 
 void Form::Anchor(Control& control, unsigned edges) { peer_->Sizes.Anchor(control.PeerOf().Window, edges); }
+void Form::RemoveRows(const Control& first, const Control& next) {
+  peer_->Sizes.RemoveRows(first.PeerOf().Window, next.PeerOf().Window);
+}
 
 Control* Form::Peer::Find(int id) const {
   const auto found = Controls.find(id);

@@ -12,7 +12,7 @@ constexpr UINT kDroppedUp = WM_APP + 2;  // a drop-down's list was closed; its i
 
 void InitControlsOnce() {
   static const bool kDone = [] {
-    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
+    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
     return InitCommonControlsEx(&classes) != FALSE;
   }();
   (void)kDone;

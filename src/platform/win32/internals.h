@@ -75,6 +75,7 @@ struct Form::Peer {
   HWND Window = nullptr;
   HACCEL Accelerators = nullptr;
   HFONT BoldFont = nullptr;
+  HWND TipWindow = nullptr;
   std::map<int, Control*> Controls;
   Layout Sizes;
   const Control* Below = nullptr;
@@ -107,6 +108,7 @@ struct Form::Peer {
   void Carry(std::exception_ptr failure);
   void RethrowCarried();
   HFONT Bold();
+  HWND Tips();  // the window of the tool tips, made when the first one is set
   void RemakeFonts();
 
   // Runs what may throw inside of a window procedure, through which no exception may pass.

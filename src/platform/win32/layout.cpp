@@ -59,6 +59,21 @@ SIZE Layout::Inside() const {
 
 void Layout::Anchor(HWND control, unsigned edges) { items_.push_back({control, edges, RectIn(form_, control)}); }
 
+void Layout::RemoveRows(HWND first, HWND next) {
+  const LONG from = RectIn(form_, next).top;
+  const LONG height = from - RectIn(form_, first).top;
+  constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE;
+  for (HWND each = GetWindow(form_, GW_CHILD); each != nullptr; each = GetWindow(each, GW_HWNDNEXT)) {
+    const RECT rect = RectIn(form_, each);
+    if (rect.top >= from) SetWindowPos(each, nullptr, rect.left, rect.top - height, 0, 0, SWP_NOSIZE | kFlags);
+  }
+  RECT whole{};
+  GetWindowRect(form_, &whole);
+  const SIZE size = SizeOf(whole);
+  SetWindowPos(form_, nullptr, 0, 0, size.cx, size.cy - height, SWP_NOMOVE | kFlags);
+  Begin(form_);
+}
+
 RECT Layout::Target(const Item& item, const SIZE& inside) const {
   RECT rect = item.Base;
   Follow(rect.left, rect.right, inside.cx - base_.cx, (item.Edges & kEdgeLeft) != 0, (item.Edges & kEdgeRight) != 0);

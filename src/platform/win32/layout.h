@@ -13,6 +13,9 @@ class Layout {
   // `edges` are those of Form::Anchor.
   void Anchor(HWND control, unsigned edges);
 
+  // As Form::RemoveRows, before anything is anchored.
+  void RemoveRows(HWND first, HWND next);
+
   // Moves the anchored controls to where the form's present size wants them.
   void Arrange() const;
 
