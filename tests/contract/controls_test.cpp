@@ -183,7 +183,15 @@ TEST_F(ControlsTest, LooksAreRemembered) {
   form.RedOption.SetBold(true);
   form.HintLabel.SetBorder(true);
   form.FirstButton.SetBackColor(BackColor::Marked);
+  form.TickList.SetToolTip("Fish & Chips");
+  form.LineBox.SetToolTip("first");
   Use([&] {
+    EXPECT_EQ(form.TickList.ToolTip(), "Fish & Chips");
+    EXPECT_EQ(form.EntryList.ToolTip(), "");
+    form.LineBox.SetToolTip("second");
+    EXPECT_EQ(form.LineBox.ToolTip(), "second");
+    form.LineBox.SetToolTip("");
+    EXPECT_EQ(form.LineBox.ToolTip(), "");
     EXPECT_TRUE(form.TitleLabel.Bold());
     EXPECT_TRUE(form.RedOption.Bold());
     EXPECT_FALSE(form.GreenOption.Bold());
