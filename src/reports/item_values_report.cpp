@@ -10,6 +10,7 @@
 #include "document/document.h"
 #include "document/fact_values.h"
 #include "document/names.h"
+#include "document/text.h"
 #include "platform/locale.h"
 #include "reports/item_list_report.h"
 #include "reports/print_file.h"
@@ -91,7 +92,7 @@ class Table {
     std::string line(name.substr(0, kNameWidth));
     line.resize(kNameWidth, ' ');
     for (std::size_t index = 0; index < columns_.size(); ++index) {
-      const std::string_view text = text_of(columns_[index]).substr(0, widths_[index]);
+      const std::string_view text = TrimRight(text_of(columns_[index]).substr(0, widths_[index]));
       line.append(2 + widths_[index] - text.size(), ' ').append(text);
     }
     PrintLine({line});

@@ -97,7 +97,7 @@ void WriteSlowly(int top) {
 TEST_F(HierarchyReportTest, HasTheSectionsOfTheSlowWay) {
   std::mt19937 random(1);
   for (int round = 0; round < 200; ++round) {
-    const unsigned count = 1 + random() % 40;
+    const auto count = static_cast<unsigned>(1 + random() % 40);
     std::vector<Member> members;
     for (unsigned record = 1; record <= count; ++record) {
       members.push_back({"T" + std::to_string(record), static_cast<int>(random() % (count + 2)),
@@ -112,7 +112,6 @@ TEST_F(HierarchyReportTest, HasTheSectionsOfTheSlowWay) {
 TEST_F(HierarchyReportTest, GoesThroughACollection) {
   LoadSource("samples/Household.FIL");
   ExpectGolden("HouseholdHierarchy.PRN", [] { WriteHierarchyReport(24); });
-  TheDocument = {};
   LoadSource("tests/reports/golden/Nasty.FIL");
   ExpectGolden("NastyHierarchy.PRN", [] { WriteHierarchyReport(1); });
 }

@@ -47,7 +47,6 @@ TEST_F(ReportWritersTest, ItemLists) {
   LoadSource("samples/Household.FIL");
   ExpectGolden("HouseholdList.PRN", [] { WriteItemListReport(0); });
   ExpectGolden("HouseholdOnLoan.PRN", [] { WriteItemListReport(CategoryBit(32) | CategoryBit(1)); });
-  TheDocument = {};
   LoadSource("tests/reports/golden/Nasty.FIL");
   TheDocument.Things[5].Values[3].Text = ":a colon first";
   TheDocument.Things[5].Values[9].Text = "no colon";
@@ -57,7 +56,6 @@ TEST_F(ReportWritersTest, ItemLists) {
 TEST_F(ReportWritersTest, ItemValues) {
   LoadSource("samples/Household.FIL");
   ExpectGolden("HouseholdValues.PRN", [] { WriteItemValuesReport(0, {1, 2, 5}); });
-  TheDocument = {};
   LoadSource("tests/reports/golden/Nasty.FIL");
   ExpectGolden("NastyValues.PRN", [] { WriteItemValuesReport(0, {1, 2, 3, 5}); });
   ExpectGolden("NastyRooms.PRN", [] { WriteItemValuesReport(CategoryBit(2), {3}); });

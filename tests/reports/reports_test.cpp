@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "document/document.h"
 #include "document/file_handles.h"
 #include "document/reader.h"
 #include "platform/files.h"
@@ -16,6 +17,8 @@ std::string ReportsTest::SourceFile(const std::string& name) {
 }
 
 void ReportsTest::LoadSource(const std::string& name) {
+  MakeNew();  // the file that was loaded before is locked
+  TheDocument = {};
   TestFiles::Put("Source.FIL", SourceFile(name));
   ASSERT_TRUE(LoadFilerFile(InFolder("Source.FIL")));
 }
