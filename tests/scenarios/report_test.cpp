@@ -93,8 +93,15 @@ TEST_F(ReportTest, TabulatesTheTickedFields) {
   EXPECT_NE(report.find("\r\nCount                                1\r\n"), std::string::npos) << report;
   Use(IDC_ItemValuesItem, [this] {
     EXPECT_EQ(user.SeesTicked(IDC_FieldList), Names{});
-    user.Clicks(IDC_CancelButton);
+    user.Ticks(IDC_FieldList, "PRICE: Price");
+    user.Clicks(IDC_SelCatOption);
+    user.Ticks(IDC_CatList, "On loan");
+    user.Clicks(IDC_AllCatOption);  // which makes the tick of no account
+    MissesViewer();
+    user.Clicks(IDC_OKButton);
   });
+  EXPECT_EQ(TestFiles::Get("Report.PRN"), report);
+  Use(IDC_ItemValuesItem, [this] { user.Clicks(IDC_CancelButton); });
 }
 
 TEST_F(ReportTest, FollowsTheDescendantsOfTheShownThing) {
