@@ -96,7 +96,7 @@ void WriteSlowly(int top) {
 
 TEST_F(HierarchyReportTest, HasTheSectionsOfTheSlowWay) {
   std::mt19937 random(1);
-  for (int round = 0; round < 200; ++round) {
+  for (int round = 0; round < 60; ++round) {
     const auto count = static_cast<unsigned>(1 + random() % 40);
     std::vector<Member> members;
     for (unsigned record = 1; record <= count; ++record) {
