@@ -9,6 +9,7 @@
 #include "reports/open_print_file.h"
 #include "resource.h"
 #include "shell/file_form.h"
+#include "shell/help.h"
 #include "shell/messages.h"
 #include "values/field_types.h"
 
@@ -50,6 +51,7 @@ ReportForm::ReportForm(ReportRequest& request)
   AllCatOption.Click = [this] { AllCatOption_Click(); };
   SelCatOption.Click = [this] { SelCatOption_Click(); };
   BrowseButton.Click = [this] { BrowseButton_Click(); };
+  HelpKey = Global::HelpOn(HelpPages::kReportForm);
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
 }

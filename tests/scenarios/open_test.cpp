@@ -248,7 +248,7 @@ TEST_F(OpenTest, SaysThatAFileIsReadOnly) {
   EXPECT_EQ(user.SeesCaption(), "Larkspur Filer - Home.FIL (read only)");
 }
 
-TEST_F(OpenTest, GreysWhatCannotBeDone) {
+TEST_F(OpenTest, OffersEveryCommand) {
   PutHome();
   Start("Home.FIL");
   for (const int id :
