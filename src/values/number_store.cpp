@@ -32,9 +32,11 @@ std::string Whole32(double number) {
   return std::to_string(static_cast<Whole>(rounded));
 }
 
+// The nearest single: as with whole numbers, the range counts after rounding.
 float Single(double number) {
-  if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max())) throw RuntimeError(kOverflow);
-  return static_cast<float>(number);
+  const auto single = static_cast<float>(number);
+  if (!std::isfinite(single)) throw RuntimeError(kOverflow);
+  return single;
 }
 
 // The text of a plain number of the type; nothing when the type is none of these.

@@ -71,6 +71,8 @@ Decimal ParseDecimal(std::string_view text) {
       if (!behind) ++decimal.Point;
     }
   }
+  // No exponent is too large for a zero; its power of ten would only fill the memory.
+  if (decimal.Digits.find_first_not_of('0') == std::string::npos) return {decimal.Negative, "0", 1};
   return decimal;
 }
 
