@@ -123,7 +123,7 @@ std::string LiteralEvaluator::StoredPercentage(float percentage, const std::stri
     return "0";
   }
   if (type != "INTRATE" || percentage <= 100) return written;
-  Boxes.push_back("Are you sure that you want to use an interest rate greater than 100%?");
+  Boxes.emplace_back("Are you sure that you want to use an interest rate greater than 100%?");
   return InterestYes ? written : "0";
 }
 
