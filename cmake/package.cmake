@@ -8,7 +8,5 @@ endif()
 add_custom_target(programs DEPENDS ${programs})
 
 install(TARGETS ${programs} RUNTIME DESTINATION .)
-if(EXISTS ${PROJECT_SOURCE_DIR}/help)
-  install(DIRECTORY help/ DESTINATION .)
-endif()
+install(DIRECTORY help/ DESTINATION .)
 install(DIRECTORY samples DESTINATION .)

@@ -104,3 +104,20 @@ stop_wine() {
     "$wineserver" -w 2>/dev/null || true
   fi
 }
+
+# Waits up to a minute for the window that shows the document of the given name and prints the window's number;
+# gives up when the process with the given number, if any, ends before.
+wait_for_document() {
+  local caption tries found
+  caption="^Larkspur Filer - (.*\\\\)?$(sed 's/[][\.*^$()+?{|}]/\\&/g' <<<"$1")( \\(read only\\))?( \\*)?$"
+  for ((tries = 0; tries < 300; ++tries)); do
+    found=$(xdotool search --onlyvisible --name "$caption" 2>/dev/null | head -n 1) || true
+    if [[ -n $found ]]; then
+      echo "$found"
+      return
+    fi
+    if [[ -n ${2:-} ]] && ! kill -0 "$2" 2>/dev/null; then break; fi
+    sleep 0.2
+  done
+  return 1
+}
