@@ -63,9 +63,9 @@ VIAddVersionKey "LegalCopyright" ""
   An older version is replaced. Your own files and settings stay as they are.$\r$\n$\r$\n$_CLICK"
 !insertmacro MUI_PAGE_WELCOME
 !define MUI_PAGE_HEADER_TEXT "Choose What to Install"
-!define MUI_PAGE_HEADER_SUBTEXT "Tick what you want of ${NAME}."
-!define MUI_COMPONENTSPAGE_TEXT_TOP "${NAME} can be what opens its data files. You may change that later in the \
-  settings of Windows."
+!define MUI_PAGE_HEADER_SUBTEXT "Choose whether ${NAME} opens its data files."
+!define MUI_COMPONENTSPAGE_TEXT_TOP "With the second choice a double click on a data file (.FIL) opens it in ${NAME}. \
+  You may change that later in the settings of Windows."
 !define MUI_COMPONENTSPAGE_TEXT_COMPLIST "To be installed:"
 !define MUI_COMPONENTSPAGE_SMALLDESC
 !insertmacro MUI_PAGE_COMPONENTS
