@@ -130,29 +130,6 @@ std::string ConvertPercentages(std::string expression, char separator, bool quie
   return expression;
 }
 
-std::string EvaluateFlat(std::string expression, char separator, bool quiet) {
-  for (;;) {
-    int first = 0;
-    int last = 0;
-    char sign = 0;
-    if (!FindOperation(expression, "*/", first, last, sign) && !FindOperation(expression, "+-", first, last, sign)) {
-      return expression;
-    }
-    const auto start = static_cast<std::size_t>(first - 1);
-    const auto length = static_cast<std::size_t>(last - first + 1);
-    const std::string operation = expression.substr(start, length);
-    // The operator stands behind the left operand's signs.
-    std::size_t from = 0;
-    if (from < operation.size() && operation[from] == '-') ++from;
-    if (from < operation.size() && operation[from] == '+') ++from;
-    char found = 0;
-    const int position = NextOperator(operation, static_cast<int>(from) + 1, found);
-    std::string result = ComputeOperation(operation, position, sign, separator, quiet);
-    if (result == kFailure) return result;
-    expression.replace(start, length, result);
-  }
-}
-
 namespace {
 
 // Where to look for the operator behind a left operand that starts at `start`: its signs are passed over.
@@ -166,11 +143,9 @@ int BehindSigns(std::string_view expression, int start) {
   return start;
 }
 
-}  // namespace
-
-bool FindOperation(std::string_view expression, std::string_view operator_class, int& first, int& last, char& sign) {
-  if (expression.find_first_of(operator_class) == std::string_view::npos) return false;
-  int start = 1;
+// FindOperation in what begins with the left operand at `start`.
+bool FindOperationFrom(int start, std::string_view expression, std::string_view operator_class, int& first, int& last,
+                       char& sign) {
   for (;;) {
     const int position = NextOperator(expression, BehindSigns(expression, start), sign);
     if (position == 0) return false;
@@ -183,6 +158,38 @@ bool FindOperation(std::string_view expression, std::string_view operator_class,
     }
     start = position + 1;
   }
+}
+
+// Replaces every operation of the class by its result, the left-most first; false when one fails. What stands left
+// of an operation holds no other of its class, so that the search goes on with the result as the left operand.
+bool ReplaceOperations(std::string& expression, std::string_view operator_class, char separator, bool quiet) {
+  int first = 1;
+  int last = 0;
+  char sign = 0;
+  while (FindOperationFrom(first, expression, operator_class, first, last, sign)) {
+    const auto start = static_cast<std::size_t>(first - 1);
+    const auto length = static_cast<std::size_t>(last - first + 1);
+    const std::string operation = expression.substr(start, length);
+    char found = 0;
+    const int position = NextOperator(operation, BehindSigns(operation, 1), found);
+    const std::string result = ComputeOperation(operation, position, sign, separator, quiet);
+    if (result == kFailure) return false;
+    expression.replace(start, length, result);
+  }
+  return true;
+}
+
+}  // namespace
+
+std::string EvaluateFlat(std::string expression, char separator, bool quiet) {
+  // Results bring no "*" and no "/" back.
+  const bool computed =
+      ReplaceOperations(expression, "*/", separator, quiet) && ReplaceOperations(expression, "+-", separator, quiet);
+  return computed ? expression : kFailure;
+}
+
+bool FindOperation(std::string_view expression, std::string_view operator_class, int& first, int& last, char& sign) {
+  return FindOperationFrom(1, expression, operator_class, first, last, sign);
 }
 
 int NextOperator(std::string_view expression, int start, char& sign) {
