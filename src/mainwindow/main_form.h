@@ -128,8 +128,7 @@ class MainForm : public Form {
   Label AllLabel;
   std::array<std::unique_ptr<Label>, kLetters> LetterLabel;
   ComboBox PersonCombo;
-  Label CategoryFilterLabel;
-  Label HintLabel;
+  Label CategoryFilterLabel, HintLabel;
   TextBox NoteBox;
   Label FatherLabel, MotherLabel;
   DropDownList FatherCombo, MotherCombo;
