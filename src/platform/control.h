@@ -52,7 +52,19 @@ class Control {
   Peer& PeerOf() const { return *peer_; }  // for the platform only
 
  protected:
-  enum class Kind { Label, TextBox, Button, OptionButton, ComboBox, DropDownList, ListBox, CheckList, Picture, Frame };
+  enum class Kind {
+    Label,
+    TextBox,
+    Button,
+    OptionButton,
+    ComboBox,
+    DropDownList,
+    ListBox,
+    CheckList,
+    Picture,
+    Frame,
+    Surface
+  };
 
   // Binds to the template's control of that id; a missing one is a fault of the program and ends it.
   Control(Form& owner, int id, Kind kind);

@@ -28,6 +28,10 @@ bool AtEnd(int handle);
 // Reads the next line into `line`, without its end (CR LF, a lone LF or a lone CR). Error 62 at the end.
 void ReadLine(int handle, std::string& line);
 
+// The bytes of a whole file, which is not held open afterwards; others may read and write it meanwhile. Fails as
+// Open does, and with 7 when there is no room for the bytes.
+std::string ReadAll(const std::string& name);
+
 // Appends bytes to an Output file as they stand. The bytes may be buffered: Close or Flush reports
 // what the disk refuses.
 void Write(int handle, std::string_view bytes);

@@ -12,9 +12,10 @@ struct Row {
   std::string_view Description;
 };
 
-constexpr std::array<Row, 16> kDescriptions = {{
+constexpr std::array<Row, 19> kDescriptions = {{
     {kInvalidCall, "Invalid procedure call or argument"},
     {kOverflow, "Overflow"},
+    {kOutOfMemory, "Out of memory"},
     {kDivisionByZero, "Division by zero"},
     {kTypeMismatch, "Type mismatch"},
     {kBadFileNumber, "Bad file name or number"},
@@ -29,6 +30,8 @@ constexpr std::array<Row, 16> kDescriptions = {{
     {kPathFileAccess, "Path/File access error"},
     {kPathNotFound, "Path not found"},
     {kInvalidPicture, "Invalid picture"},
+    {kPrinterError, "Printer error"},
+    {kClipboardTaken, "Can't open Clipboard"},
 }};
 
 struct SystemRow {

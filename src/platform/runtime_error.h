@@ -10,6 +10,7 @@
 enum ErrorNumber : int {
   kInvalidCall = 5,
   kOverflow = 6,
+  kOutOfMemory = 7,
   kDivisionByZero = 11,
   kTypeMismatch = 13,
   kBadFileNumber = 52,
@@ -24,6 +25,8 @@ enum ErrorNumber : int {
   kPathFileAccess = 75,
   kPathNotFound = 76,
   kInvalidPicture = 481,
+  kPrinterError = 482,
+  kClipboardTaken = 521,
 };
 
 // Thrown by the platform and by number conversion; caught by the routine that words the message.

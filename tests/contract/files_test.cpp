@@ -360,4 +360,24 @@ TEST_F(FilesContract, ExistsForFilesOnly) {
   }
 }
 
+TEST_F(FilesContract, ReadAllTakesEveryByteAndHoldsNothing) {
+  const std::string bytes = "a\r\n\0b\x1A"s + Xs(3 * kBlock);
+  TestFiles::Put("ALL.BIN", bytes);
+  EXPECT_TRUE(Files::ReadAll("ALL.BIN") == bytes);
+  Files::Open(2, "ALL.BIN", Mode::Output);
+  Files::Write(2, "half");
+  Files::Flush(2);
+  EXPECT_EQ(Files::ReadAll("ALL.BIN"), "half");  // while it is being written
+  Files::Close(2);
+  Files::Erase("ALL.BIN");
+  TestFiles::Put("EMPTY", "");
+  TestFiles::MakeFolder("FOLDER");
+  TestFiles::Put("HELD", "x");
+  TestFiles::HoldByOther("HELD", true);
+  EXPECT_EQ(Files::ReadAll("EMPTY"), "");
+  EXPECT_EQ(ErrorOf([] { Files::ReadAll("ALL.BIN"); }), kFileNotFound);
+  EXPECT_EQ(ErrorOf([] { Files::ReadAll("FOLDER"); }), kPathFileAccess);
+  EXPECT_EQ(ErrorOf([] { Files::ReadAll("HELD"); }), kPermissionDenied);
+}
+
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include "platform/form.h"
 #include "platform/message.h"
+#include "platform/surface.h"
 
 class User {
  public:
@@ -29,6 +30,14 @@ class User {
   void MovesTo(int id);                        // moves the focus only
   void ClosesWindow();                         // the topmost form's close box
 
+  // On a surface, in cells; dragging ends by letting go.
+  void Presses(const KeyPress& key);
+  void PressesControl(char letter);  // A or C
+  void Drags(int id, Cell from, Cell to, bool shift = false);
+  void DoubleClicks(int id, Cell at);
+  void TurnsWheel(int id, int notches, bool shift = false, bool control = false);  // positive: towards the person
+  void PagesBar(int id, Surface::Bar bar, int pages);                              // beside the thumb of a scroll bar
+
   // What is seen on the topmost form.
   std::string Sees(int id);
   std::string SeesCaption();
@@ -40,6 +49,8 @@ class User {
   std::vector<std::string> SeesTicked(int id);
   bool SeesMenuEnabled(int id);
   bool SeesMenuChecked(int id);
+  Page SeesPage(int id);                  // a surface's
+  int SeesBar(int id, Surface::Bar bar);  // the position of a scroll bar; -1 when there is nothing to scroll
 
   // What is expected to come, in order. Anything else that comes fails the test with its text and is
   // closed (Cancel, No or OK); a form that an `acts` leaves open fails it too and is closed.

@@ -128,6 +128,14 @@ void ReadLine(int handle, std::string& line) {
   if (!file.Reader->Read(line)) throw RuntimeError(kInputPastEnd);
 }
 
+std::string ReadAll(const std::string& name) {
+  const int handle = FreeHandle();
+  Open(handle, name, Mode::Input);
+  std::string bytes = Slot(handle)->Hold->File->Bytes;
+  Close(handle);
+  return bytes;
+}
+
 void Write(int handle, std::string_view bytes) { Append(Opened(handle, Mode::Output), bytes); }
 
 void WriteLine(int handle, std::string_view text) {

@@ -13,6 +13,11 @@
 #include "platform/form.h"
 #include "platform/lists.h"
 #include "platform/message.h"
+#include "platform/surface.h"
+
+struct SurfaceBar {
+  int Range = 0, Shown = 1, Position = 0;
+};
 
 struct Control::Peer {
   using Kind = Control::Kind;
@@ -38,6 +43,10 @@ struct Control::Peer {
   int Selected = -1;                // lists
   std::vector<bool> Ticks;          // check list
   int MarkFirst = 0, MarkLast = 0;  // combo: the marked part of the edit text
+  double TextSize = 10;             // surface
+  Page Shown;                       // surface
+  bool OnPaper = false;             // surface
+  std::map<Surface::Bar, SurfaceBar> Bars;
 
   bool TakesFocus() const;  // of a kind that can, visible and enabled
   bool Editable() const { return What == Kind::TextBox || What == Kind::ComboBox; }

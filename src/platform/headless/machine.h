@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/printing.h"
 #include "platform/registry.h"
 
 namespace Machine {
@@ -29,6 +30,16 @@ void SetRegistryValue(RegistryRoot root, const std::string& key, const std::stri
                       unsigned long type = kRegistryText);
 void RemoveRegistryKey(RegistryRoot root, const std::string& key);  // with all keys below it
 void FailRegistryReads(bool fail);                                  // values are there, but cannot be read
+
+// The printer: its paper, the pages that the user chooses in its dialog (nothing: cancels it), and how many sheets it
+// has. Without one, printing fails.
+struct Printer {
+  Sheet Paper;
+  std::optional<PrintRange> Chosen;
+  std::size_t PaperLeft = 1000;
+};
+void SetPrinter(const std::optional<Printer>& with);
+std::vector<Page> PrintedPages();  // by jobs that came to their end, since the last call
 
 // Files, by full name or relative to the current folder. None of these counts as a file call, and
 // none minds read-only flags or handles. Putting a file into a folder that is missing throws.

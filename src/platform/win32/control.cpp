@@ -5,6 +5,7 @@
 
 #include "platform/win32/internals.h"
 #include "platform/win32/silence.h"
+#include "platform/win32/surface_work.h"
 
 namespace {
 
@@ -37,6 +38,7 @@ Control::Control(Form& owner, int id, Kind kind) : peer_(std::make_unique<Peer>(
   if (!peer.HoldsEntries()) {
     SetWindowSubclass(peer.Window, &Peer::Procedure, 0, reinterpret_cast<DWORD_PTR>(&peer));
   }
+  if (kind == Kind::Surface) peer.Work = std::make_shared<SurfaceWork>(peer);
   if (kind == Kind::Label || kind == Kind::Picture) peer.ChangeStyle(SS_NOTIFY, 0);
   if (kind == Kind::TextBox) peer.Send(EM_SETLIMITTEXT, kNoLimit);
   if (kind == Kind::ComboBox) peer.Send(CB_LIMITTEXT, kNoLimit);
@@ -167,7 +169,8 @@ LRESULT CALLBACK Control::Peer::Procedure(HWND window, UINT message, WPARAM firs
   return result;
 }
 
-bool Control::Peer::Intercept(UINT message, WPARAM first, LPARAM /*second*/, LRESULT& result) {
+bool Control::Peer::Intercept(UINT message, WPARAM first, LPARAM second, LRESULT& result) {
+  if (What == Kind::Surface) return Work != nullptr && Work->Take(message, first, second, result);
   if (message == WM_PAINT) return Paint();
   if (message == WM_ERASEBKGND && What == Kind::Picture) {
     result = TRUE;

@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <new>
 #include <optional>
+#include <stdexcept>
 
 #include "platform/line_reader.h"
 #include "platform/runtime_error.h"
@@ -15,6 +17,7 @@ namespace {
 
 constexpr int kLastHandle = 255;
 constexpr std::size_t kPendingSize = 65536;
+constexpr std::size_t kLargestRead = 16U << 20;
 constexpr ULONGLONG kRenamePatience = 2000;  // milliseconds
 constexpr DWORD kRenamePause = 50;
 
@@ -160,6 +163,32 @@ bool AtEnd(int handle) { return Opened(handle, Mode::Input).Reader->AtEnd(); }
 
 void ReadLine(int handle, std::string& line) {
   if (!Opened(handle, Mode::Input).Reader->Read(line)) throw RuntimeError(kInputPastEnd);
+}
+
+std::string ReadAll(const std::string& name) {
+  CheckName(name);
+  const SystemFile file = OpenSystemFile(name, Mode::Input);
+  LARGE_INTEGER size{};
+  if (!GetFileSizeEx(file.get(), &size)) Fail(GetLastError());
+  const auto read = ReadFrom(file.get());
+  std::string bytes;
+  try {
+    // One byte more, so that its end is found without making room anew.
+    bytes.resize(static_cast<std::size_t>(size.QuadPart) + 1);
+    std::size_t end = 0;
+    for (;;) {
+      if (end == bytes.size()) bytes.resize(end + kPendingSize);  // another program is writing it
+      const std::size_t count = read(bytes.data() + end, std::min(bytes.size() - end, kLargestRead));
+      if (count == 0) break;
+      end += count;
+    }
+    bytes.resize(end);
+  } catch (const std::bad_alloc&) {
+    throw RuntimeError(kOutOfMemory);
+  } catch (const std::length_error&) {
+    throw RuntimeError(kOutOfMemory);
+  }
+  return bytes;
 }
 
 void Write(int handle, std::string_view bytes) { Append(Opened(handle, Mode::Output), bytes); }

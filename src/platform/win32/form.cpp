@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/win32/internals.h"
+#include "platform/win32/keys.h"
 
 std::vector<Form*>& OpenForms() {
   static std::vector<Form*> forms;
@@ -20,7 +21,29 @@ namespace {
 
 std::optional<Key> KeyOf(const MSG& message) {
   if (message.message != WM_KEYDOWN || GetKeyState(VK_CONTROL) < 0 || GetKeyState(VK_MENU) < 0) return std::nullopt;
-  switch (message.wParam) {
+  return KeyOfCode(message.wParam);
+}
+
+bool IsRepeated(const MSG& message) { return (HIWORD(message.lParam) & KF_REPEAT) != 0; }
+
+// True when the form took the key.
+bool TellKey(Form::Peer& peer, const MSG& message) {
+  const std::optional<Key> key = KeyOf(message);
+  if (key == Key::Help) {
+    if (!IsRepeated(message)) peer.Guard([&] { Raise(peer.Self->HelpKey); });
+    return true;
+  }
+  const std::function<bool(Key)> key_down = peer.Self->KeyDown;
+  if (!key || !key_down) return false;
+  bool taken = false;
+  peer.Guard([&] { taken = key_down(*key); });
+  return taken;
+}
+
+}  // namespace
+
+std::optional<Key> KeyOfCode(WPARAM code) {
+  switch (code) {
     case VK_LEFT:
       return Key::Left;
     case VK_RIGHT:
@@ -43,24 +66,6 @@ std::optional<Key> KeyOf(const MSG& message) {
       return std::nullopt;
   }
 }
-
-bool IsRepeated(const MSG& message) { return (HIWORD(message.lParam) & KF_REPEAT) != 0; }
-
-// True when the form took the key.
-bool TellKey(Form::Peer& peer, const MSG& message) {
-  const std::optional<Key> key = KeyOf(message);
-  if (key == Key::Help) {
-    if (!IsRepeated(message)) peer.Guard([&] { Raise(peer.Self->HelpKey); });
-    return true;
-  }
-  const std::function<bool(Key)> key_down = peer.Self->KeyDown;
-  if (!key || !key_down) return false;
-  bool taken = false;
-  peer.Guard([&] { taken = key_down(*key); });
-  return taken;
-}
-
-}  // namespace
 
 void Dispatch(MSG& message) {
   if (const Form* form = TopmostForm()) {

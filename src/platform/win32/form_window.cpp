@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "platform/win32/internals.h"
+#include "platform/win32/surface_work.h"
 #include "resource.h"
 
 namespace {
@@ -12,6 +13,7 @@ constexpr UINT kDroppedUp = WM_APP + 2;  // a drop-down's list was closed; its i
 
 void InitControlsOnce() {
   static const bool kDone = [] {
+    RegisterSurfaceClass();
     const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
     return InitCommonControlsEx(&classes) != FALSE;
   }();

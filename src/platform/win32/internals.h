@@ -17,6 +17,7 @@
 #include "platform/win32/layout.h"
 
 class Photo;
+class SurfaceWork;
 
 struct Control::Peer {
   using Kind = Control::Kind;
@@ -35,7 +36,8 @@ struct Control::Peer {
   std::vector<bool> Ticks;         // check list: a copy, for asking the native one takes long
   bool Bold = false;
   ::BackColor Back = ::BackColor::ButtonFace;
-  std::shared_ptr<Photo> Shown;  // picture; null when empty
+  std::shared_ptr<Photo> Shown;       // picture; null when empty
+  std::shared_ptr<SurfaceWork> Work;  // surface
 
   bool TakesInput() const;  // visible and enabled
   bool TakesFocus() const;  // the same, and of a kind that can

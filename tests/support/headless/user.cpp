@@ -173,9 +173,11 @@ void User::Presses(Key key) {
     return;
   }
   if (key != Key::Enter) {
-    // What a control does with such a key is its own affair, and none here does anything.
+    // What a control does with such a key is its own affair, and none here but a surface does anything.
     const std::function<bool(Key)> key_down = form->KeyDown;
-    if (key_down) key_down(key);
+    const bool taken = key_down && key_down(key);
+    const Control* focused = form->PeerOf().Focus;
+    if (!taken && focused != nullptr && focused->PeerOf().What == Kind::Surface) Presses(KeyPress{key});
     return;
   }
   Control* focused = form->PeerOf().Focus;
@@ -184,6 +186,70 @@ void User::Presses(Key key) {
   } else {
     PressOn(*form, kEnterButton, form->EnterKey);
   }
+}
+
+namespace {
+
+constexpr int kCellsOfANotch = 3;
+
+// The surface that has the focus, or null, which fails the test.
+Surface* FocusedSurface() {
+  const Form* form = Topmost();
+  Control* focused = form == nullptr ? nullptr : form->PeerOf().Focus;
+  if (focused != nullptr && focused->PeerOf().What == Kind::Surface) return static_cast<Surface*>(focused);
+  ADD_FAILURE() << "The focus is on no surface";
+  return nullptr;
+}
+
+Surface* ReachSurface(int id) {
+  const Control::Peer* peer = Reach(id, {Kind::Surface});
+  return peer == nullptr ? nullptr : static_cast<Surface*>(peer->Self);
+}
+
+template <typename Handler, typename... Arguments>
+void Raise(const Handler& handler, const Arguments&... arguments) {
+  const Handler kept = handler;
+  if (kept) kept(arguments...);
+}
+
+}  // namespace
+
+void User::Presses(const KeyPress& key) {
+  if (const Surface* surface = FocusedSurface()) Raise(surface->KeyDown, key);
+}
+
+void User::PressesControl(char letter) {
+  if (const Surface* surface = FocusedSurface()) Raise(letter == 'A' ? surface->SelectAllKey : surface->CopyKey);
+}
+
+void User::Drags(int id, Cell from, Cell to, bool shift) {
+  const Surface* surface = ReachSurface(id);
+  if (surface == nullptr) return;
+  Raise(surface->Mouse, MousePress{MousePress::Act::Press, from, shift});
+  if (from != to) Raise(surface->Mouse, MousePress{MousePress::Act::Drag, to, shift});
+}
+
+void User::DoubleClicks(int id, Cell at) {
+  const Surface* surface = ReachSurface(id);
+  if (surface == nullptr) return;
+  Raise(surface->Mouse, MousePress{MousePress::Act::Press, at});
+  Raise(surface->Mouse, MousePress{MousePress::Act::DoubleClick, at});
+}
+
+void User::TurnsWheel(int id, int notches, bool shift, bool control) {
+  const Surface* surface = ReachSurface(id);
+  if (surface != nullptr) {
+    Raise(surface->Wheel, WheelTurn{control ? notches : notches * kCellsOfANotch, shift, control});
+  }
+}
+
+void User::PagesBar(int id, Surface::Bar bar, int pages) {
+  const Surface* surface = ReachSurface(id);
+  if (surface == nullptr) return;
+  const SurfaceBar& state = surface->PeerOf().Bars[bar];
+  const int last = std::max(0, state.Range - state.Shown);
+  const int position = std::clamp(state.Position + pages * std::max(1, state.Shown - 1), 0, last);
+  if (position != state.Position) Raise(surface->Scroll, bar, position);
 }
 
 void User::MovesTo(int id) {
@@ -261,4 +327,16 @@ bool User::SeesMenuEnabled(int id) {
 bool User::SeesMenuChecked(int id) {
   const Form* form = Topmost();
   return form != nullptr && form->MenuChecked(id);
+}
+
+Page User::SeesPage(int id) {
+  const Control::Peer* peer = Find(id);
+  return peer == nullptr ? Page() : peer->Shown;
+}
+
+int User::SeesBar(int id, Surface::Bar bar) {
+  Control::Peer* peer = Find(id);
+  if (peer == nullptr) return -1;
+  const SurfaceBar& state = peer->Bars[bar];
+  return state.Range > state.Shown ? state.Position : -1;
 }

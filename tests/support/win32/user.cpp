@@ -9,6 +9,7 @@
 #include <string>
 
 #include "platform/win32/internals.h"
+#include "platform/win32/surface_work.h"
 #include "support/expectations.h"
 #include "support/win32/watcher.h"
 
@@ -203,7 +204,38 @@ void User::ChoosesMenu(int id) {
   Settle();
 }
 
-void User::Presses(Key key) {
+namespace {
+
+// Keys that are held down for as long as one of these lives.
+class Held {
+ public:
+  Held(bool shift, bool control) {
+    GetKeyboardState(before_);
+    BYTE now[256];
+    std::copy(std::begin(before_), std::end(before_), now);
+    now[VK_SHIFT] = shift ? 0x80 : 0;
+    now[VK_CONTROL] = control ? 0x80 : 0;
+    SetKeyboardState(now);
+  }
+  ~Held() { SetKeyboardState(before_); }
+  Held(const Held&) = delete;
+  Held& operator=(const Held&) = delete;
+
+ private:
+  BYTE before_[256] = {};
+};
+
+// The middle of a cell in the window's own coordinates.
+LPARAM Inside(const Control::Peer& peer, const Cell& cell) {
+  const RECT rect = peer.Work->RectOf(cell);
+  return MAKELPARAM((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+}
+
+}  // namespace
+
+void User::Presses(Key key) { Presses(KeyPress{key}); }
+
+void User::Presses(const KeyPress& key) {
   const Form::Peer* form = Topmost();
   if (form == nullptr) return;
   HWND focus = GetFocus();
@@ -211,9 +243,51 @@ void User::Presses(Key key) {
   // In the order of Key.
   constexpr WPARAM kCodes[] = {VK_RETURN, VK_ESCAPE, VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN,
                                VK_PRIOR,  VK_NEXT,   VK_HOME, VK_END,   VK_F1};
-  const WPARAM code = kCodes[static_cast<std::size_t>(key)];
+  const WPARAM code = kCodes[static_cast<std::size_t>(key.What)];
+  const Held held(key.Shift, key.Control);
   PostMessageA(focus, WM_KEYDOWN, code, 1);
   PostMessageA(focus, WM_KEYUP, code, 1);
+  Settle();
+}
+
+void User::PressesControl(char letter) {
+  if (Topmost() == nullptr) return;
+  PostMessageA(GetFocus(), WM_CHAR, static_cast<WPARAM>(letter - 'A' + 1), 1);
+  Settle();
+}
+
+void User::Drags(int id, Cell from, Cell to, bool shift) {
+  const Control::Peer* peer = Reach(id, {Kind::Surface});
+  if (peer == nullptr) return;
+  const WPARAM keys = shift ? MK_LBUTTON | MK_SHIFT : MK_LBUTTON;
+  peer->Send(WM_LBUTTONDOWN, keys, Inside(*peer, from));
+  peer->Send(WM_MOUSEMOVE, keys, Inside(*peer, to));
+  peer->Send(WM_LBUTTONUP, 0, Inside(*peer, to));
+  Settle();
+}
+
+void User::DoubleClicks(int id, Cell at) {
+  const Control::Peer* peer = Reach(id, {Kind::Surface});
+  if (peer == nullptr) return;
+  for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
+    peer->Send(message, MK_LBUTTON, Inside(*peer, at));
+  }
+  Settle();
+}
+
+void User::TurnsWheel(int id, int notches, bool shift, bool control) {
+  const Control::Peer* peer = Reach(id, {Kind::Surface});
+  if (peer == nullptr) return;
+  const int keys = (shift ? MK_SHIFT : 0) | (control ? MK_CONTROL : 0);
+  peer->Send(WM_MOUSEWHEEL, MAKEWPARAM(keys, -notches * WHEEL_DELTA), 0);
+  Settle();
+}
+
+void User::PagesBar(int id, Surface::Bar bar, int pages) {
+  const Control::Peer* peer = Reach(id, {Kind::Surface});
+  if (peer == nullptr) return;
+  const UINT message = bar == Surface::Bar::Down ? WM_VSCROLL : WM_HSCROLL;
+  for (int page = 0; page < std::abs(pages); ++page) peer->Send(message, pages > 0 ? SB_PAGEDOWN : SB_PAGEUP);
   Settle();
 }
 
@@ -284,4 +358,19 @@ bool User::SeesMenuEnabled(int id) { return (MenuState(id) & (MF_GRAYED | MF_DIS
 bool User::SeesMenuChecked(int id) {
   const UINT state = MenuState(id);
   return state != static_cast<UINT>(-1) && (state & MF_CHECKED) != 0;
+}
+
+Page User::SeesPage(int id) {
+  const Control::Peer* peer = Find(id);
+  return peer == nullptr || peer->Work == nullptr ? Page() : peer->Work->Shown;
+}
+
+int User::SeesBar(int id, Surface::Bar bar) {
+  const Control::Peer* peer = Find(id);
+  if (peer == nullptr) return -1;
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_ALL;
+  GetScrollInfo(peer->Window, bar == Surface::Bar::Down ? SB_VERT : SB_HORZ, &info);
+  return info.nMax + 1 > static_cast<int>(info.nPage) ? info.nPos : -1;
 }

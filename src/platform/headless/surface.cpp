@@ -1,0 +1,32 @@
+// The surface, in memory: it remembers what it shows and has room for 80 columns and 25 rows of text of 10 points.
+#include "platform/surface.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/headless/internals.h"
+
+namespace {
+
+int Fits(double cells, double text_size) { return std::max(1, static_cast<int>(cells * 10 / text_size)); }
+
+}  // namespace
+
+int Surface::Columns() const { return Fits(80, PeerOf().TextSize); }
+int Surface::Rows() const { return Fits(25, PeerOf().TextSize); }
+void Surface::SetTextSize(double points) { PeerOf().TextSize = points; }
+double Surface::TextSize() const { return PeerOf().TextSize; }
+
+void Surface::Show(Page page) {
+  PeerOf().Shown = std::move(page);
+  PeerOf().OnPaper = false;
+}
+
+void Surface::ShowOnPaper(Page page, const Sheet& /*sheet*/) {
+  PeerOf().Shown = std::move(page);
+  PeerOf().OnPaper = true;
+}
+
+void Surface::SetScroll(Bar bar, int range, int shown, int position) {
+  PeerOf().Bars[bar] = {range, shown, std::clamp(position, 0, std::max(0, range - shown))};
+}
