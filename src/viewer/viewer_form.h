@@ -1,0 +1,87 @@
+// ViewerForm: the window of the report viewer. Hands what the user does to the report's view and draws what that
+// shows. Its members stand in viewer_form.cpp, those for files and finding in viewer_form_file.cpp.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "platform/controls.h"
+#include "platform/form.h"
+#include "platform/surface.h"
+#include "viewer/report_view.h"
+
+class ViewerForm : public Form {
+ public:
+  // The command line is a file name, perhaps in quotation marks; without one the user is asked.
+  explicit ViewerForm(const std::string& command_line);
+
+  // Shows the window, then opens the file.
+  void Start();
+
+  // Starts, and runs until the window is closed.
+  void Run();
+
+ private:
+  struct Command;
+
+  Button OpenButton;
+  Button PrintButton;
+  Button PreviewButton;
+  Label FindLabel;
+  TextBox FindBox;
+  Button FindNextButton;
+  Button FindPreviousButton;
+  Label HitLabel;
+  Surface ReportSurface;
+  Label FileLabel;
+  Label LinesLabel;
+  Label ZoomLabel;
+
+  void Form_Load() override;
+  void ReportSurface_Resize();
+  void ReportSurface_Scroll(Surface::Bar bar, int position);
+  void ReportSurface_Wheel(const WheelTurn& turn);
+  bool FindBox_KeyDown(Key key);
+  void EscapeKey_Pressed();
+
+  static std::span<const Command> Commands();
+  void CopyItem_Click();
+  void SelectAllItem_Click();
+  void ZoomInItem_Click() { Zoom(1); }
+  void ZoomOutItem_Click() { Zoom(-1); }
+  void ZoomNormalItem_Click();
+  void PrintItem_Click();
+  void PreviewItem_Click();
+  void ExitItem_Click() { Close(); }
+  bool HasFile() const { return !file_.empty(); }
+  bool HasLines() const { return view_.Text().Count() > 0; }
+  bool HasSelection() const { return view_.HasSelection(); }
+  bool Always() const { return true; }
+
+  // viewer_form_file.cpp
+  void OpenItem_Click();
+  void ReloadItem_Click();
+  void SaveTextItem_Click();
+  void FindBox_Change();
+  void FindItem_Click();
+  void FindNextItem_Click() { Find(&ReportView::FindNext); }
+  void FindPreviousItem_Click() { Find(&ReportView::FindPrevious); }
+  bool Load(const std::string& name, bool keep_place);
+  void Find(bool (ReportView::*step)());
+  std::string FoundText() const;
+
+  void Zoom(int steps);
+  void SetZoom(std::size_t level);
+  void Refresh();
+  void ShowReport();
+  void ShowStatus();
+  Page Notice() const;
+  std::string FileTitle() const;
+
+  std::string file_;  // its full name; empty when none is open
+  ReportView view_;
+  std::size_t zoom_;
+};
+
+// The file name that a command line gives: what stands in its quotation marks, if it has any.
+std::string FileNameIn(const std::string& command_line);
