@@ -5,7 +5,7 @@ set(packaging_dir ${PROJECT_SOURCE_DIR}/packaging)
 # Compiles templates into the target, or into every executable that links it when it is a library.
 function(add_templates target)
   set_source_files_properties(${ARGN} TARGET_DIRECTORY ${target}
-                              PROPERTIES OBJECT_DEPENDS ${PROJECT_SOURCE_DIR}/src/resource.h)
+                              PROPERTIES OBJECT_DEPENDS "${PROJECT_SOURCE_DIR}/src/resource.h;${PROJECT_SOURCE_DIR}/src/viewer/viewer_ids.h")
   get_target_property(type ${target} TYPE)
   if(type STREQUAL "EXECUTABLE")
     target_sources(${target} PRIVATE ${ARGN})
@@ -32,11 +32,11 @@ function(add_manifest target)
 endfunction()
 
 # Gives the program its icons and the version of the project.
-function(add_program_resources target)
-  configure_file(${packaging_dir}/version.rc.in ${PROJECT_BINARY_DIR}/version.rc @ONLY)
-  target_sources(${target} PRIVATE ${packaging_dir}/icons.rc ${PROJECT_BINARY_DIR}/version.rc)
+function(add_program_resources target description icons)
+  configure_file(${packaging_dir}/version.rc.in ${PROJECT_BINARY_DIR}/${target}_version.rc @ONLY)
+  target_sources(${target} PRIVATE ${packaging_dir}/${icons} ${PROJECT_BINARY_DIR}/${target}_version.rc)
   target_include_directories(${target} PRIVATE ${packaging_dir})
-  set_source_files_properties(
-    ${packaging_dir}/icons.rc TARGET_DIRECTORY ${target}
-    PROPERTIES OBJECT_DEPENDS "${packaging_dir}/larkspur.ico;${packaging_dir}/document.ico;${PROJECT_SOURCE_DIR}/src/resource.h")
+  file(GLOB pictures CONFIGURE_DEPENDS ${packaging_dir}/*.ico)
+  set_source_files_properties(${packaging_dir}/${icons} TARGET_DIRECTORY ${target}
+                              PROPERTIES OBJECT_DEPENDS "${pictures};${PROJECT_SOURCE_DIR}/src/resource.h")
 endfunction()
