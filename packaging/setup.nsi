@@ -131,10 +131,10 @@ Function ${UN}CloseRunning
         ${EndIf}
       ${Loop}
     ${EndIf}
-    ${If} $R1 == "LARKVIEW.exe"
+    ${If} $R1 == "LARKVIEW.EXE"
       ${ExitDo}
     ${EndIf}
-    StrCpy $R1 "LARKVIEW.exe"
+    StrCpy $R1 "LARKVIEW.EXE"
   ${Loop}
 FunctionEnd
 

@@ -133,6 +133,7 @@
 // AboutForm
 #define IDC_ProgramTitleLabel 1550
 #define IDC_VersionLabel 1551
+#define IDC_DescriptionLabel 1552
 
 // ReportForm
 #define IDC_CatFrame 1500

@@ -18,6 +18,7 @@ inline constexpr const char* kFileForm = "Larkspur_FileForm.htm";
 inline constexpr const char* kFormulaDefForm = "Larkspur_FormulaDefForm.htm";
 inline constexpr const char* kPickListForm = "Larkspur_PickListForm.htm";
 inline constexpr const char* kReportForm = "Larkspur_ReportForm.htm";
+inline constexpr const char* kViewer = "Larkspur_Viewer.htm";
 
 }  // namespace HelpPages
 

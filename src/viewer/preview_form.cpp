@@ -6,6 +6,7 @@
 
 #include "platform/printing.h"
 #include "resource.h"
+#include "shell/help.h"
 #include "viewer/print_report.h"
 #include "viewer/viewer_ids.h"
 
@@ -24,6 +25,7 @@ PreviewForm::PreviewForm(const ReportText& text, std::string name)
   NextButton.Click = [this] { NextButton_Click(); };
   PrintButton.Click = [this] { PrintButton_Click(); };
   CancelButton.Click = [this] { CancelButton_Click(); };
+  HelpKey = Global::HelpOn(HelpPages::kViewer);
   PreviewSurface.KeyDown = [this](const KeyPress& key) { PreviewSurface_KeyDown(key); };
   PreviewSurface.Wheel = [this](const WheelTurn& turn) { GoTo(page_ + (turn.Cells > 0 ? 1 : -1)); };
   Anchor(PreviewSurface, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);

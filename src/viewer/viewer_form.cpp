@@ -9,6 +9,8 @@
 #include "mainwindow/file_names.h"
 #include "platform/clipboard.h"
 #include "resource.h"
+#include "shell/about_form.h"
+#include "shell/help.h"
 #include "shell/messages.h"
 #include "viewer/preview_form.h"
 #include "viewer/print_report.h"
@@ -22,11 +24,11 @@ constexpr std::size_t kNormalZoom = 4;
 
 }  // namespace
 
-// A menu entry and the button of the same command. Without a handler both stay greyed.
+// A menu entry and the button of the same command.
 struct ViewerForm::Command {
   int Item;
-  Button ViewerForm::*ItsButton = nullptr;
-  void (ViewerForm::*Handler)() = nullptr;
+  Button ViewerForm::*ItsButton;
+  void (ViewerForm::*Handler)();
   bool (ViewerForm::*Enabled)() const = &ViewerForm::Always;
 };
 
@@ -46,8 +48,8 @@ std::span<const ViewerForm::Command> ViewerForm::Commands() {
       {IDC_ZoomInItem, nullptr, &ViewerForm::ZoomInItem_Click},
       {IDC_ZoomOutItem, nullptr, &ViewerForm::ZoomOutItem_Click},
       {IDC_ZoomNormalItem, nullptr, &ViewerForm::ZoomNormalItem_Click},
-      {IDC_ContentsItem},
-      {IDC_AboutItem},
+      {IDC_ContentsItem, nullptr, &ViewerForm::ContentsItem_Click},
+      {IDC_AboutItem, nullptr, &ViewerForm::AboutItem_Click},
   };
   return kCommands;
 }
@@ -74,7 +76,7 @@ ViewerForm::ViewerForm(const std::string& command_line)
   }
   MenuClick = [this](int id) {
     for (const Command& command : Commands()) {
-      if (command.Item == id && command.Handler != nullptr) (this->*command.Handler)();
+      if (command.Item == id) (this->*command.Handler)();
     }
   };
   FindBox.Change = [this] { FindBox_Change(); };
@@ -94,6 +96,7 @@ ViewerForm::ViewerForm(const std::string& command_line)
   KeyDown = [this](Key key) { return FindBox_KeyDown(key); };
   EnterKey = [this] { FindNextItem_Click(); };
   EscapeKey = [this] { EscapeKey_Pressed(); };
+  HelpKey = [this] { ContentsItem_Click(); };
   Anchor(ReportSurface, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
   Anchor(FileLabel, kEdgeLeft | kEdgeRight | kEdgeBottom);
   Anchor(LinesLabel, kEdgeRight | kEdgeBottom);
@@ -193,11 +196,17 @@ void ViewerForm::PrintItem_Click() { PrintReport(view_.Text(), FileTitle()); }
 
 void ViewerForm::PreviewItem_Click() { PreviewForm(view_.Text(), FileTitle()).ShowModal(); }
 
+void ViewerForm::ContentsItem_Click() { Global::ShowHelpPage(HelpPages::kViewer); }
+
+void ViewerForm::AboutItem_Click() {
+  AboutForm("Shows, searches and prints the reports of Larkspur Filer.").ShowModal();
+}
+
 void ViewerForm::Refresh() {
   ShowReport();
   ShowStatus();
   for (const Command& command : Commands()) {
-    const bool enabled = command.Handler != nullptr && (this->*command.Enabled)();
+    const bool enabled = (this->*command.Enabled)();
     SetMenuEnabled(command.Item, enabled);
     if (command.ItsButton != nullptr) (this->*command.ItsButton).SetEnabled(enabled);
   }

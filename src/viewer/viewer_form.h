@@ -53,6 +53,8 @@ class ViewerForm : public Form {
   void PrintItem_Click();
   void PreviewItem_Click();
   void ExitItem_Click() { Close(); }
+  void ContentsItem_Click();
+  void AboutItem_Click();
   bool HasFile() const { return !file_.empty(); }
   bool HasLines() const { return view_.Text().Count() > 0; }
   bool HasSelection() const { return view_.HasSelection(); }

@@ -2,6 +2,8 @@
 #include "platform/headless/machine.h"
 #include "platform/program.h"
 #include "scenarios/main_form_test.h"
+#include "viewer/viewer_form.h"
+#include "viewer/viewer_ids.h"
 
 namespace {
 
@@ -70,6 +72,17 @@ TEST_F(HelpTest, EveryWindowHasItsPage) {
     HelpsIn(IDD_PickListForm, IDC_ChangeFieldItem, "Larkspur_PickListForm.htm");
     HelpsIn(IDD_DatePickForm, IDC_InsertDateItem, "Larkspur_DatePickForm.htm");
   });
+}
+
+TEST_F(HelpTest, TheViewerHasItsPageToo) {
+  TestFiles::Put("R.PRN", "LARKSPUR V1.0 REPORT T=2\r\n\r\nTitle\r\nline\r\n");
+  ViewerForm viewer("R.PRN");
+  viewer.Start();
+  user.Presses(Key::Help);
+  ExpectShown("Larkspur_Viewer.htm");
+  user.ChoosesMenu(IDC_ContentsItem);
+  ExpectShown("Larkspur_Viewer.htm");
+  HelpsIn(IDD_PreviewForm, IDC_PreviewItem, "Larkspur_Viewer.htm");
 }
 
 TEST_F(HelpTest, LooksForABrowserWhenNoneIsRegistered) {

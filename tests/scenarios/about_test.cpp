@@ -13,6 +13,7 @@ TEST_F(AboutTest, TellsTheVersionAndGoes) {
     user.UsesForm(IDD_AboutForm, [&] {
       EXPECT_EQ(user.SeesCaption(), "About Larkspur Filer");
       EXPECT_EQ(user.Sees(IDC_VersionLabel), "Version " FILER_VERSION);
+      EXPECT_EQ(user.Sees(IDC_DescriptionLabel), "Keeps a list of things, with links, photos and values.");
       leave();
     });
     user.ChoosesMenu(IDC_AboutItem);

@@ -154,6 +154,16 @@ TEST_F(ViewerTest, SavesTheLinesWithoutTheHeaderAndAsksBeforeOverwriting) {
   TestFiles::SetReadOnly("Saved.TXT", false);
 }
 
+TEST_F(ViewerTest, TellsWhatItIs) {
+  user.ChoosesFile("");
+  Start("");
+  user.UsesForm(IDD_AboutForm, [&] {
+    EXPECT_EQ(user.Sees(IDC_DescriptionLabel), "Shows, searches and prints the reports of Larkspur Filer.");
+    user.Presses(Key::Escape);
+  });
+  user.ChoosesMenu(IDC_AboutItem);
+}
+
 TEST_F(ViewerTest, PreviewsPageByPage) {
   TestFiles::Put("R.PRN", Lines(Report(100)));
   Start("R.PRN");
