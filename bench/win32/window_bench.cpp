@@ -91,8 +91,7 @@ void FillBareCombo(HWND combo, const std::vector<ListEntry>& entries) {
   SendMessageA(combo, WM_SETREDRAW, FALSE, 0);
   SendMessageA(combo, CB_RESETCONTENT, 0, 0);
   for (const ListEntry& entry : entries) {
-    const LRESULT position = SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.Text.c_str()));
-    SendMessageA(combo, CB_SETITEMDATA, static_cast<WPARAM>(position), static_cast<LPARAM>(entry.Data));
+    SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.Text.c_str()));
   }
   SendMessageA(combo, WM_SETREDRAW, TRUE, 0);
 }

@@ -20,6 +20,11 @@ void RenumberLinks(Renumber renumber) {
   }
 }
 
+// Upper-casing makes no name longer or shorter: most are told apart without it.
+bool HasName(const ThingRecord& thing, const std::string& upper_name) {
+  return thing.NAME.size() == upper_name.size() && UpperCase(thing.NAME) == upper_name;
+}
+
 // The place of a name in the table's order: before the first thing whose upper-cased name is greater. The
 // thing `without` does not count, as if it had been taken out.
 int PlaceOf(std::string_view name, int without) {
@@ -40,7 +45,7 @@ int FindThing(std::string_view name) {
   const std::string wanted = UpperCase(name);
   const auto& things = TheDocument.Things;
   for (int record = 1; record <= things.Count(); ++record) {
-    if (UpperCase(things[record].NAME) == wanted) return record;
+    if (HasName(things[record], wanted)) return record;
   }
   return 0;
 }
@@ -49,7 +54,7 @@ bool HasNameOfOther(std::string_view name, int record) {
   const std::string wanted = UpperCase(name);
   const auto& things = TheDocument.Things;
   for (int other = 1; other <= things.Count(); ++other) {
-    if (other != record && UpperCase(things[other].NAME) == wanted) return true;
+    if (other != record && HasName(things[other], wanted)) return true;
   }
   return false;
 }

@@ -11,6 +11,7 @@ std::string ShownName(const ThingRecord& thing, bool noun_order) {
 std::vector<ListEntry> ListThings(const ThingListView& view) {
   const auto& things = TheDocument.Things;
   std::vector<ListEntry> entries;
+  entries.reserve(static_cast<std::size_t>(things.Count()));
   for (int record = 1; record <= things.Count(); ++record) {
     const ThingRecord& thing = things[record];
     if (view.CategoryMask != 0 && (thing.CATBITMAP & view.CategoryMask) == 0) continue;

@@ -10,13 +10,11 @@ namespace {
 
 // The same request in the languages of both native controls.
 struct Verbs {
-  UINT Reset, Reserve, Insert, Delete, SetData, GetSelected, Select;
+  UINT Reset, Reserve, Delete, GetSelected, Select;
 };
 
-constexpr Verbs kListVerbs{LB_RESETCONTENT, LB_INITSTORAGE, LB_INSERTSTRING, LB_DELETESTRING,
-                           LB_SETITEMDATA,  LB_GETCURSEL,   LB_SETCURSEL};
-constexpr Verbs kDropVerbs{CB_RESETCONTENT, CB_INITSTORAGE, CB_INSERTSTRING, CB_DELETESTRING,
-                           CB_SETITEMDATA,  CB_GETCURSEL,   CB_SETCURSEL};
+constexpr Verbs kListVerbs{LB_RESETCONTENT, LB_INITSTORAGE, LB_DELETESTRING, LB_GETCURSEL, LB_SETCURSEL};
+constexpr Verbs kDropVerbs{CB_RESETCONTENT, CB_INITSTORAGE, CB_DELETESTRING, CB_GETCURSEL, CB_SETCURSEL};
 
 const Verbs& VerbsOf(const Control::Peer& peer) { return peer.DropsDown() ? kDropVerbs : kListVerbs; }
 
@@ -48,10 +46,15 @@ using Entries = std::vector<ListEntry>;
 
 bool SameText(const ListEntry& one, const ListEntry& other) { return one.Text == other.Text; }
 
-// The native list and the copy of it, changed together.
+// The native list and the copy of it, changed together. Only the copy knows the data of the entries: telling the
+// native list the new numbers of all that stand behind an entry which came or went would take longer than the rest.
 class Editor {
  public:
-  explicit Editor(Control::Peer& peer) : peer_(peer), verbs_(VerbsOf(peer)), held_(peer.Entries) {}
+  explicit Editor(Control::Peer& peer)
+      : peer_(peer),
+        list_(peer.DropsDown() ? peer.DropList() : peer.Window),
+        verbs_(VerbsOf(peer)),
+        held_(peer.Entries) {}
 
   void Delete(std::size_t position) {
     peer_.Send(verbs_.Delete, position);
@@ -59,8 +62,9 @@ class Editor {
   }
 
   void Insert(std::size_t position, const ListEntry& entry) {
-    peer_.Send(verbs_.Insert, position, reinterpret_cast<LPARAM>(entry.Text.c_str()));
-    held_.insert(held_.begin() + static_cast<std::ptrdiff_t>(position), {entry.Text, 0});
+    // Without the way through the drop-down, which doubles the time.
+    SendMessageA(list_, LB_INSERTSTRING, position, reinterpret_cast<LPARAM>(entry.Text.c_str()));
+    held_.insert(held_.begin() + static_cast<std::ptrdiff_t>(position), entry);
   }
 
   void Replace(const Entries& entries) {
@@ -73,18 +77,9 @@ class Editor {
     for (const ListEntry& entry : entries) Insert(held_.size(), entry);
   }
 
-  // Without the way through the drop-down, which doubles the time.
-  void SetData(const Entries& entries) {
-    HWND list = peer_.DropsDown() ? peer_.DropList() : peer_.Window;
-    for (std::size_t position = 0; position < entries.size(); ++position) {
-      if (held_[position].Data == entries[position].Data) continue;
-      SendMessageA(list, LB_SETITEMDATA, position, entries[position].Data);
-      held_[position].Data = entries[position].Data;
-    }
-  }
-
  private:
   Control::Peer& peer_;
+  HWND list_;
   const Verbs& verbs_;
   Entries& held_;
 };
@@ -115,7 +110,7 @@ void HoldEntries(Control::Peer& peer, const Entries& entries) {
   } else {
     editor.Replace(entries);
   }
-  editor.SetData(entries);
+  for (std::size_t index = 0; index < entries.size(); ++index) peer.Entries[index].Data = entries[index].Data;
 }
 
 }  // namespace
