@@ -36,7 +36,10 @@ Control::Control(Form& owner, int id, Kind kind) : peer_(std::make_unique<Peer>(
   if (!form.Controls.emplace(id, this).second) Fault(name + ": bound twice");
   // Lists tell all there is to know; a detour for each of their messages would slow down filling them.
   if (!peer.HoldsEntries()) {
-    SetWindowSubclass(peer.Window, &Peer::Procedure, 0, reinterpret_cast<DWORD_PTR>(&peer));
+    // By hand, for the common controls' own way asks for a window property at every message.
+    SetWindowLongPtrW(peer.Window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&peer));
+    peer.Native = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(peer.Window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Peer::Procedure)));
   }
   if (kind == Kind::Surface) peer.Work = std::make_shared<SurfaceWork>(peer);
   if (kind == Kind::Label || kind == Kind::Picture) peer.ChangeStyle(SS_NOTIFY, 0);
@@ -54,7 +57,9 @@ Control::Control(Form& owner, int id, Kind kind) : peer_(std::make_unique<Peer>(
 
 Control::~Control() {
   Form::Peer& form = peer_->Owner->PeerOf();
-  RemoveWindowSubclass(peer_->Window, &Peer::Procedure, 0);
+  if (peer_->Native != nullptr) {
+    SetWindowLongPtrW(peer_->Window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(peer_->Native));
+  }
   form.Controls.erase(peer_->Id);
   if (form.Focus == this) form.Focus = nullptr;
 }
@@ -148,12 +153,11 @@ void Control::Peer::ChangeStyle(DWORD add, DWORD remove) const {
   if (after != before) SetWindowLongPtrA(Window, GWL_STYLE, after);
 }
 
-LRESULT CALLBACK Control::Peer::Procedure(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR /*id*/,
-                                          DWORD_PTR data) {
-  Peer& peer = *reinterpret_cast<Peer*>(data);
+LRESULT CALLBACK Control::Peer::Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+  Peer& peer = *reinterpret_cast<Peer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   LRESULT result = 0;
   if (peer.Intercept(message, first, second, result)) return result;
-  result = DefSubclassProc(window, message, first, second);
+  result = CallWindowProcW(peer.Native, window, message, first, second);
   Form::Peer& form = peer.Owner->PeerOf();
   if (message == WM_GETDLGCODE && peer.MultiLine()) {
     // Tab must not mark a whole note, which the next key would then delete.

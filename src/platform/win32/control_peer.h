@@ -23,7 +23,8 @@ struct Control::Peer {
   int Id = 0;
   Kind What = Kind::Label;
   HWND Window = nullptr;
-  int Silent = 0;  // native notifications are our own doing and no events
+  WNDPROC Native = nullptr;  // the control's own procedure, where ours stands before it
+  int Silent = 0;            // native notifications are our own doing and no events
 
   std::string Told;                // text box, combo: the text as the program knows it
   int Selected = -1;               // lists: the selection as the program knows it
@@ -61,8 +62,7 @@ struct Control::Peer {
   // Draws what the native control cannot; false for all other controls.
   bool Paint() const;
 
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
-                                    DWORD_PTR peer);
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
   bool Intercept(UINT message, WPARAM first, LPARAM second, LRESULT& result);
   void After(UINT message);
 };
