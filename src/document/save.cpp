@@ -202,7 +202,7 @@ std::string ProposedFileName() {
   return (number < 0 ? "Filer-" : "Filer") + digits + ".FIL";
 }
 
-void SaveDocument() {
+void SaveDocument(const Event& written) {
   Document& document = TheDocument;
   FileRequest request;
   request.Mode = FileRequest::Kind::Write;
@@ -228,6 +228,7 @@ void SaveDocument() {
   document.ShownFileName = target;
   TakeFileLock(target);
   document.Modified = false;
+  if (written) written();
   Global::Say("The Larkspur Filer file was saved.", Icon::Information);
   RememberRecentFile(target);
 }

@@ -83,7 +83,7 @@ bool MainForm::LoadDocument(const std::string& full_name, const std::string& nam
 void MainForm::SaveItem_Click() {
   StoreEdits();
   const FlagScope scope(dialog_open_);
-  SaveDocument();
+  SaveDocument([this] { RefreshFrame(); });
 }
 
 void MainForm::ExitItem_Click() {

@@ -46,7 +46,9 @@ TEST_F(SaveTest, SavesANewDocument) {
     user.Presses(Key::Enter);
   });
   Saved();
-  SaveDocument();
+  std::string known_as;
+  SaveDocument([&] { known_as = TheDocument.Modified ? "not yet" : TheDocument.FileName; });
+  EXPECT_EQ(known_as, InFolder("Filer001.FIL"));
   ExpectSaved("Filer001.FIL");
   EXPECT_FALSE(TheDocument.DocumentOpen);
   EXPECT_EQ(TestFiles::List(), (Names{"Filer001.FIL", "Torvane.INI"}));
