@@ -45,7 +45,7 @@ bool ConvertTypedValue(std::string& text, std::string_view type) {
   const int said_before = Global::MessagesSaid();
   std::string expression = trimmed;
   const std::string result = Global::EvaluateExpression(expression, StorageType(type), false);
-  if (result != "?") {
+  if (result != "?" && !result.empty()) {
     text = result;
     return true;
   }

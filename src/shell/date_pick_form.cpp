@@ -41,12 +41,14 @@ DatePickForm::DatePickForm(CalendarDate date)
       TodayButton(*this, IDC_TodayButton),
       OKButton(*this, IDC_OKButton),
       CancelButton(*this, IDC_CancelButton),
-      date_(WithinCalendar(date)) {
+      date_(WithinCalendar(date)),
+      before_typing_(date_) {
   for (int cell = 0; cell < kSheetDays; ++cell) {
     DayButton[static_cast<std::size_t>(cell)] = std::make_unique<OptionButton>(*this, IDC_DayButton + cell);
     Cell(cell).Click = [this, cell] { DayButton_Click(cell); };
   }
   MonthCombo.Click = [this] { MonthCombo_Click(); };
+  YearBox.GotFocus = [this] { before_typing_ = date_; };
   YearBox.Change = [this] { YearBox_Change(); };
   PreviousButton.Click = [this] { GoTo(PlusMonths(date_, -1)); };
   NextButton.Click = [this] { GoTo(PlusMonths(date_, 1)); };
@@ -112,9 +114,13 @@ void DatePickForm::MonthCombo_Click() {
   GoTo(InMonth(date_, YearNumber(date_), static_cast<unsigned>(MonthCombo.Selected() + 1)));
 }
 
-// A year that is not typed to its end yet leaves the sheet where it is.
+// A year that is not typed to its end yet leaves the sheet where it is. On the way to the end it may be one without
+// the day, a leap day: that of the date before the typing counts.
 void DatePickForm::YearBox_Change() {
-  if (const std::optional<int> year = YearOf(YearBox.Text())) GoTo(InMonth(date_, *year, MonthNumber(date_)));
+  if (!YearBox.HasFocus()) return;
+  if (const std::optional<int> year = YearOf(YearBox.Text())) {
+    GoTo(InMonth(before_typing_, *year, MonthNumber(before_typing_)));
+  }
 }
 
 void DatePickForm::DayButton_Click(int cell) { GoTo(PlusDays(FirstOfMonth(date_), cell - FirstColumn(date_))); }

@@ -44,4 +44,5 @@ class DatePickForm : public Form {
   void ShowSheet();
 
   CalendarDate date_;
+  CalendarDate before_typing_;  // a year
 };

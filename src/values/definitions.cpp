@@ -67,7 +67,8 @@ bool LosesTexts(const FieldDefinition& entry, int number, const FieldSlots& work
   if (!TheDocument.Fields.Holds(number) || !IsNumberType(entry.Type)) return false;
   const FieldDefinition& before = TheDocument.Fields[number];
   if (IsNumberType(before.Type)) return false;
-  return CountHolders(before.Keyword).Count > 0 || FindSlot(working, before.Keyword) != nullptr;
+  const FieldValueSlot* slot = FindSlot(working, before.Keyword);
+  return CountHolders(before.Keyword).Count > 0 || (slot != nullptr && !slot->Value().empty());
 }
 
 std::string Reference(std::string_view keyword) { return "[" + UpperCase(keyword) + "]"; }

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cstdint>
 #include <cstdlib>
+#include <vector>
 
 #include "document/text.h"
 #include "platform/locale.h"
@@ -100,12 +101,13 @@ void RoundTo(Decimal& decimal, long long decimals) {
 
 // What a template asks for.
 struct Layout {
-  std::string Leading;       // literal text before the number: a "%" may stand there
-  std::string Trailing;      // and behind it
   std::size_t Integers = 0;  // least number of integer digits
   std::size_t Decimals = 0;
   std::size_t FixedDecimals = 0;  // those that zeros do not lose
-  int Percents = 0;
+  // Where the "%" stand: that many in front of all digits, and by the number of placeholders between each of the
+  // others and the decimal point.
+  std::size_t Leading = 0;
+  std::vector<std::size_t> BeforePoint, BehindPoint;
   bool Grouped = false;
   bool Pointed = false;
 };
@@ -116,12 +118,18 @@ Layout ParseTemplate(std::string_view text, char separator) {
   Layout layout;
   bool zero_seen = false;
   bool placeholder_seen = false;
+  std::size_t integers = 0;
   for (std::size_t at = 0; at < text.size(); ++at) {
     const bool behind = point != std::string_view::npos && at > point;
     const char character = text[at];
     if (character == '%') {
-      ++layout.Percents;
-      (placeholder_seen ? layout.Trailing : layout.Leading) += '%';
+      if (behind) {
+        layout.BehindPoint.push_back(layout.Decimals);
+      } else if (placeholder_seen) {
+        layout.BeforePoint.push_back(integers);
+      } else {
+        ++layout.Leading;
+      }
       continue;
     }
     placeholder_seen = true;
@@ -133,24 +141,35 @@ Layout ParseTemplate(std::string_view text, char separator) {
       ++layout.Decimals;
       if (character == '0') layout.FixedDecimals = layout.Decimals;
     } else {
+      ++integers;
       zero_seen = zero_seen || character == '0';
       if (zero_seen) ++layout.Integers;
     }
   }
+  for (std::size_t& placeholders : layout.BeforePoint) placeholders = integers - placeholders;
   return layout;
 }
 
-std::string Grouped(const std::string& digits, char mark) {
+std::string Percents(const std::vector<std::size_t>& places, std::size_t place) {
+  return std::string(static_cast<std::size_t>(std::count(places.begin(), places.end(), place)), '%');
+}
+
+// The digits with the "%" that stand among or behind them, and with a mark between the thousands unless it is 0.
+std::string WithMarks(const std::string& digits, const std::vector<std::size_t>& percents, char mark) {
   std::string text;
-  for (std::size_t at = 0; at < digits.size(); ++at) {
-    if (at > 0 && (digits.size() - at) % 3 == 0) text += mark;
-    text += digits[at];
+  // What stands before more digits than there are stands before them all.
+  for (const std::size_t place : percents) text += place > digits.size() ? "%" : "";
+  for (std::size_t left = digits.size(); left > 0; --left) {
+    if (mark != 0 && left < digits.size() && left % 3 == 0) text += mark;
+    text += Percents(percents, left);
+    text += digits[digits.size() - left];
   }
-  return text;
+  return text + Percents(percents, 0);
 }
 
 std::string Laid(Decimal decimal, const Layout& layout, char separator) {
-  decimal.Point += 2LL * layout.Percents;
+  const std::size_t percents = layout.Leading + layout.BeforePoint.size() + layout.BehindPoint.size();
+  decimal.Point += 2LL * static_cast<long long>(percents);
   if (decimal.Point > static_cast<long long>(decimal.Digits.size())) {
     decimal.Digits.resize(static_cast<std::size_t>(decimal.Point), '0');
   }
@@ -162,10 +181,13 @@ std::string Laid(Decimal decimal, const Layout& layout, char separator) {
   if (integers.size() < layout.Integers) integers.insert(0, layout.Integers - integers.size(), '0');
   while (decimals.size() > layout.FixedDecimals && decimals.back() == '0') decimals.pop_back();
 
-  std::string text = layout.Leading;
-  text += layout.Grouped ? Grouped(integers, separator == '.' ? ',' : '.') : integers;
+  std::string text(layout.Leading, '%');
+  text += WithMarks(integers, layout.BeforePoint, !layout.Grouped ? '\0' : separator == '.' ? ',' : '.');
   if (layout.Pointed) text += separator;
-  text += decimals + layout.Trailing;
+  for (std::size_t place = 0; place <= layout.Decimals; ++place) {
+    text += Percents(layout.BehindPoint, place);
+    if (place < decimals.size()) text += decimals[place];
+  }
   return (decimal.Negative && !is_zero ? "-" : "") + text;
 }
 
@@ -197,8 +219,8 @@ std::string FormatByTemplate(std::string_view stored, std::string_view display_t
 }
 
 std::string FormatValue(std::string_view stored, std::string_view type, std::string_view format) {
-  const std::string display_template =
-      Trim(format).empty() ? Global::LocaliseTemplate(Global::DefaultTemplate(type)) : std::string(format);
+  // The default as it stands: the localised one of a whole type has a last "." that is no decimal point.
+  const std::string display_template = Trim(format).empty() ? Global::DefaultTemplate(type) : std::string(format);
   return FormatByTemplate(stored, display_template, DecimalSeparator());
 }
 

@@ -77,6 +77,8 @@ TEST_F(FactValuesTest, WhatCannotBeComputedIsSaidOnce) {
   };
   cannot("x");
   EXPECT_EQ(Typed("x", "DOUBLE"), "!x");
+  cannot("()");
+  EXPECT_EQ(Typed("()", "DOUBLE"), "!()");
   cannot("2 + 3)");
   EXPECT_EQ(Typed(" 2 + 3)", "DOLLAR"), "! 2 + 3)");
   // Here the evaluator has said why already.

@@ -111,12 +111,27 @@ TEST_F(DefinitionFormsTest, ATextFieldWithATypedValueBecomesNoNumber) {
           "You are switching from a text field to a numeric field, but there is already data on file.  This change "
           "cannot be made.");
       user.Clicks(IDC_OKButton);
+      EXPECT_TRUE(user.SeesFocusOn(IDC_ChoiceCombo));
       user.Clicks(IDC_TextOption);
       user.Types(IDC_DescriptionBox, "Hue");
       user.Clicks(IDC_OKButton);
     });
   });
   EXPECT_EQ(Field(3), "COLOUR/Hue/");
+}
+
+TEST_F(DefinitionFormsTest, AFormulaKeepsATypeThatIsNotOffered) {
+  StoreFormula(1, {"TOTAL", "Total", "BYTE", "0.0", "[PRICE]*[QTY]"});
+  UseAndCancel([this] {
+    PicksFromList("TOTAL");
+    DefinesFormula(IDC_ChangeFormulaItem, [this] {
+      user.Clicks(IDC_AutoOption);
+      EXPECT_EQ(user.Sees(IDC_TemplateBox), "0.0");  // it has no template of its own
+      user.Types(IDC_DescriptionBox, "All");
+      user.Clicks(IDC_OKButton);
+    });
+    EXPECT_EQ(Formula(1), "TOTAL/All/BYTE//[PRICE]*[QTY]");
+  });
 }
 
 TEST_F(DefinitionFormsTest, KeepsTypesThatItDoesNotOffer) {
@@ -271,6 +286,9 @@ TEST_F(DefinitionFormsTest, DefinesFormulas) {
       user.Picks(IDC_FieldTypeCombo, "DOLLAR");
       EXPECT_EQ(user.Sees(IDC_TemplateBox), "###,###,##0.00");
       user.Clicks(IDC_FixedOption);
+      user.Picks(IDC_FieldTypeCombo, "LONG");
+      EXPECT_EQ(user.Sees(IDC_TemplateBox), "##,###,###,##0");
+      user.Picks(IDC_FieldTypeCombo, "DOLLAR");
       user.Types(IDC_TemplateBox, "");
       Refuses(
           "You selected a fixed display format but the template is empty. Please fill in a template or switch to "

@@ -129,6 +129,10 @@ TEST_F(DatePickFormTest, TakesYearsFrom100To9998) {
     user.Types(IDC_YearBox, "9999");
     user.Reads("Please type a year from 100 to 9998.", Icon::Exclamation);
     user.Clicks(IDC_OKButton);
+    user.Types(IDC_YearBox, "202");  // on the way to 2028, which has the day again
+    EXPECT_EQ(Shown(), "Sunday, February 28, 202");
+    user.Types(IDC_YearBox, "2028");
+    EXPECT_EQ(Shown(), "Tuesday, February 29, 2028");
     user.Types(IDC_YearBox, "101");
     EXPECT_EQ(Shown(), "Monday, February 28, 101");
     user.Clicks(IDC_OKButton);

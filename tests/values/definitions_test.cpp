@@ -90,6 +90,7 @@ TEST_F(DefinitionsTest, TextsOnFileKeepAFieldFromBecomingANumber) {
   const FieldDefinition number{"PLACE", "Place", "LONG"};
   EXPECT_FALSE(CheckField(number, 4, working));
   EXPECT_EQ(CheckField(number, 4, Slots({"", "PLACE:here"})).Box, DefinitionBox::Type);  // typed, not stored yet
+  EXPECT_FALSE(CheckField(number, 4, Slots({"", "PLACE:"})));                            // emptied
   TheDocument.Fields[4].Type = "FOO";                                                    // counts as text
   EXPECT_FALSE(CheckField(number, 4, working));
   AddThing("Pond", {"PLACE:5"});
@@ -161,12 +162,12 @@ TEST_F(DefinitionsTest, TablesGrowByThirty) {
 }
 
 TEST_F(DefinitionsTest, RenamingTakesValuesAndFirstReferencesAlong) {
-  working = Slots({"QTY:9", "PRICE:7"});
+  working = Slots({"QTY:9", "PRICE:7", "PRICE:8"});  // the second one from a damaged file
   StoreField(1, {"COST", "Cost", "DOLLAR"}, working);
   EXPECT_EQ(Joined(TheDocument.Things[1].Values), "COLOUR:red: dark|COST:12.50|QTY:2||||||||");
   EXPECT_EQ(Joined(TheDocument.Things[2].Values), "COST:3|COLOUR:|||||||||");
   EXPECT_EQ(Joined(TheDocument.Things[3].Values), "PRICER:1|XPRICE:2|||||||||");
-  EXPECT_EQ(Joined(working), "QTY:9|COST:7|||||||||");
+  EXPECT_EQ(Joined(working), "QTY:9|COST:7|COST:8||||||||");
   EXPECT_EQ(TheDocument.Formulas[1].Formula, "[COST]*[QTY]");
   EXPECT_EQ(TheDocument.Formulas[2].Formula, "[COST]*2+[PRICE]");
   EXPECT_EQ(TheDocument.Formulas[3].Formula, "2 * [COST] - [Price]");
@@ -208,9 +209,9 @@ TEST_F(DefinitionsTest, AsksBeforeOthersLoseTheirValues) {
 }
 
 TEST_F(DefinitionsTest, DeletingAFieldClosesTheGaps) {
-  working = Slots({"A:1", "PRICE:2", "B:3", "C:4", "D:5", "E:6", "F:7", "G:8", "H:9", "I:10"});
+  working = Slots({"A:1", "PRICE:2", "B:3", "C:4", "D:5", "E:6", "F:7", "PRICE:2", "H:9", "I:10"});
   DeleteField(1, working);
-  EXPECT_EQ(Joined(working), "A:1|B:3|C:4|D:5|E:6|F:7|G:8|H:9|I:10||");
+  EXPECT_EQ(Joined(working), "A:1|B:3|C:4|D:5|E:6|F:7|H:9|I:10|||");
   EXPECT_EQ(Joined(TheDocument.Things[1].Values), "COLOUR:red: dark|QTY:2|||||||||");
   EXPECT_EQ(Joined(TheDocument.Things[2].Values), "COLOUR:||||||||||");
   EXPECT_EQ(Joined(TheDocument.Things[3].Values), "PRICER:1|XPRICE:2|||||||||");

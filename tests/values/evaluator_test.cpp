@@ -103,6 +103,16 @@ TEST_F(EvaluatorTest, ExpandsReferences) {
   EXPECT_EQ(expanded("]price["), "]PRICE[");
   EXPECT_EQ(expanded("abc"), "ABC");
   EXPECT_EQ(expanded("[LOOP]"), "");  // not for ever
+  slots[7].Text = "TWO:[two][two]";   // nor up to the end of the memory
+  EXPECT_EQ(expanded("[TWO]"), "");
+  slots[8].Text = "A:1";
+  const auto times = [](int count) {
+    std::string text;
+    for (; count > 0; --count) text += "[a]";
+    return text;
+  };
+  EXPECT_EQ(expanded(times(1000).c_str()), std::string(1000, '1'));
+  EXPECT_EQ(expanded(times(1001).c_str()), "");
 
   EXPECT_EQ(FormulaResult({"F", "", "DOLLAR", "", "[PRICE]*2"}, slots), "25.00");
   EXPECT_EQ(FormulaResult({"F", "", "", "", "[PRICE]*2"}, slots), "25");
