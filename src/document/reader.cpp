@@ -230,6 +230,14 @@ Extent ReadSections() {
   return Extent::Part;
 }
 
+// However the reading ends, the file does not stay open: its handle would be missing for the next one.
+struct DataFileCloser {
+  ~DataFileCloser() {
+    StartSegments(0);
+    Files::Close(kDataFileHandle);
+  }
+};
+
 }  // namespace
 
 bool LoadFilerFile(const std::string& path) {
@@ -239,14 +247,15 @@ bool LoadFilerFile(const std::string& path) {
     Global::Say("Failed to open file " + path + Global::DueToError(error), Icon::Exclamation);
     return false;
   }
-  if (!AcceptsHeader()) {
-    Global::Say("Failed to load Filer data file due to invalid format or version.", Icon::Exclamation);
-    Files::Close(kDataFileHandle);
-    return false;
+  Extent extent = Extent::Part;
+  {
+    const DataFileCloser closer;
+    if (!AcceptsHeader()) {
+      Global::Say("Failed to load Filer data file due to invalid format or version.", Icon::Exclamation);
+      return false;
+    }
+    extent = ReadSections();
   }
-  const Extent extent = ReadSections();
-  Files::Close(kDataFileHandle);
-  StartSegments(0);
   if (extent == Extent::Part) {
     Global::Say("The file was not completely loaded.  Some information will be missing.", Icon::Exclamation);
   }

@@ -27,20 +27,30 @@ struct SegmentSource {
 
 SegmentSource source;
 
-// Reads one physical line. The end of the file, or what cannot be read, ends the data.
-bool ReadPhysicalLine(std::string& line) {
-  line.clear();
+// What cannot be read ends the data. To know the end of the file, some of it may have to be read, too.
+template <class Act>
+bool WhileReadable(Act act) {
   if (source.handle == 0) return false;
   try {
-    Files::ReadLine(source.handle, line);
-    return true;
+    return act();
   } catch (const RuntimeError&) {
     source.handle = 0;
     return false;
   }
 }
 
-bool AtEnd() { return source.handle == 0 || Files::AtEnd(source.handle); }
+// Reads one physical line; false behind the last one.
+bool ReadPhysicalLine(std::string& line) {
+  line.clear();
+  return WhileReadable([&line] {
+    Files::ReadLine(source.handle, line);
+    return true;
+  });
+}
+
+bool AtEnd() {
+  return !WhileReadable([] { return !Files::AtEnd(source.handle); });
+}
 
 bool HasOuterBlanks(const std::string& line) { return !line.empty() && (line.front() == ' ' || line.back() == ' '); }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "document/document.h"
+#include "document/text.h"
 #include "platform/files.h"
 
 namespace {
@@ -71,6 +72,12 @@ class LineWriter {
     return *this;
   }
   void EndLine() { Plain("\r\n"); }
+  // The last value of a line. Blanks at a line's end are lost in reading; behind a "+" they would hide from the escape
+  // that the next line is joined to it.
+  void EndLine(std::string_view text) {
+    const std::string_view kept = TrimRight(text);
+    Escaped(kept.ends_with('+') ? kept : text).EndLine();
+  }
   void Line(std::string_view text) { Plain(text).EndLine(); }
   void Deliver() {
     Files::Write(handle_, std::string_view(text_.data(), static_cast<std::size_t>(end_ - text_.data())));
@@ -103,7 +110,7 @@ void WriteCategories(LineWriter& out) {
   out.Line("");
   out.Line("[CATEGORIES]");
   for (int number = 1; number <= highest; ++number) {
-    out.Plain("*").Plain(number).Plain("; NAME=").Escaped(names[number]).EndLine();
+    out.Plain("*").Plain(number).Plain("; NAME=").EndLine(names[number]);
   }
 }
 
@@ -116,7 +123,7 @@ void WriteFields(LineWriter& out) {
     const FieldDefinition& field = fields[number];
     out.Line("");
     out.Plain("*").Plain(number).Plain("; NAME=").Escaped(field.Keyword);
-    out.Plain("; TITLE=").Escaped(field.Title).EndLine();
+    out.Plain("; TITLE=").EndLine(field.Title);
     if (!field.Type.empty()) out.Plain("FIELDTYPE=").Plain(field.Type).EndLine();
   }
 }
@@ -130,11 +137,11 @@ void WriteFormulas(LineWriter& out) {
     const FormulaDefinition& formula = formulas[number];
     out.Line("");
     out.Plain("*").Plain(number).Plain("; NAME=").Escaped(formula.Name);
-    out.Plain("; TITLE=").Escaped(formula.Title).EndLine();
+    out.Plain("; TITLE=").EndLine(formula.Title);
     if (!formula.Type.empty()) out.Plain(" FIELDTYPE=").Escaped(formula.Type);
-    if (!formula.Format.empty()) out.Plain("; FORMAT=").Escaped(formula.Format);
-    out.EndLine();
-    out.Plain(" FORMULA=").Escaped(formula.Formula).EndLine();
+    if (!formula.Format.empty()) out.Plain("; FORMAT=");
+    out.EndLine(formula.Format);
+    out.Plain(" FORMULA=").EndLine(formula.Formula);
   }
 }
 
@@ -157,7 +164,7 @@ void WriteNote(LineWriter& out, std::string_view note) {
     out.Plain("+").EndLine();
     out.Plain(kContinuationIndent);
   }
-  out.Escaped(note).EndLine();
+  out.EndLine(note);
 }
 
 void WriteLinks(LineWriter& out, const ThingRecord& thing) {
@@ -171,9 +178,9 @@ void WriteLinks(LineWriter& out, const ThingRecord& thing) {
 void WriteThing(LineWriter& out, int number) {
   const ThingRecord& thing = TheDocument.Things[number];
   out.Line("");
-  out.Plain("*").Plain(number).Plain("; NAME=").Escaped(thing.NAME).EndLine();
+  out.Plain("*").Plain(number).Plain("; NAME=").EndLine(thing.NAME);
   if (!thing.NOTE.empty()) WriteNote(out, thing.NOTE);
-  if (!thing.PICFILENAME.empty()) out.Plain("PICFILENAME=").Escaped(thing.PICFILENAME).EndLine();
+  if (!thing.PICFILENAME.empty()) out.Plain("PICFILENAME=").EndLine(thing.PICFILENAME);
   WriteLinks(out, thing);
   if (thing.CATBITMAP != 0) out.Plain("CATBITMAP=").Plain(thing.CATBITMAP).EndLine();
   for (const FieldValueSlot& slot : thing.Values) {
@@ -181,7 +188,7 @@ void WriteThing(LineWriter& out, int number) {
     const std::string_view keyword = slot.Keyword();
     if (keyword.empty()) continue;
     const std::string_view value = std::string_view(slot.Text).substr(keyword.size() + 1);
-    out.Plain("%").Escaped(keyword).Plain("=").Escaped(value).EndLine();
+    out.Plain("%").Escaped(keyword).Plain("=").EndLine(value);
   }
 }
 

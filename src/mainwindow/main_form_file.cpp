@@ -18,7 +18,6 @@ constexpr const char* kDataFileExtension = "FIL";
 
 void MainForm::MakeNew() {
   ::MakeNew();
-  view_.StartingLetter.clear();
   view_.SelectedCategory = 0;
   view_.CategoryMask = 0;
   typed_.clear();

@@ -127,6 +127,14 @@ TEST_F(ReaderTest, AssemblesLinesIntoSegments) {
        {"[THINGS]", "NAME=A", "NOTE=x++", "", "y", "[END]"},
        "thing 1 name<A> note<xy>\n",
        {}},
+      {"a line of nothing but + is joined",
+       {"[THINGS]", "NAME=A", "+", "NOTE=b", "[END]"},
+       "thing 1 name<A> note<b>\n",
+       {}},
+      {"blanks behind a joined line and before a cut go",
+       {"[THINGS]", "NOTE=x+", "y  ", "*2;NOTE=b  ; XREF1=1", "[END]"},
+       "thing 1 note<xy>\nthing 2 note<b> xref1 1\n",
+       {}},
       {"~+ at the end joins nothing, ~; does not cut, doubled tildes vanish",
        {"[THINGS]", "NAME=A", "NOTE=1 ~+", "*;NAME=B~;b~~;c ;NOTE=d~/e~f", "[END]"},
        "thing 1 name<A> note<1 +>\nthing 2 name<B;b;c> note<d/ef>\n",
@@ -205,8 +213,22 @@ TEST_F(ReaderTest, LeavesNothingOfAnOlderDocumentInGaps) {
   ASSERT_TRUE(Load(
       Lines({kMagic, "[FORMULAS]", "NAME=F", "[THINGS]", "*1;NAME=old1", "*2;NAME=old2", "*3;NAME=old3", "[END]"})));
   ASSERT_TRUE(Load(Lines({kMagic, "[THINGS]", "*3;NOTE=new", "[END]"})));
-  // Formulas alone outlive the clearing.
+  // Formulas alone outlive the clearing, until there are new ones.
   EXPECT_EQ(DescribeDocument(), "formula 1 name<F>\nthing 1\nthing 2\nthing 3 note<new>\n");
+  ASSERT_TRUE(Load(Lines({kMagic, "[FIELDS]", "*1;NAME=A;TITLE=a", "*2;NAME=B;TITLE=b", "[FORMULAS]",
+                          "*1;NAME=F;TITLE=f", "*2;NAME=G;TITLE=g", "[END]"})));
+  ASSERT_TRUE(Load(Lines({kMagic, "[FIELDS]", "*3;NAME=C", "[FORMULAS]", "*3;NAME=H", "[END]"})));
+  EXPECT_EQ(DescribeDocument(), "field 1\nfield 2\nfield 3 keyword<C>\nformula 1\nformula 2\nformula 3 name<H>\n");
+  // Nor does a field of the older one make a value known.
+  TheDocument.CurrentThing = 1;
+  TheDocument.Modified = TheDocument.PendingEdits = true;
+  user.Answers(
+      "Filer object record contains unknown user-defined field: <<%C=1>>.  It will not be loaded.  Do you wish to "
+      "continue loading the remaining data?",
+      Answer::Yes, Icon::None, Buttons::YesNo);
+  ASSERT_TRUE(Load(Lines({kMagic, "[THINGS]", "NAME=A", "%C=1", "[END]"})));
+  EXPECT_EQ(TheDocument.CurrentThing, 0);
+  EXPECT_FALSE(TheDocument.Modified || TheDocument.PendingEdits);
 }
 
 TEST_F(ReaderTest, GrowsTheTablesAheadOfTheNumbers) {
@@ -300,9 +322,9 @@ TEST_F(ReaderTest, ChecksTheHeader) {
                              "FILER DATA of LARKSPUR V5.0", "LARKSPUR FILER DATA V5.0"}) {
     EXPECT_TRUE(Load(Lines({header, "[END]"}))) << header;
   }
-  for (const char* header :
-       {"LARKSPUR V6.0 FILER DATA", "LARKSPUR V5.1 FILER DATA", "LARKSPUR V0.0 FILER DATA", "LARKSPUR FILER DATA V5",
-        "LARKSPUR V5.0 DATA", "V5.0 FILER DATA", "LARKSPURV5.0 FILER DATA", "LARKSPUR V1e999 FILER DATA", ""}) {
+  for (const char* header : {"LARKSPUR V6.0 FILER DATA", "LARKSPUR V5.1 FILER DATA", "LARKSPUR V0.0 FILER DATA",
+                             "LARKSPUR FILER DATA V5", "LARKSPUR FILER DATA V5 ", "LARKSPUR V5.0 DATA",
+                             "V5.0 FILER DATA", "LARKSPURV5.0 FILER DATA", "LARKSPUR V1e999 FILER DATA", ""}) {
     user.Reads(refusal, Icon::Exclamation);
     EXPECT_FALSE(Load(Lines({header, "[END]"}))) << header;
   }

@@ -205,6 +205,15 @@ TEST_F(RoundTripTest, LosesWhatTheFormatCannotHold) {
   Save();
   Load();
   EXPECT_EQ(DescribeDocument(), "thing 1 name<C A B> note<one?two/three>\n");
+  // Blanks at a line's end are lost, but never let a "+" before them join the next line.
+  TheDocument.Things[1].NOTE = "n+ ";
+  TheDocument.Things[1].CATBITMAP = 3;
+  TheDocument.Fields.SetCount(1);
+  TheDocument.Fields[1] = {"WEIGHT", "Weight +  ", "DOLLAR"};
+  Save();
+  Load();
+  EXPECT_EQ(DescribeDocument(),
+            "field 1 keyword<WEIGHT> title<Weight +> type<DOLLAR>\nthing 1 name<C A B> note<n+> categories 3\n");
 }
 
 }  // namespace

@@ -109,6 +109,16 @@ TEST_F(SaveTest, ChangesNothingWhenCancelled) {
   ExpectUntouched({"Home.FIL"});
 }
 
+TEST_F(SaveTest, LocksNothingForADocumentThatWasNeverSaved) {
+  TestFiles::Put("Other.FIL", "other");
+  Change("new");
+  Types("Other.FIL");
+  Asked(kOverwrite, Answer::Cancel);
+  SaveDocument();
+  EXPECT_TRUE(TheDocument.Writable);
+  EXPECT_FALSE(TheDocument.LockHeld);
+}
+
 TEST_F(SaveTest, LocksTheRightFileAgainWhenItWasNamedRelatively) {
   TestFiles::MakeFolder("data");
   TestFiles::Put("Home.FIL", "another one");

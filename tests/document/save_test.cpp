@@ -24,6 +24,8 @@ TEST_F(SaveTest, ProposesTheNumberBehindTheHighest) {
       {{"Filer004.FIL", "Filer.FIL"}, "Filer005.FIL"},
       {{"Filer7a.FIL"}, "Filer008.FIL"},
       {{"Filer0123.FIL"}, "Filer013.FIL"},
+      {{"Filer041"}, "Filer042.FIL"},
+      {{"Filer-12.FIL"}, "Filer-012.FIL"},
   };
   for (const auto& [recent, proposal] : rows) {
     TheRecentFiles = {};

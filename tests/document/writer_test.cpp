@@ -157,8 +157,9 @@ TEST_F(WriterTest, WritesThings) {
          thing.Values[2].Text = ":12";
          thing.Values[4].Text = "P::";
          thing.Values[5].Text = "T: 5 ";
+         thing.Values[6].Text = "P;Q:1";
        },
-       {"", "[THINGS]", "", "*1; NAME=A", "%PRICE=", "%P=:", "%T= 5 "}},
+       {"", "[THINGS]", "", "*1; NAME=A", "%PRICE=", "%P=:", "%T= 5 ", "%P~;Q=1"}},
   });
 }
 

@@ -292,6 +292,23 @@ TEST_F(SaveFaultTest, NeverLeavesHalfAFileOnAFullDisk) {
   EXPECT_EQ(Machine::FileBytes(kScenarios[0].Target), kNewText);
 }
 
+TEST_F(SaveFaultTest, HasTheFileOnTheDiskItselfBeforeTheOldOneGoes) {
+  for (const Scenario& scenario : kScenarios) {
+    SCOPED_TRACE(scenario.Title);
+    Arrange(scenario);
+    SaveDocument();
+    Machine::LosePower();
+    if (SavedWas()) {
+      EXPECT_EQ(Machine::FileBytes(scenario.Target), kNewText);
+    }
+  }
+  TheDocument.FileName = InFolder("data\\Home.FIL");
+  Machine::MakeFolder("data");
+  WriteRescueCopy();
+  Machine::LosePower();
+  EXPECT_EQ(Machine::FileBytes("data\\Rescue.FIL"), kNewText);
+}
+
 TEST_F(SaveFaultTest, SaysSoBeforeItListsTheFile) {
   Arrange(kScenarios[1]);
   CurrentStage().Message = [this](const std::string& text, const std::string&, Buttons, Icon) {

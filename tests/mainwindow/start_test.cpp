@@ -97,11 +97,15 @@ TEST_F(SettingsTest, ReadsTheList) {
             "1: <A>");
   EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "NAME=A", "[TOP10FILES]", "*2;NAME=B"})), "2: <A> <B>");
   EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI"})), "0:");
+  EXPECT_EQ(Loaded(Lines({"TORVANE V5.01 INI", "[TOP10FILES]", "NAME=A", "[TOP10FILES]", "*11;NAME=B", "*1;NAME=C"})),
+            "0:");
+  EXPECT_EQ(Loaded(Lines({"TORVANE INI V05", "[TOP10FILES]", "NAME=A"})), "1: <A>");
 }
 
 TEST_F(SettingsTest, SaysWhatIsWrongWithTheFile) {
-  for (const char* header : {"TORVANE V6.0 INI", "TORVANE V0.9 INI", "TORVANE INI V5", "TORVANE 5.0 INI",
-                             "TORVANE V5.0", "LARKSPUR V5.0 INI", ""}) {
+  for (const char* header :
+       {"TORVANE V6.0 INI", "TORVANE V5.5 INI", "TORVANE V0.9 INI", "TORVANE V.95 INI", "TORVANE I V5.0",
+        "TORVANE INI V5", "TORVANE 5.0 INI", "TORVANE V5.0", "LARKSPUR V5.0 INI", ""}) {
     user.Reads("Failed to load TORVANE.INI due to invalid format or version.", Icon::Exclamation);
     EXPECT_EQ(Loaded(Lines({header, "[TOP10FILES]", "*1; NAME=A"})), "0:") << header;
   }

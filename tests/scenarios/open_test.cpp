@@ -9,7 +9,16 @@ const std::string kAbandon = "A file is already opened.  Are you sure you want t
 
 using Names = std::vector<std::string>;
 
-class OpenTest : public MainFormTest {};
+class OpenTest : public MainFormTest {
+ protected:
+  std::string BoldTabs() {
+    std::string text = user.SeesBold(IDC_AllLabel) ? "All" : "";
+    for (int letter = 0; letter < 26; ++letter) {
+      if (user.SeesBold(IDC_LetterLabel + letter)) text += static_cast<char>('A' + letter);
+    }
+    return text;
+  }
+};
 
 TEST_F(OpenTest, StartsEmptyWithoutAFile) {
   Start();
@@ -180,8 +189,17 @@ TEST_F(OpenTest, BeginsAnew) {
   user.Answers(kAbandon, Answer::Cancel, Icon::Information, Buttons::OkCancel);
   user.Clicks(IDC_NewButton);
   EXPECT_EQ(Listed().size(), 5u);
+  user.Clicks(IDC_LetterLabel + 1);
+  EXPECT_EQ(BoldTabs(), "B");
+  user.UsesForm(IDD_CatPickForm, [this] {
+    user.Picks(IDC_CategoryList, "Rooms");
+    user.Clicks(IDC_OKButton);
+  });
+  user.ChoosesMenu(IDC_SelCategoryItem);
+  user.Types(IDC_NoteBox, "changed");
   user.Answers(kAbandon, Answer::Ok, Icon::Information, Buttons::OkCancel);
   user.Clicks(IDC_NewButton);
+  EXPECT_EQ(BoldTabs(), "All");
   EXPECT_EQ(user.SeesCaption(), "Larkspur Filer");
   EXPECT_EQ(Shown(), "||||");
   EXPECT_EQ(user.SeesEntries(IDC_FatherCombo), Names{""});
@@ -189,7 +207,16 @@ TEST_F(OpenTest, BeginsAnew) {
   EXPECT_FALSE(TheDocument.LockHeld);
   EXPECT_TRUE(user.SeesMenuChecked(IDC_SurnameOrderItem));  // the order is the user's own
   user.Clicks(IDC_NewButton);                               // nothing is open: nothing is asked
-  EXPECT_FALSE(TestFiles::Get("Rescue.FIL").has_value());
+  EXPECT_FALSE(TestFiles::Get("Rescue.FIL").has_value());   // the user agreed to lose the changes
+  TestFiles::Put("Other.FIL",
+                 Lines({"LARKSPUR V5.0 FILER DATA", "[THINGS]", "*2; NAME=Barn", "*3; NAME=Shed", "[END]"}));
+  user.UsesForm(IDD_FileForm, [this] {
+    user.Types(IDC_NameBox, "Other.FIL");
+    user.Clicks(IDC_OKButton);
+  });
+  user.Clicks(IDC_OpenButton);
+  EXPECT_EQ(Listed(), (Names{"Barn", "Shed"}));  // neither the letter nor the category is left
+  EXPECT_EQ(TheDocument.CurrentThing, 1);        // the first one, which has no name
 }
 
 TEST_F(OpenTest, KeepsAChangedNewDocumentInARescueCopy) {

@@ -44,6 +44,7 @@ class User {
   bool SeesEnabled(int id);
   bool SeesVisible(int id);
   bool SeesFocusOn(int id);
+  bool SeesBold(int id);
   std::vector<std::string> SeesEntries(int id);  // list, drop-down or check list
   std::string SeesSelected(int id);              // the selected entry's text, empty for none
   std::vector<std::string> SeesTicked(int id);

@@ -180,6 +180,7 @@ std::size_t Append(Node& file, std::string_view bytes) {
 void Truncate(Node& file, std::size_t size) {
   if (space) *space += file.Bytes.size() - size;
   file.Bytes.resize(size);
+  file.Flushed = std::min(file.Flushed, size);
 }
 
 std::optional<unsigned long> CountCall() {
@@ -201,6 +202,11 @@ void PutFile(const std::string& name, std::string_view bytes) {
   Disk::NodePtr node = Disk::Find(name);
   if (!node) node = Disk::Add(name, false);
   node->Bytes = bytes;
+  node->Flushed = bytes.size();
+}
+
+void LosePower() {
+  for (const auto& [key, node] : tree) node->Bytes.resize(node->Flushed);
 }
 
 void PutRealFile(const std::string& name, const std::string& real_path) {

@@ -14,6 +14,7 @@ struct Node {
   bool IsFolder = false;
   bool ReadOnly = false;
   std::string Bytes;
+  std::size_t Flushed = 0;  // bytes that would outlive a loss of power
 };
 using NodePtr = std::shared_ptr<Node>;
 

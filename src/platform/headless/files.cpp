@@ -120,7 +120,11 @@ void Open(int handle, const std::string& name, Mode mode) {
 
 bool IsOpen(int handle) { return InRange(handle) && open_files[static_cast<std::size_t>(handle)] != nullptr; }
 
-bool AtEnd(int handle) { return Opened(handle, Mode::Input).Reader->AtEnd(); }
+bool AtEnd(int handle) {
+  const Stream& file = Opened(handle, Mode::Input);
+  CountCall();
+  return file.Reader->AtEnd();
+}
 
 void ReadLine(int handle, std::string& line) {
   Stream& file = Opened(handle, Mode::Input);
@@ -142,7 +146,11 @@ void WriteLine(int handle, std::string_view text) {
   Append(Opened(handle, Mode::Output), std::string(text).append("\r\n"));
 }
 
-void Flush(int handle) { Settle(Opened(handle, Mode::Output)); }
+void Flush(int handle) {
+  Stream& file = Opened(handle, Mode::Output);
+  Settle(file);
+  file.Hold->File->Flushed = file.Hold->File->Bytes.size();
+}
 
 void Close(int handle) {
   if (!IsOpen(handle)) return;

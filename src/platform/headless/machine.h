@@ -52,8 +52,9 @@ void RemoveFolder(const std::string& name);                   // with all that i
 std::vector<std::string> FilesIn(const std::string& folder);  // names without the folder, sorted
 void HoldByOther(const std::string& name, bool against_readers);
 void ReleaseByOther();
+void LosePower();  // files lose what was written and not flushed
 
-// Faults. Each Open, ReadLine, Write, WriteLine, Flush, Erase, Rename and Exists is a file call, and so
+// Faults. Each Open, AtEnd, ReadLine, Write, WriteLine, Flush, Erase, Rename and Exists is a file call, and so
 // is a Close that has written bytes to settle. The n-th call from now on (1 is the next) fails with the
 // error of that system code: once, or with all that follow it. A Write that fails leaves half of its
 // bytes in the file, and a Flush or Close that fails loses half of what was written since the last one.

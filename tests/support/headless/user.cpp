@@ -289,6 +289,11 @@ bool User::SeesVisible(int id) {
   return peer != nullptr && peer->Visible;
 }
 
+bool User::SeesBold(int id) {
+  const Control::Peer* peer = Find(id);
+  return peer != nullptr && peer->Bold;
+}
+
 bool User::SeesFocusOn(int id) {
   const Control::Peer* peer = Find(id);
   return peer != nullptr && peer->Self->HasFocus();

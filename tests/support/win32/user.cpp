@@ -323,6 +323,13 @@ bool User::SeesVisible(int id) {
   return peer != nullptr && IsWindowVisible(peer->Window) != FALSE;
 }
 
+bool User::SeesBold(int id) {
+  const Control::Peer* peer = Find(id);
+  LOGFONTA font{};
+  if (peer != nullptr) GetObjectA(reinterpret_cast<HFONT>(peer->Send(WM_GETFONT)), sizeof font, &font);
+  return font.lfWeight >= FW_BOLD;
+}
+
 bool User::SeesFocusOn(int id) {
   const Control::Peer* peer = Find(id);
   return peer != nullptr && (GetFocus() == peer->Window || IsChild(peer->Window, GetFocus()));
