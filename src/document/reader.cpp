@@ -218,7 +218,7 @@ enum class Extent { Nothing, Part, Whole };
 // Reads every section down to "[END]" or to the first fault.
 Extent ReadSections() {
   StartSegments(kDataFileHandle);
-  std::string segment = ReadToSectionHead();
+  std::string segment = ReadToSectionHead(false);
   if (segment.empty()) {
     Global::Say("Data file contains no record definitions.", Icon::Exclamation);
     return Extent::Nothing;

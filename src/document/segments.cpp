@@ -137,10 +137,11 @@ const std::string& ReadSegment() {
   return source.segment;
 }
 
-std::string ReadToSectionHead() {
-  std::string segment = ReadSegment();
-  while (!segment.empty() && segment.front() != '[') segment = ReadSegment();
-  return segment;
+std::string ReadToSectionHead(bool past_empty_ones) {
+  while (NextSegment()) {
+    if (source.segment.empty() ? !past_empty_ones : source.segment.front() == '[') break;
+  }
+  return source.segment;
 }
 
 std::string Assignment::ComparedKey() const { return UpperCase(TrimLeft(Key)); }

@@ -17,9 +17,9 @@ void ClearPendingText();
 // effect is deleted. The text is good until the next call. A line that cannot be read ends the file.
 const std::string& ReadSegment();
 
-// Passes over the segments before the next section head and returns it; empty text when an empty segment
-// or the end of the file comes first.
-std::string ReadToSectionHead();
+// Passes over the segments before the next section head and returns it; empty text when the end of the file comes
+// first or, unless those are passed over, too, an empty segment.
+std::string ReadToSectionHead(bool past_empty_ones);
 
 // One assignment of a section. Its texts are good until the next one is read.
 struct Assignment {

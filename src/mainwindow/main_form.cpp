@@ -197,6 +197,8 @@ void MainForm::Form_Activate() {
   if (show && TheDocument.Things.Count() > 0) {
     if (TheDocument.CurrentThing == 0) TheDocument.CurrentThing = 1;
     Redisplay();
+  } else {
+    DisplayThing();  // there may be things that could not be read to their end: the hint would be wrong
   }
   RefreshFrame();
 }

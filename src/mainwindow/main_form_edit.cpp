@@ -15,6 +15,16 @@
 #include "shell/file_form.h"
 #include "shell/messages.h"
 
+namespace {
+
+// Recently saved documents are no photos: the dialog is not to offer them.
+struct NoRecentFiles {
+  const int Count = std::exchange(TheRecentFiles.Count, 0);
+  ~NoRecentFiles() { TheRecentFiles.Count = Count; }
+};
+
+}  // namespace
+
 void MainForm::AddPersonItem_Click() {
   StoreEdits();
   const std::string name = NormaliseName(InputBox("Please type the name for the new object.", Global::ProgramTitle));
@@ -35,6 +45,12 @@ void MainForm::AddPersonItem_Click() {
 }
 
 void MainForm::DeletePersonItem_Click() {
+  // The list offers a name that was begun; the menu leaves it there. Nothing but what is shown whole is deleted.
+  if (!typed_.empty() && CurrentRecord() != nullptr) {
+    RestoreShownName();
+    Global::Say("Nothing was deleted.  Please pick the thing to delete in the list first.", Icon::Exclamation);
+    return;
+  }
   // What was typed belongs to the thing that goes, not to the one that takes its number.
   TheDocument.PendingEdits = false;
   if (CurrentRecord() == nullptr) {
@@ -83,11 +99,9 @@ void MainForm::PhotoButton_Click() {
   request.Pattern = "*.JPG";
   request.Name = thing->PICFILENAME;
   {
-    // Recently saved documents are no photos: the dialog is not to offer them.
-    const int recent = std::exchange(TheRecentFiles.Count, 0);
+    const NoRecentFiles none;
     const FlagScope scope(dialog_open_);
     FileForm(request).ShowModal();
-    TheRecentFiles.Count = recent;
   }
   if (request.Name.empty()) return;
   thing->PICFILENAME = request.Name;

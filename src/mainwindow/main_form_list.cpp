@@ -150,7 +150,7 @@ void MainForm::PickThing(int record) {
 void MainForm::PersonCombo_Change() {
   if (displaying_) return;
   const std::string before = std::exchange(typed_, PersonCombo.Text());
-  if (typed_.size() <= before.size()) return;
+  if (typed_.size() < before.size() || typed_ == before) return;
   const int position = FindEntryBeginning(listed_, typed_);
   if (position < 0) return;
   const std::string& offered = listed_[static_cast<std::size_t>(position)].Text;

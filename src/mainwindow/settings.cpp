@@ -42,7 +42,7 @@ std::string ReadHeader() {
 
 void ReadSettingsSections() {
   StartSegments(kSettingsHandle);
-  std::string segment = ReadToSectionHead();
+  std::string segment = ReadToSectionHead(true);
   while (!segment.empty()) {
     if (UpperCase(segment) != "[TOP10FILES]") {
       Global::Say("TORVANE.INI contains invalid record type: " + segment, Icon::Critical);

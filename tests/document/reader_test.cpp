@@ -374,6 +374,7 @@ TEST(NamesTest, TakeTheirForms) {
                           {"Red Barn, Big", "Big Red_Barn", "Red Barn, Big"},
                           {"  Garden Shed ", "Garden Shed", "Shed, Garden"},
                           {"Red_Barn", "Red_Barn", "Red_Barn"},
+                          {"Big Old Red_Barn", "Big Old Red_Barn", "Red Barn, Big Old"},
                           {"Shed", "Shed", "Shed"},
                           {"", "", ""},
                           {",", "", ""},

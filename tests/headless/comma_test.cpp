@@ -1,5 +1,8 @@
 // A machine with a decimal comma: templates, and the dialogs for values and formulas.
+#include "document/file_handles.h"
+#include "platform/files.h"
 #include "platform/headless/machine.h"
+#include "reports/item_values_report.h"
 #include "scenarios/fact_form_test.h"
 #include "values/templates.h"
 
@@ -63,6 +66,15 @@ TEST_F(CommaTest, ValuesAndFormulasAreTypedWithAComma) {
     user.Clicks(IDC_OKButton);
   });
   EXPECT_EQ(SlotsOf(1), "COLOUR:red|PRICE:24,69|QTY:2||||||||");
+}
+
+TEST_F(CommaTest, ReportsAddUpWithAComma) {
+  TheDocument.Things[2].Values[0].Text = "PRICE:1234,50";
+  Files::Open(kPrintFileHandle, "R.PRN", Files::Mode::Output);
+  WriteItemValuesReport(0, {1});
+  Files::Close(kPrintFileHandle);
+  const std::string report = TestFiles::Get("R.PRN").value_or("");
+  EXPECT_NE(report.find("\r\nTotal                            1.247,00"), std::string::npos) << report;
 }
 
 }  // namespace

@@ -29,6 +29,9 @@ TEST_F(FileDialogTest, StartsWhereTheNameIs) {
   TestFiles::MakeFolder("data");
   TestFiles::Put("data\\Home.FIL", Lines({"LARKSPUR V5.0 FILER DATA", "[THINGS]", "NAME=Shed", "[END]"}));
   Start("/DIR=" + InFolder("data"));
+  TheDocument.Things.SetCount(1);
+  TheDocument.CurrentThing = 1;
+  EXPECT_EQ(Browses(IDC_PhotoItem, ""), "Larkspur Filer Open|" + InFolder("data") + "||*.JPG|Photos");
   EXPECT_EQ(Browses(IDC_OpenItem, ""), "Larkspur Filer Open|" + InFolder("data") + "||*.FIL|Filer data files");
   EXPECT_EQ(Browses(IDC_SaveItem, ""),
             "Larkspur Filer Save|" + InFolder("data") + "|Filer001.FIL|*.FIL|Filer data files|to write");

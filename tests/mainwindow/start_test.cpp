@@ -99,6 +99,7 @@ TEST_F(SettingsTest, ReadsTheList) {
   EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI"})), "0:");
   EXPECT_EQ(Loaded(Lines({"TORVANE V5.01 INI", "[TOP10FILES]", "NAME=A", "[TOP10FILES]", "*11;NAME=B", "*1;NAME=C"})),
             "0:");
+  EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI", ";note", "[TOP10FILES]", "*1; NAME=A"})), "1: <A>");
   EXPECT_EQ(Loaded(Lines({"TORVANE INI V05", "[TOP10FILES]", "NAME=A"})), "1: <A>");
 }
 

@@ -36,6 +36,7 @@ TEST_F(ReportWritersTest, TextsAreWrappedAtBlanks) {
       {"one  two", 5, {" one", " two"}},
       {" longword", 5, {" ", " longw", " ord"}},
       {"end   ", 5, {" end", "  "}},
+      {" aa bb", 5, {"  aa", " bb"}},
   };
   for (const auto& row : kRows) {
     EXPECT_EQ(Written([&] { WriteWrapped(row.Text, row.Width); }), Lines(row.Expected)) << row.Text << row.Width;
@@ -53,12 +54,34 @@ TEST_F(ReportWritersTest, ItemLists) {
   ExpectGolden("NastyList.PRN", [] { WriteItemListReport(0); });
 }
 
+// Category 32 is told by all bits from the sign bit's half on.
+TEST_F(ReportWritersTest, ClassificationsAtTheSignBit) {
+  TheDocument.Things.SetCount(3);
+  TheDocument.Things[1].CATBITMAP = CategoryBit(15);
+  TheDocument.Things[2].CATBITMAP = CategoryBit(16);
+  TheDocument.Things[3].CATBITMAP = CategoryBit(16) | CategoryBit(17);
+  TheDocument.CategoryNames[15] = "Fifteen";
+  TheDocument.CategoryNames[16] = "Sixteen";
+  TheDocument.CategoryNames[32] = "Last";
+  EXPECT_EQ(
+      Written([] { WriteItemListReport(0); }),
+      Lines({"LARKSPUR V1.0 REPORT T=2,G=0", "", "Larkspur Object List report", "", "", " Classification: Fifteen", "",
+             "", " Classification: Sixteen, Last", "", "", " Classification: Sixteen, , Last"}));
+}
+
 TEST_F(ReportWritersTest, ItemValues) {
   LoadSource("samples/Household.FIL");
   ExpectGolden("HouseholdValues.PRN", [] { WriteItemValuesReport(0, {1, 2, 5}); });
   LoadSource("tests/reports/golden/Nasty.FIL");
   ExpectGolden("NastyValues.PRN", [] { WriteItemValuesReport(0, {1, 2, 3, 5}); });
   ExpectGolden("NastyRooms.PRN", [] { WriteItemValuesReport(CategoryBit(2), {3}); });
+  TheDocument = {};
+  TheDocument.Things.SetCount(1);
+  TheDocument.Things[1].Values[0].Text = "N:-5";
+  TheDocument.Fields.SetCount(1);
+  TheDocument.Fields[1] = {"N", "N", "INTEGER"};
+  const std::string negative = Written([] { WriteItemValuesReport(0, {1}); });
+  EXPECT_NE(negative.find("Maximum                          -5\r\n"), std::string::npos) << negative;
 }
 
 // Whoever asks for one report is not asked the same once for each thing.

@@ -1,6 +1,7 @@
 // Adding, deleting and renaming things, their photos, and naming categories.
 #include "mainwindow/settings.h"
 #include "scenarios/main_form_test.h"
+#include "support/expectations.h"
 
 namespace {
 
@@ -18,6 +19,7 @@ class EditTest : public MainFormTest {
     user.AnswersInput("Please type the new name for " + from, to);
     if (!box.empty()) user.Reads(box, icon);
     user.ChoosesMenu(IDC_RenameItem);
+    EXPECT_EQ(Expected().LastOffered, from);
   }
   static std::string Links() {
     std::string text;
@@ -26,11 +28,6 @@ class EditTest : public MainFormTest {
       text += thing.NAME + ":" + std::to_string(thing.XREF1) + "," + std::to_string(thing.XREF2) + " ";
     }
     return text;
-  }
-  // A picture of 2 x 2 points.
-  static std::string Bitmap() {
-    const std::string header("BM\x46\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x02\0\0\0\x02\0\0\0\x01\0\x18\0", 30);
-    return header + std::string(24, '\0') + std::string(16, '\x7f');
   }
 };
 
@@ -65,6 +62,19 @@ TEST_F(EditTest, KeepsLinksTrueWhenAdding) {
   EXPECT_EQ(Listed(), Names{"Zoo"});
 }
 
+TEST_F(EditTest, EachCommandAloneChangesTheDocument) {
+  PutHome();
+  for (const auto& act : std::vector<std::function<void()>>{
+           [this] { Adds("Fork"); },
+           [this] { Renames("Big Red_Barn", "Barn", "Record renamed.", Icon::Information); }}) {
+    Start("Home.FIL");
+    act();
+    EXPECT_EQ(user.SeesCaption(), "Larkspur Filer - Home.FIL *");
+    form.reset();
+    MakeNew();
+  }
+}
+
 TEST_F(EditTest, RefusesMoreThingsThanTheNumbersReach) {
   Start();
   TheDocument.Things.GrowFor(32767, 0);
@@ -78,6 +88,10 @@ TEST_F(EditTest, RefusesMoreThingsThanTheNumbersReach) {
 TEST_F(EditTest, DeletesThings) {
   PutHome();
   Start("Home.FIL");
+  user.Types(IDC_PersonCombo, "s");  // offers Spade, which is not what is shown
+  user.Reads("Nothing was deleted.  Please pick the thing to delete in the list first.", Icon::Exclamation);
+  user.ChoosesMenu(IDC_DeletePersonItem);
+  EXPECT_EQ(user.Sees(IDC_PersonCombo), "Big Red_Barn");
   user.Picks(IDC_PersonCombo, "Garden Shed");
   user.Types(IDC_NoteBox, "never stored");
   user.Reads("Record deleted.", Icon::Information);
@@ -138,7 +152,9 @@ TEST_F(EditTest, LinksPhotos) {
   chooses("", "shed.jpg", IDC_CancelButton);
   EXPECT_FALSE(TheDocument.Modified);
   EXPECT_EQ(TheRecentFiles.Count, 1);
+  user.Types(IDC_NoteBox, "stored first");
   chooses("", "shed.jpg", IDC_OKButton);
+  EXPECT_EQ(user.Sees(IDC_NoteBox), "stored first");
   EXPECT_EQ(TheRecentFiles.Count, 1);
   EXPECT_EQ(TheDocument.Things[2].PICFILENAME, InFolder("shed.jpg"));
   EXPECT_TRUE(TheDocument.Modified);

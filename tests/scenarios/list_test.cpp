@@ -1,4 +1,5 @@
 // Picking things: letter tabs, categories, name orders, and what was typed meanwhile.
+#include "mainwindow/command_line.h"
 #include "scenarios/main_form_test.h"
 
 namespace {
@@ -226,6 +227,36 @@ TEST_F(ListTest, FindsAThingByTyping) {
   user.MovesTo(IDC_NoteBox);  // leaving is no choice
   EXPECT_EQ(user.Sees(IDC_PersonCombo), "Spade");
   EXPECT_EQ(TheDocument.CurrentThing, 4);
+}
+
+TEST_F(ListTest, OffersAnewWhenAnotherLetterTakesThePlaceOfOne) {
+  user.Types(IDC_PersonCombo, "s");
+  user.Types(IDC_PersonCombo, "z");
+  EXPECT_EQ(user.Sees(IDC_PersonCombo), "Zoo");
+}
+
+TEST_F(ListTest, ShowsPhotosAndWhereThereIsMore) {
+  EXPECT_FALSE(user.SeesMarked(IDC_DataButton));
+  user.Picks(IDC_PersonCombo, "Garden Shed");
+  EXPECT_TRUE(user.SeesMarked(IDC_DataButton));
+  TestFiles::MakeFolder("data");
+  TestFiles::Put("data\\rake.bmp", Bitmap());
+  TheDocument.Things[3].PICFILENAME = "rake.bmp";
+  TheStart.WorkingFolder = InFolder("data");
+  user.Picks(IDC_PersonCombo, "rake");
+  EXPECT_TRUE(user.SeesPicture(IDC_PhotoPic));
+  EXPECT_FALSE(user.SeesMarked(IDC_DataButton));
+  user.Picks(IDC_PersonCombo, "Zoo");
+  EXPECT_FALSE(user.SeesPicture(IDC_PhotoPic));
+}
+
+TEST_F(ListTest, LeavesALinkThatTheListsCannotShow) {
+  TheDocument.Things[5].XREF1 = 999;
+  user.Picks(IDC_PersonCombo, "Zoo");
+  user.Types(IDC_NoteBox, "typed");
+  user.Picks(IDC_PersonCombo, "rake");
+  EXPECT_EQ(TheDocument.Things[5].XREF1, 999);
+  EXPECT_EQ(TheDocument.Things[5].NOTE, "typed");
 }
 
 TEST_F(ListTest, RemovesTheLinkToAPhotoThatCannotBeLoaded) {

@@ -1,6 +1,13 @@
 // What the scenarios of the main window share: see main_form_test.h.
 #include "scenarios/main_form_test.h"
 
+#include "support/expectations.h"
+
+void MainFormTest::SetUp() {
+  FreshTest::SetUp();
+  Expected().Title = "Larkspur Filer";
+}
+
 void MainFormTest::Start(const std::string& command_line) {
   form = std::make_unique<MainForm>(command_line);
   form->Show();
@@ -42,6 +49,11 @@ void MainFormTest::PutRecent(const std::vector<std::string>& names) {
   std::vector<std::string> lines{"TORVANE V5.0 INI", "[TOP10FILES]"};
   for (const std::string& name : names) lines.push_back("*; NAME=" + name);
   TestFiles::Put("Torvane.INI", Lines(lines));
+}
+
+std::string MainFormTest::Bitmap() {
+  const std::string header("BM\x46\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x02\0\0\0\x02\0\0\0\x01\0\x18\0", 30);
+  return header + std::string(24, '\0') + std::string(16, '\x7f');
 }
 
 std::string MainFormTest::Shown() {

@@ -12,6 +12,7 @@
 
 class MainFormTest : public FreshTest {
  protected:
+  void SetUp() override;
   // Starts the program as with that command line.
   void Start(const std::string& command_line = "");
   // Leaves the window as it is and starts again.
@@ -23,6 +24,8 @@ class MainFormTest : public FreshTest {
   static void PutRecent(const std::vector<std::string>& names);
 
   std::vector<std::string> Listed() { return user.SeesEntries(IDC_PersonCombo); }
+  // The bytes of a picture of 2 x 2 points.
+  static std::string Bitmap();
   // The thing that is shown: name, note, links and ticks.
   std::string Shown();
 

@@ -81,6 +81,26 @@ TEST_F(OpenTest, AddsAStartThingThatIsNotThere) {
   EXPECT_EQ(Listed().size(), 5u);
 }
 
+TEST_F(OpenTest, FindsAStartThingByItsNameAsItStands) {
+  TestFiles::Put("Odd.FIL",
+                 Lines({"LARKSPUR V5.0 FILER DATA", "[THINGS]", "NAME=A, B, C", "*2", "NAME=Shed", "[END]"}));
+  Start("Odd.FIL");
+  EXPECT_EQ(TheDocument.CurrentThing, 1);
+  const std::string odd = TheDocument.Things[1].NAME;
+  ASSERT_NE(odd.find(','), std::string::npos);  // a name that would be turned again
+  form.reset();
+  MakeNew();
+  Start("Odd.FIL /PERSON=\"" + odd + "\"");
+  EXPECT_EQ(TheDocument.Things.Count(), 2);
+  EXPECT_EQ(user.Sees(IDC_PersonCombo), odd);
+}
+
+TEST_F(OpenTest, StartsAtTheFirstThingEvenWithoutAName) {
+  TestFiles::Put("Odd.FIL", Lines({"LARKSPUR V5.0 FILER DATA", "[THINGS]", "*2;NAME=Shed", "[END]"}));
+  Start("Odd.FIL");
+  EXPECT_EQ(TheDocument.CurrentThing, 1);
+}
+
 TEST_F(OpenTest, AddsAStartThingToAnEmptyDocument) {
   Start("/PERSON=Shed");
   EXPECT_EQ(Listed(), Names{"Shed"});
@@ -165,6 +185,23 @@ TEST_F(OpenTest, ShowsWhatCouldBeReadOfADamagedFile) {
   EXPECT_EQ(Shown(), "Shed|wood|||Rooms,");
 }
 
+TEST_F(OpenTest, HidesADamagedStartFileBehindADeclinedOffer) {
+  PutRecent({"other.FIL"});
+  TestFiles::Put("Cut.FIL", Lines({"LARKSPUR V5.0 FILER DATA", "[THINGS]", "NAME=Shed"}));
+  user.Reads("The file was not completely loaded.  Some information will be missing.", Icon::Exclamation);
+  user.UsesForm(IDD_FileForm, [this] { user.Clicks(IDC_CancelButton); });
+  Start("Cut.FIL");
+  EXPECT_EQ(Listed(), Names{});
+  EXPECT_FALSE(user.SeesVisible(IDC_HintLabel));  // for there is a thing
+}
+
+TEST_F(OpenTest, SpeaksOfTheSettingsBeforeTheFile) {
+  TestFiles::Put("Torvane.INI", "nothing of ours\r\n");
+  user.Reads("Failed to load TORVANE.INI due to invalid format or version.", Icon::Exclamation);
+  user.Reads("Failed to open file " + InFolder("none.FIL") + " due to error # 53: File not found", Icon::Exclamation);
+  Start("none.FIL");
+}
+
 TEST_F(OpenTest, EmptiesTheWindowWhenALoadFails) {
   PutHome();
   TestFiles::Put("Bad.FIL", "LARKSPUR V6.0 FILER DATA\r\n");
@@ -230,7 +267,18 @@ TEST_F(OpenTest, KeepsAChangedNewDocumentInARescueCopy) {
 
   form.reset();
   PutHome();
+  PutRecent({InFolder("Home.FIL")});
+  const auto declines = [this] {
+    user.UsesForm(IDD_FileForm, [this] {
+      EXPECT_EQ(user.Sees(IDC_NameBox), InFolder("Home.FIL"));
+      user.Clicks(IDC_CancelButton);
+    });
+  };
+  declines();
   Start("/PERSON=Second");
+  declines();
+  user.Clicks(IDC_OpenButton);
+  EXPECT_EQ(TestFiles::Get("Rescue2.FIL"), std::nullopt);  // nothing is given up yet
   user.UsesForm(IDD_FileForm, [this] {
     user.Types(IDC_NameBox, "Home.FIL");
     user.Clicks(IDC_OKButton);

@@ -1,4 +1,7 @@
 // Reports in a person's hands: setting them up, where they are written, and what is said on the way.
+#include "document/file_handles.h"
+#include "platform/files.h"
+#include "reports/report_form.h"
 #include "scenarios/main_form_test.h"
 
 namespace {
@@ -77,6 +80,41 @@ TEST_F(ReportTest, ListsTheThingsOfSelectedCategories) {
                 " Classification: Rooms", "", "Spade", " Classification: Tools & toys, On loan"});
 }
 
+TEST_F(ReportTest, StoresWhatIsTypedBeforeItAsks) {
+  Start("Home.FIL");
+  user.Types(IDC_NoteBox, "Typed.");
+  Use(IDC_AddressRepItem, [this] {
+    EXPECT_EQ(TheDocument.Things[1].NOTE, "Typed.");
+    user.Clicks(IDC_CancelButton);
+  });
+  EXPECT_TRUE(TheDocument.Modified);
+  EXPECT_EQ(TestFiles::Get("Report.PRN"), std::nullopt);
+}
+
+TEST_F(ReportTest, TellsWhatWasChosen) {
+  Start("Home.FIL");
+  TheDocument.Fields.SetCount(3);
+  TheDocument.Fields[1] = {"COLOUR", "Colour", ""};
+  TheDocument.Fields[2] = {"PRICE", "Price", "DOLLAR"};
+  TheDocument.Fields[3] = {"QTY", "How many", "integer"};
+  ReportRequest request;
+  request.SelectionMask = 6;
+  request.Accepted = true;
+  user.UsesForm(IDD_ReportForm, [&] {
+    EXPECT_FALSE(request.Accepted);
+    EXPECT_EQ(user.SeesEntries(IDC_FieldList), (Names{"PRICE: Price", "QTY: How many"}));
+    user.Ticks(IDC_FieldList, "QTY: How many");
+    user.ChoosesFile("");
+    user.Clicks(IDC_BrowseButton);
+    EXPECT_EQ(user.Sees(IDC_PrintFileBox), "Report.PRN");
+    user.Clicks(IDC_OKButton);
+  });
+  ReportForm(request).ShowModal();
+  Files::Close(kPrintFileHandle);
+  EXPECT_TRUE(request.Accepted);
+  EXPECT_EQ(request.Fields, std::vector<int>{3});
+}
+
 // The form is another one each time: what was chosen for one report says nothing about the next.
 TEST_F(ReportTest, TabulatesTheTickedFields) {
   Use(IDC_ItemValuesItem, [this] {
@@ -126,6 +164,11 @@ TEST_F(ReportTest, FollowsTheDescendantsOfTheShownThing) {
     user.Clicks(IDC_OKButton);
   });
   ExpectReport("Report.PRN", {});
+  user.Picks(IDC_PersonCombo, "rake");
+  Use(IDC_DescendantItem, [this] {
+    EXPECT_EQ(user.SeesSelected(IDC_PersonCombo), "rake");
+    user.Clicks(IDC_CancelButton);
+  });
 }
 
 TEST_F(ReportTest, AsksForANameThatWillDo) {

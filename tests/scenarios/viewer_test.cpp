@@ -107,6 +107,7 @@ TEST_F(ViewerTest, SaysWhatIsNoReportEmptyOrCannotBeRead) {
   Start("notes.txt");
   EXPECT_EQ(Row(0), "just    text");
   EXPECT_EQ(user.Sees(IDC_LinesLabel), "Plain text, 1 line");
+  user.ChoosesMenu(IDC_ReloadItem);  // that has been said
 
   TestFiles::Put("Empty.PRN", "");
   user.ChoosesFile(InFolder("Empty.PRN"));

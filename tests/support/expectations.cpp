@@ -80,6 +80,7 @@ void Expectations::Start() {
   queue_.clear();
   LastCaption.clear();
   LastOffered.clear();
+  Title.clear();
 }
 
 void Expectations::Finish() {
@@ -167,6 +168,9 @@ void Expectations::FormLeftOpen(int template_id, const std::string& caption) {
 bool Expectations::Take(const Item& came, const std::string& caption, Item& expected) {
   if (came.What != Kind::Form) LastCaption = caption;
   const std::string seen = Describe(came) + ", caption \"" + caption + "\"";
+  if (!Title.empty() && (came.What == Kind::Message || came.What == Kind::Input)) {
+    EXPECT_EQ(caption, came.Text.starts_with("Please type a letter") ? "Letter tab selection" : Title) << came.Text;
+  }
   if (queue_.empty()) {
     ADD_FAILURE() << "Nothing was expected, but there came " << seen;
     return false;

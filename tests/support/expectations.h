@@ -44,6 +44,9 @@ class Expectations {
 
   bool Empty() const { return queue_.empty(); }
 
+  // The caption that boxes must have, but the one that asks for a letter; empty: any.
+  std::string Title;
+
   // The last box or file dialog that came, for tests that look closer.
   std::string LastCaption;
   std::string LastOffered;  // the text an input box offered

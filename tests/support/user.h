@@ -45,6 +45,8 @@ class User {
   bool SeesVisible(int id);
   bool SeesFocusOn(int id);
   bool SeesBold(int id);
+  bool SeesMarked(int id);                       // a button of another colour
+  bool SeesPicture(int id);                      // something in a picture box
   std::vector<std::string> SeesEntries(int id);  // list, drop-down or check list
   std::string SeesSelected(int id);              // the selected entry's text, empty for none
   std::vector<std::string> SeesTicked(int id);

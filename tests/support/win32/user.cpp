@@ -330,6 +330,16 @@ bool User::SeesBold(int id) {
   return font.lfWeight >= FW_BOLD;
 }
 
+bool User::SeesMarked(int id) {
+  const Control::Peer* peer = Find(id);
+  return peer != nullptr && static_cast<const Button*>(peer->Self)->BackColor() == BackColor::Marked;
+}
+
+bool User::SeesPicture(int id) {
+  const Control::Peer* peer = Find(id);
+  return peer != nullptr && !static_cast<const Picture*>(peer->Self)->Empty();
+}
+
 bool User::SeesFocusOn(int id) {
   const Control::Peer* peer = Find(id);
   return peer != nullptr && (GetFocus() == peer->Window || IsChild(peer->Window, GetFocus()));
