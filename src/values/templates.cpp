@@ -151,7 +151,9 @@ Layout ParseTemplate(std::string_view text, char separator) {
 }
 
 std::string Percents(const std::vector<std::size_t>& places, std::size_t place) {
-  return std::string(static_cast<std::size_t>(std::count(places.begin(), places.end(), place)), '%');
+  std::string text;
+  text.append(static_cast<std::size_t>(std::count(places.begin(), places.end(), place)), '%');
+  return text;
 }
 
 // The digits with the "%" that stand among or behind them, and with a mark between the thousands unless it is 0.
