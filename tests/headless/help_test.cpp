@@ -1,4 +1,5 @@
 // Help from every window, in a browser that only the in-memory machine has.
+#include "platform/headless/internals.h"
 #include "platform/headless/machine.h"
 #include "platform/program.h"
 #include "scenarios/main_form_test.h"
@@ -100,6 +101,16 @@ TEST_F(HelpTest, LooksForABrowserWhenNoneIsRegistered) {
   user.ChoosesFile("");
   user.Presses(Key::Help);
   EXPECT_EQ(Machine::StartedPrograms(), std::vector<std::string>{});
+  // One that is registered and gone is looked for just so.
+  Machine::SetRegistryValue(kUser, "SOFTWARE\\Classes\\.HTM", "", "page");
+  Machine::SetRegistryValue(kUser, "SOFTWARE\\Classes\\page\\shell\\open\\command", "", "C:\\TEST\\gone.exe %1");
+  user.Reads(
+      "Failed to start program with command line: <<C:\\TEST\\gone.exe \"C:\\Program "
+      "Files\\Filer\\Larkspur_Manual.htm\">> because of: Error # 53: File not found",
+      Icon::Exclamation);
+  user.Answers(kQuestion, Answer::No, Icon::None, Buttons::YesNo);
+  user.Presses(Key::Help);
+  Machine::RemoveRegistryKey(kUser, "SOFTWARE");
   // The choice is for this time only.
   for (int time = 1; time <= 2; ++time) {
     is_asked(Answer::Yes);
@@ -118,8 +129,14 @@ TEST_F(HelpTest, AFailureThatEndsTheProgramLosesNothing) {
   EXPECT_EQ(TestFiles::Get("Rescue.FIL"), std::nullopt);  // there was nothing to lose
   Start("Home.FIL");
   user.Types(IDC_NoteBox, "Typed and not stored yet.");
-  user.Reads(last_words, Icon::Critical);
+  bool kept = false;
+  CurrentStage().Message = [&](const std::string& text, const std::string&, Buttons, Icon) {
+    EXPECT_EQ(text, last_words);
+    kept = TestFiles::Get("Rescue.FIL").has_value();  // already, for nobody knows when the box is answered
+    return Answer::Ok;
+  };
   EXPECT_THROW(user.Presses(Key::Help), ProgramEnded);
+  EXPECT_TRUE(kept);
   EXPECT_NE(TestFiles::Get("Rescue.FIL").value_or("").find("NOTE=Typed and not stored yet."), std::string::npos);
 }
 
