@@ -57,7 +57,9 @@ Control::Control(Form& owner, int id, Kind kind) : peer_(std::make_unique<Peer>(
 
 Control::~Control() {
   Form::Peer& form = peer_->Owner->PeerOf();
-  if (peer_->Native != nullptr) {
+  // The window may be gone, and its handle another one's.
+  const bool is_ours = reinterpret_cast<Peer*>(GetWindowLongPtrW(peer_->Window, GWLP_USERDATA)) == peer_.get();
+  if (peer_->Native != nullptr && is_ours) {
     SetWindowLongPtrW(peer_->Window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(peer_->Native));
   }
   form.Controls.erase(peer_->Id);
