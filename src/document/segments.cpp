@@ -138,10 +138,11 @@ const std::string& ReadSegment() {
 }
 
 std::string ReadToSectionHead(bool past_empty_ones) {
-  while (NextSegment()) {
-    if (source.segment.empty() ? !past_empty_ones : source.segment.front() == '[') break;
+  for (;;) {
+    const std::string& segment = ReadSegment();
+    const bool ends = segment.empty() && !source.HasPending() && AtEnd();
+    if (segment.empty() ? ends || !past_empty_ones : segment.front() == '[') return segment;
   }
-  return source.segment;
 }
 
 std::string Assignment::ComparedKey() const { return UpperCase(TrimLeft(Key)); }

@@ -14,12 +14,11 @@
 #include "resource.h"
 #include "shell/messages.h"
 
-// A menu entry and the button of the same command. Without a handler both stay greyed.
+// A menu entry and the button of the same command.
 struct MainForm::Command {
   int Item;
-  Button MainForm::*ItsButton = nullptr;
-  void (MainForm::*Handler)() = nullptr;
-  bool (MainForm::*Enabled)() const = &MainForm::Always;
+  Button MainForm::*ItsButton;
+  void (MainForm::*Handler)();
 };
 
 std::span<const MainForm::Command> MainForm::Commands() {
@@ -84,7 +83,7 @@ MainForm::MainForm(std::string command_line)
 
 MainForm::~MainForm() { Global::KeepDocument = nullptr; }
 
-// Every event ends with the caption and the greying brought in line with the document.
+// Every event ends with the caption brought in line with the document.
 Event MainForm::On(void (MainForm::*handler)()) {
   return [this, handler] {
     (this->*handler)();
@@ -94,8 +93,7 @@ Event MainForm::On(void (MainForm::*handler)()) {
 
 void MainForm::WireEvents() {
   for (const Command& command : Commands()) {
-    if (command.ItsButton != nullptr && command.Handler != nullptr)
-      (this->*command.ItsButton).Click = On(command.Handler);
+    if (command.ItsButton != nullptr) (this->*command.ItsButton).Click = On(command.Handler);
   }
   OpenButton.Click = On(&MainForm::OpenButton_Click);
   ExitButton.Click = On(&MainForm::ExitButton_Click);
@@ -126,7 +124,7 @@ void MainForm::WireEvents() {
 
 void MainForm::RunCommand(int id) {
   for (const Command& command : Commands()) {
-    if (command.Item == id && command.Handler != nullptr) (this->*command.Handler)();
+    if (command.Item == id) (this->*command.Handler)();
   }
   RefreshFrame();
 }
@@ -138,11 +136,6 @@ void MainForm::RefreshFrame() {
   if (!document.Writable) caption += " (read only)";
   if (document.Modified || document.PendingEdits) caption += " *";
   if (caption != Caption()) SetCaption(caption);
-  for (const Command& command : Commands()) {
-    const bool enabled = command.Handler != nullptr && (this->*command.Enabled)();
-    SetMenuEnabled(command.Item, enabled);
-    if (command.ItsButton != nullptr) (this->*command.ItsButton).SetEnabled(enabled);
-  }
 }
 
 // The note and the lists grow with the window; the photo keeps its corner.
@@ -237,14 +230,5 @@ void MainForm::Form_QueryUnload(bool& cancel, UnloadMode mode) {
 }
 
 void MainForm::Run() {
-  bool shown = false;
-  while (!Closed()) {
-    try {
-      if (!std::exchange(shown, true)) Show();
-      RunUntilClosed();
-    } catch (const std::exception& error) {
-      // Whatever a command could not finish, the document is still there and can be saved.
-      Global::Say(std::string("The command could not be completed: ") + error.what(), Icon::Exclamation);
-    }
-  }
+  Global::RunForm(*this, [this] { Show(); });
 }

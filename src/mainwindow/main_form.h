@@ -48,7 +48,6 @@ class MainForm : public Form {
   void WireEvents();
   void AnchorControls();
   void RefreshFrame();
-  bool Always() const { return true; }
   bool ShowStartThing();
   static void SayFull();
 

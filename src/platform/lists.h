@@ -51,7 +51,6 @@ class ComboBox : public ListControl {
  public:
   ComboBox(Form& owner, int id) : ListControl(owner, id, Kind::ComboBox) {}
   void SelectText(int first, int last);  // marks characters [first, last) of the edit field
-  bool DroppedDown() const;
   Event Change;
 };
 

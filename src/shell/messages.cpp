@@ -1,6 +1,9 @@
 // Message boxes with the program's title: see messages.h.
 #include "shell/messages.h"
 
+#include <exception>
+#include <utility>
+
 #include "platform/program.h"
 #include "values/numbers.h"
 
@@ -31,6 +34,18 @@ void SayAndEnd(std::string_view text) {
   if (KeepDocument) KeepDocument();
   Say(text, Icon::Critical);
   EndProgram();
+}
+
+void RunForm(Form& form, const Event& start) {
+  bool started = false;
+  while (!form.Closed()) {
+    try {
+      if (!std::exchange(started, true)) start();
+      form.RunUntilClosed();
+    } catch (const std::exception& error) {
+      Say(std::string("The command could not be completed: ") + error.what(), Icon::Exclamation);
+    }
+  }
 }
 
 std::string DueToError(const RuntimeError& error) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/form.h"
 #include "platform/message.h"
 #include "platform/runtime_error.h"
 
@@ -27,6 +28,10 @@ bool Ask(std::string_view question, Buttons buttons, Icon icon = Icon::None);
 
 // How SayAndEnd keeps the document: filled in by the main window, which stands above everything that may fail.
 extern std::function<void()> KeepDocument;
+
+// Runs a program: its form from `start`, which shows it, to its closing. What a command throws is said, and the form
+// stays: whatever could not be finished, what the form holds is still there.
+void RunForm(Form& form, const Event& start);
 
 // How a failure is quoted: " due to error # 53: File not found".
 std::string DueToError(const RuntimeError& error);

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <exception>
 #include <utility>
 
 #include "mainwindow/file_names.h"
@@ -119,15 +118,7 @@ void ViewerForm::Start() {
 }
 
 void ViewerForm::Run() {
-  bool started = false;
-  while (!Closed()) {
-    try {
-      if (!std::exchange(started, true)) Start();
-      RunUntilClosed();
-    } catch (const std::exception& error) {
-      Global::Say(std::string("The command could not be completed: ") + error.what(), Icon::Exclamation);
-    }
-  }
+  Global::RunForm(*this, [this] { Start(); });
 }
 
 void ViewerForm::ReportSurface_Resize() {

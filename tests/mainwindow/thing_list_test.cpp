@@ -102,11 +102,6 @@ TEST_F(ThingListTest, HoldsNoMoreThanTheNumbersReach) {
   EXPECT_EQ(TheDocument.Things.Count(), 32767);
 }
 
-TEST_F(ThingListTest, GrowsByTheLoadStep) {
-  for (int number = 1; number <= 201; ++number) InsertThing("T" + std::to_string(number));
-  EXPECT_EQ(TheDocument.Things.UpperBound(), 250);
-}
-
 TEST_F(ThingListTest, FindsThePlaceInAnUnsortedTable) {
   Put({Thing("M"), Thing("A"), Thing("Z")});
   EXPECT_EQ(InsertThing("C"), 1);

@@ -36,9 +36,11 @@ TEST_F(OpenPrintFileTest, AsksBeforeItOverwritesOtherTypes) {
   EXPECT_EQ(Opened("x.bak"), "x.bak");
   EXPECT_EQ(TestFiles::Get("x.bak"), "");
   EXPECT_EQ(Opened("free.txt"), "free.txt");
-  user.Answers("You did not specify a filetype as part of the name. Would you like me to add a type of .PRN?",
-               Answer::No, Icon::None, Buttons::YesNo);
-  EXPECT_EQ(Opened("free"), "free");
+  for (const Answer answer : {Answer::No, Answer::Yes}) {
+    user.Answers("You did not specify a filetype as part of the name. Would you like me to add a type of .PRN?", answer,
+                 Icon::None, Buttons::YesNo);
+    EXPECT_EQ(Opened("free"), answer == Answer::No ? "free" : "free.PRN");
+  }
 }
 
 TEST_F(OpenPrintFileTest, PutsNamesIntoTheWorkingFolder) {

@@ -1,5 +1,9 @@
 // The About box.
+#include <stdexcept>
+
 #include "scenarios/main_form_test.h"
+#include "shell/about_form.h"
+#include "shell/messages.h"
 
 namespace {
 
@@ -18,6 +22,17 @@ TEST_F(AboutTest, TellsTheVersionAndGoes) {
     });
     user.ChoosesMenu(IDC_AboutItem);
   }
+}
+
+TEST_F(AboutTest, AProgramGoesOnAfterAFailure) {
+  AboutForm about("A form to run.");
+  user.Reads("The command could not be completed: no luck", Icon::Exclamation);
+  user.UsesForm(IDD_AboutForm, [this] { user.Presses(Key::Escape); });
+  Global::RunForm(about, [&about] {
+    about.Show();
+    throw std::runtime_error("no luck");
+  });
+  EXPECT_TRUE(about.Closed());
 }
 
 }  // namespace

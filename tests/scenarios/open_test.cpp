@@ -323,14 +323,4 @@ TEST_F(OpenTest, SaysThatAFileIsReadOnly) {
   EXPECT_EQ(user.SeesCaption(), "Larkspur Filer - Home.FIL (read only)");
 }
 
-TEST_F(OpenTest, OffersEveryCommand) {
-  PutHome();
-  Start("Home.FIL");
-  for (const int id :
-       {IDC_NewItem, IDC_OpenItem, IDC_SaveItem, IDC_ExitItem, IDC_AllNamesItem, IDC_SelCategoryItem,
-        IDC_AddressRepItem, IDC_ItemValuesItem, IDC_DescendantItem, IDC_ManualItem, IDC_FilerHelpItem, IDC_AboutItem}) {
-    EXPECT_TRUE(user.SeesMenuEnabled(id)) << id;
-  }
-}
-
 }  // namespace

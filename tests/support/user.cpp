@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "platform/controls.h"
 #include "support/expectations.h"
 
 void User::Answers(std::string_view text, Answer answer, Icon icon, Buttons buttons) {
@@ -16,3 +17,13 @@ void User::UsesForm(int template_id, std::function<void()> acts) {
 }
 
 void User::ChoosesFile(std::string_view name) { Expected().ExpectFile(name); }
+
+bool User::SeesMarked(int id) {
+  const Control* button = On(id);
+  return button != nullptr && static_cast<const Button*>(button)->BackColor() == BackColor::Marked;
+}
+
+bool User::SeesPicture(int id) {
+  const Control* box = On(id);
+  return box != nullptr && !static_cast<const Picture*>(box)->Empty();
+}

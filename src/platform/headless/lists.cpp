@@ -37,7 +37,6 @@ void ComboBox::SelectText(int first, int last) {
 }
 
 // Nothing drops down here: a person picks straight from the entries.
-bool ComboBox::DroppedDown() const { return false; }
 
 void CheckList::Fill(const std::vector<std::string>& entries) {
   Peer& peer = PeerOf();

@@ -164,8 +164,6 @@ void ComboBox::SelectText(int first, int last) {
   SendMessageA(PeerOf().EditField(), EM_SETSEL, static_cast<WPARAM>(first), last);
 }
 
-bool ComboBox::DroppedDown() const { return PeerOf().Send(CB_GETDROPPEDSTATE) != FALSE; }
-
 HWND Control::Peer::EditField() const {
   COMBOBOXINFO parts{};
   parts.cbSize = sizeof parts;

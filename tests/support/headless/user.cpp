@@ -294,14 +294,9 @@ bool User::SeesBold(int id) {
   return peer != nullptr && peer->Bold;
 }
 
-bool User::SeesMarked(int id) {
+const Control* User::On(int id) {
   const Control::Peer* peer = Find(id);
-  return peer != nullptr && static_cast<const Button*>(peer->Self)->BackColor() == BackColor::Marked;
-}
-
-bool User::SeesPicture(int id) {
-  const Control::Peer* peer = Find(id);
-  return peer != nullptr && !static_cast<const Picture*>(peer->Self)->Empty();
+  return peer == nullptr ? nullptr : peer->Self;
 }
 
 bool User::SeesFocusOn(int id) {
