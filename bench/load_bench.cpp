@@ -58,13 +58,12 @@ void CopyEveryValue(benchmark::State& state) {
   const auto size = static_cast<std::int64_t>(PutLargeFile());
   for (auto _ : state) {
     std::vector<std::string> values;
-    std::string line;
     Files::Open(kDataFileHandle, kFile, Files::Mode::Input);
     while (!Files::AtEnd(kDataFileHandle)) {
-      Files::ReadLine(kDataFileHandle, line);
+      const std::string_view line = Files::ReadLine(kDataFileHandle);
       if (line.empty()) continue;
       const auto equals = line.find('=');
-      values.emplace_back(equals == std::string::npos ? line : line.substr(equals + 1));
+      values.emplace_back(equals == std::string_view::npos ? line : line.substr(equals + 1));
     }
     Files::Close(kDataFileHandle);
     benchmark::DoNotOptimize(values.data());

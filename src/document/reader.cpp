@@ -21,9 +21,12 @@ namespace {
 constexpr bool kLockAfterLoad = true;
 
 // Follows the record numbers of one section and resets each record before it is filled for the first
-// time, so that nothing of an older document shows through a gap in the numbering.
+// time, so that nothing of an older document shows through a gap in the numbering. Records above `last_used` were
+// never filled before.
 class RecordCursor {
  public:
+  explicit RecordCursor(int last_used) : last_used_(last_used) {}
+
   int Last() const { return last_; }  // of the assignment taken up last, 0 before the first
 
   // Returns true when the number moved up: the record is then new and was reset.
@@ -31,8 +34,9 @@ class RecordCursor {
   bool MoveTo(int record, Reset reset) {
     const bool moved_up = record > previous_;
     if (moved_up) {
-      for (int gap = highest_ + 1; gap < record; ++gap) reset(gap);
-      reset(record);
+      const int last_stale = std::max(highest_, last_used_);
+      for (int gap = highest_ + 1; gap < record && gap <= last_stale; ++gap) reset(gap);
+      if (record <= last_stale) reset(record);
       highest_ = std::max(highest_, record);
     }
     previous_ = last_ = record;
@@ -40,6 +44,7 @@ class RecordCursor {
   }
 
  private:
+  int last_used_;
   int previous_ = 1;  // record 1 is reset when the section starts
   int highest_ = 1;
   int last_ = 0;
@@ -48,7 +53,7 @@ class RecordCursor {
 std::string ReadCategories() {
   CategoryNameTable& names = TheDocument.CategoryNames;
   names[1].clear();
-  RecordCursor cursor;
+  RecordCursor cursor(kCategories);
   Assignment assignment;
   int record = 0;
   for (ReadAssignment(assignment, record); !assignment.EndsSection(); ReadAssignment(assignment, record)) {
@@ -64,18 +69,18 @@ std::string ReadCategories() {
     }
     names[record] = Trim(assignment.Value);
   }
-  return assignment.Segment;
+  return std::string(assignment.Segment);
 }
 
 // Where a definition keeps the value of a key; null for a key it does not have.
-std::string* MemberOf(FieldDefinition& field, const std::string& key) {
+std::string* MemberOf(FieldDefinition& field, std::string_view key) {
   if (key == "NAME") return &field.Keyword;
   if (key == "TITLE") return &field.Title;
   if (key == "FIELDTYPE") return &field.Type;
   return nullptr;
 }
 
-std::string* MemberOf(FormulaDefinition& formula, const std::string& key) {
+std::string* MemberOf(FormulaDefinition& formula, std::string_view key) {
   if (key == "NAME") return &formula.Name;
   if (key == "TITLE") return &formula.Title;
   if (key == "FIELDTYPE") return &formula.Type;
@@ -88,7 +93,7 @@ template <class Definition>
 std::string ReadDefinitions(RecordTable<Definition>& table) {
   const Definition nothing;
   table[1] = nothing;
-  RecordCursor cursor;
+  RecordCursor cursor(table.UpperBound());
   Assignment assignment;
   int record = 0;
   for (ReadAssignment(assignment, record); !assignment.EndsSection(); ReadAssignment(assignment, record)) {
@@ -96,14 +101,15 @@ std::string ReadDefinitions(RecordTable<Definition>& table) {
     cursor.MoveTo(record, [&](int number) { table[number] = nothing; });
     std::string* member = MemberOf(table[record], assignment.ComparedKey());
     if (member == nullptr) {
-      Global::Say("Data file contains invalid definitinon for field: " + assignment.Segment, Icon::Exclamation);
-      assignment.Segment.clear();
+      Global::Say("Data file contains invalid definitinon for field: " + std::string(assignment.Segment),
+                  Icon::Exclamation);
+      assignment.Segment = {};
       break;
     }
     *member = assignment.Value;
   }
   table.SetCount(cursor.Last());
-  return assignment.Segment;
+  return std::string(assignment.Segment);
 }
 
 bool IsDefinedField(std::string_view keyword) {
@@ -114,7 +120,7 @@ bool IsDefinedField(std::string_view keyword) {
   return false;
 }
 
-bool StorePlainKey(ThingRecord& thing, const std::string& key, const Assignment& assignment) {
+bool StorePlainKey(ThingRecord& thing, std::string_view key, const Assignment& assignment) {
   if (key == "NAME") {
     thing.NAME = NormaliseName(assignment.Value);
   } else if (key == "NOTE") {
@@ -135,11 +141,10 @@ bool StorePlainKey(ThingRecord& thing, const std::string& key, const Assignment&
 }
 
 // Stores the value of a field given as "%" and its keyword. `values` counts the record's values so far.
-bool StoreFieldValue(int record, const std::string& key, const Assignment& assignment, int& values) {
-  ThingRecord& thing = TheDocument.Things[record];
-  const std::string_view keyword = std::string_view(key).substr(1);
+bool StoreFieldValue(ThingRecord& thing, int record, std::string_view key, const Assignment& assignment, int& values) {
+  const std::string_view keyword = key.substr(1);
   if (!IsDefinedField(keyword)) {
-    return Global::Ask("Filer object record contains unknown user-defined field: <<" + assignment.Segment +
+    return Global::Ask("Filer object record contains unknown user-defined field: <<" + std::string(assignment.Segment) +
                            ">>.  It will not be loaded.  Do you wish to continue loading the remaining data?",
                        Buttons::YesNo);
   }
@@ -150,9 +155,12 @@ bool StoreFieldValue(int record, const std::string& key, const Assignment& assig
     return false;
   }
   std::string& slot = thing.Values[static_cast<std::size_t>(values - 1)].Text;
-  slot = keyword;
+  const std::string_view value = Trim(assignment.Value);
+  slot.clear();
+  slot.reserve(keyword.size() + 1 + value.size());
+  slot += keyword;
   slot += ':';
-  slot += Trim(assignment.Value);
+  slot += value;
   return true;
 }
 
@@ -160,34 +168,34 @@ std::string ReadThings() {
   RecordTable<ThingRecord>& things = TheDocument.Things;
   const ThingRecord nothing;
   things[1] = nothing;
-  RecordCursor cursor;
+  RecordCursor cursor(things.UpperBound());
   Assignment assignment;
   int record = 0;
   int values = 0;
   for (ReadAssignment(assignment, record); !assignment.EndsSection(); ReadAssignment(assignment, record)) {
     things.GrowFor(record, kLoadStep);
     if (cursor.MoveTo(record, [&](int number) { things[number] = nothing; })) values = 0;
-    const std::string key = assignment.ComparedKey();
-    const bool stored = key.starts_with('%') ? StoreFieldValue(record, key, assignment, values)
-                                             : StorePlainKey(things[record], key, assignment);
+    const std::string_view key = assignment.ComparedKey();
+    ThingRecord& thing = things[record];
+    const bool stored = key.starts_with('%') ? StoreFieldValue(thing, record, key, assignment, values)
+                                             : StorePlainKey(thing, key, assignment);
     if (!stored) {
-      assignment.Segment.clear();
+      assignment.Segment = {};
       break;
     }
   }
   things.SetCount(cursor.Last());
-  return assignment.Segment;
+  return std::string(assignment.Segment);
 }
 
 // True when the first line is a header that this program reads.
 bool AcceptsHeader() {
-  std::string first_line;
+  std::string upper;
   try {
-    Files::ReadLine(kDataFileHandle, first_line);
+    upper = UpperCase(Files::ReadLine(kDataFileHandle));
   } catch (const RuntimeError&) {
     return false;  // an empty file, or one that the disk does not give back
   }
-  const std::string upper = UpperCase(first_line);
   const std::string_view line = Trim(upper);
   double version = 0;
   try {

@@ -2,6 +2,7 @@
 #include "document/segments.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "document/text.h"
 #include "platform/files.h"
@@ -13,16 +14,14 @@
 
 namespace {
 
-// One line at a time is taken apart: `line` holds it assembled, the pending text is what stands in it
-// from `pending` on. Keeping a position instead of a second text makes a line of any length linear.
+// One line at a time is taken apart. The texts are views of the file's own block as long as nothing has to be joined
+// or deleted, which is nearly always: copies are most of what loading costs.
 struct SegmentSource {
   int handle = 0;
-  std::string line;
-  std::size_t pending = 0;
-  std::string physical;
-  std::string segment;
-
-  bool HasPending() const { return pending < line.size(); }
+  std::string_view pending;  // what is left of the line
+  std::string joined;        // a line of several physical ones
+  std::string_view segment;
+  std::string unescaped;  // a segment without its tildes
 };
 
 SegmentSource source;
@@ -40,10 +39,10 @@ bool WhileReadable(Act act) {
 }
 
 // Reads one physical line; false behind the last one.
-bool ReadPhysicalLine(std::string& line) {
-  line.clear();
+bool ReadPhysicalLine(std::string_view& line) {
+  line = {};
   return WhileReadable([&line] {
-    Files::ReadLine(source.handle, line);
+    line = Files::ReadLine(source.handle);
     return true;
   });
 }
@@ -52,31 +51,34 @@ bool AtEnd() {
   return !WhileReadable([] { return !Files::AtEnd(source.handle); });
 }
 
-bool HasOuterBlanks(const std::string& line) { return !line.empty() && (line.front() == ' ' || line.back() == ' '); }
+bool HasOuterBlanks(std::string_view line) { return !line.empty() && (line.front() == ' ' || line.back() == ' '); }
 
-bool IsContinued(const std::string& line) {
-  return !line.empty() && line.back() == '+' && (line.size() < 2 || line[line.size() - 2] != '~');
-}
+bool IsContinued(std::string_view line) { return line.ends_with('+') && !line.ends_with("~+"); }
 
-// Assembles the next line that is not empty; false at the end of the file.
-bool AssembleLine() {
-  source.pending = 0;
+// Reads the next line that is not empty; false at the end of the file.
+bool ReadPendingLine() {
   do {
-    if (!ReadPhysicalLine(source.line)) return false;
-    if (HasOuterBlanks(source.line) && !AtEnd()) source.line = std::string(Trim(source.line));
-  } while (source.line.empty());
-  while (IsContinued(source.line) && !AtEnd()) {
-    if (!ReadPhysicalLine(source.physical)) break;
-    source.line.pop_back();
-    source.line += Trim(source.physical);
-  }
+    if (!ReadPhysicalLine(source.pending)) return false;
+    if (HasOuterBlanks(source.pending) && !AtEnd()) source.pending = Trim(source.pending);
+  } while (source.pending.empty());
   return true;
 }
 
-// The position of the first ";" from `first` on that no "~" stands before, or npos.
-std::size_t FindCut(const std::string& line, std::size_t first) {
-  auto cut = line.find(';', first);
-  while (cut != std::string::npos && cut > first && line[cut - 1] == '~') cut = line.find(';', cut + 1);
+// Joins the pending line with the lines that continue it.
+void JoinContinuation() {
+  source.joined = source.pending;
+  std::string_view next;
+  while (IsContinued(source.joined) && ReadPhysicalLine(next)) {
+    source.joined.pop_back();
+    source.joined += Trim(next);
+  }
+  source.pending = source.joined;
+}
+
+// The position of the first ";" that no "~" stands before, or npos.
+std::size_t FindCut(std::string_view line) {
+  auto cut = line.find(';');
+  while (cut != std::string_view::npos && cut > 0 && line[cut - 1] == '~') cut = line.find(';', cut + 1);
   return cut;
 }
 
@@ -87,10 +89,7 @@ void StartSegments(int handle) {
   ClearPendingText();
 }
 
-void ClearPendingText() {
-  source.line.clear();
-  source.pending = 0;
-}
+void ClearPendingText() { source.pending = {}; }
 
 namespace {
 
@@ -108,49 +107,56 @@ void DeleteTildes(std::string& text) {
   if (end != std::string::npos) text.resize(end);
 }
 
-// Cuts the next segment off; false at the end of the file. Most lines are one segment: they are not copied.
+// Cuts the next segment off; false at the end of the file.
 bool NextSegment() {
-  source.segment.clear();
-  if (!source.HasPending() && !AssembleLine()) return false;
-  const std::size_t first = source.pending;
-  const std::size_t cut = FindCut(source.line, first);
-  if (cut == std::string::npos) {
-    if (first == 0) {
-      source.segment.swap(source.line);
-    } else {
-      source.segment.assign(source.line, first);
-    }
-    ClearPendingText();
-  } else {
-    const std::string_view line = source.line;
-    source.segment = TrimRight(line.substr(first, cut - first));
-    source.pending = std::min(line.find_first_not_of(' ', cut + 1), line.size());
+  source.segment = {};
+  if (source.pending.empty()) {
+    if (!ReadPendingLine()) return false;
+    if (IsContinued(source.pending)) JoinContinuation();
   }
-  DeleteTildes(source.segment);
+  const std::size_t cut = FindCut(source.pending);
+  if (cut == std::string_view::npos) {
+    source.segment = std::exchange(source.pending, {});
+  } else {
+    source.segment = TrimRight(source.pending.substr(0, cut));
+    source.pending = TrimLeft(source.pending.substr(cut + 1));
+  }
+  if (source.segment.find('~') != std::string_view::npos) {
+    source.unescaped = source.segment;
+    DeleteTildes(source.unescaped);
+    source.segment = source.unescaped;
+  }
   return true;
 }
 
 }  // namespace
 
-const std::string& ReadSegment() {
+std::string ReadSegment() {
   NextSegment();
-  return source.segment;
+  return std::string(source.segment);
 }
 
 std::string ReadToSectionHead(bool past_empty_ones) {
   for (;;) {
-    const std::string& segment = ReadSegment();
-    const bool ends = segment.empty() && !source.HasPending() && AtEnd();
+    std::string segment = ReadSegment();
+    const bool ends = segment.empty() && source.pending.empty() && AtEnd();
     if (segment.empty() ? ends || !past_empty_ones : segment.front() == '[') return segment;
   }
 }
 
-std::string Assignment::ComparedKey() const { return UpperCase(TrimLeft(Key)); }
+// Upper-casing goes through the system, and keys are written in capitals.
+std::string_view Assignment::ComparedKey() {
+  const std::string_view key = TrimLeft(Key);
+  for (const char each : key) {
+    if (static_cast<unsigned char>(each) >= 'a') return capitals_ = UpperCase(key);
+  }
+  return key;
+}
 
 namespace {
 
-int NextRecord(const std::string& marker, int record) {
-  int number = LeadingRecordNumber(std::string_view(marker).substr(1));
+int NextRecord(std::string_view marker, int record) {
+  int number = LeadingRecordNumber(marker.substr(1));
   if (number < 1) number = record + 1;
   if (number > kLastRecord) {
     Global::Say("The input file contains too many records to load.", Icon::Critical);
@@ -162,27 +168,25 @@ int NextRecord(const std::string& marker, int record) {
 }  // namespace
 
 void ReadAssignment(Assignment& assignment, int& record) {
-  assignment.Segment.clear();
+  assignment.Segment = {};
   while (NextSegment()) {
-    const std::string& segment = source.segment;
+    const std::string_view segment = source.segment;
     if (segment.empty() || segment.front() == '\'') continue;
     if (segment.front() == '*') {
       record = NextRecord(segment, record);
       continue;
     }
-    if (segment.front() == '[') {
-      assignment.Segment = segment;
-      return;
-    }
     const auto equals = segment.find('=');
-    if (equals == std::string::npos) {
-      Global::Say("Data file contains invalid assignment: " + segment, Icon::Information);
-      return;
+    if (segment.front() != '[') {
+      if (equals == std::string_view::npos) {
+        Global::Say("Data file contains invalid assignment: " + std::string(segment), Icon::Information);
+        return;
+      }
+      assignment.Key = segment.substr(0, equals);
+      assignment.Value = segment.substr(equals + 1);
+      if (record == 0) record = 1;
     }
-    assignment.Segment.swap(source.segment);
-    assignment.Key = std::string_view(assignment.Segment).substr(0, equals);
-    assignment.Value = std::string_view(assignment.Segment).substr(equals + 1);
-    if (record == 0) record = 1;
+    assignment.Segment = segment;
     return;
   }
 }

@@ -35,9 +35,7 @@ bool AcceptsHeader(const std::string& first_line) {
 
 // An empty file has an empty header.
 std::string ReadHeader() {
-  std::string line;
-  if (!Files::AtEnd(kSettingsHandle)) Files::ReadLine(kSettingsHandle, line);
-  return line;
+  return Files::AtEnd(kSettingsHandle) ? std::string() : std::string(Files::ReadLine(kSettingsHandle));
 }
 
 void ReadSettingsSections() {
@@ -96,7 +94,7 @@ std::string ReadRecentFilesSection() {
     TheRecentFiles[record] = assignment.Value;
     TheRecentFiles.Count = record;
   }
-  return assignment.Segment;
+  return std::string(assignment.Segment);
 }
 
 void SaveSettings() {

@@ -25,8 +25,9 @@ bool IsOpen(int handle);
 // True when every byte of an Input file has been read.
 bool AtEnd(int handle);
 
-// Reads the next line into `line`, without its end (CR LF, a lone LF or a lone CR). Error 62 at the end.
-void ReadLine(int handle, std::string& line);
+// The next line without its end (CR LF, a lone LF or a lone CR); good until the handle's next line is read or it is
+// closed. Error 62 at the end.
+std::string_view ReadLine(int handle);
 
 // The bytes of a whole file, which is not held open afterwards; others may read and write it meanwhile. Fails as
 // Open does, and with 7 when there is no room for the bytes.

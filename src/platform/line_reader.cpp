@@ -6,10 +6,9 @@
 
 namespace {
 
-std::size_t Find(const std::vector<char>& block, char wanted, std::size_t from, std::size_t to) {
-  if (from == to) return to;
-  const void* found = std::memchr(block.data() + from, wanted, to - from);
-  return found == nullptr ? to : static_cast<std::size_t>(static_cast<const char*>(found) - block.data());
+const char* Find(char wanted, const char* from, const char* to) {
+  const void* found = std::memchr(from, wanted, static_cast<std::size_t>(to - from));
+  return found == nullptr ? to : static_cast<const char*>(found);
 }
 
 }  // namespace
@@ -23,40 +22,50 @@ bool LineReader::AtEnd() {
   return false;
 }
 
-bool LineReader::Read(std::string& line) {
-  line.clear();
-  if (AtEnd()) return false;
-  while (!TakeUpToEnd(line)) {
-    if (AtEnd()) break;
+// Most lines are seen where they stand in the block. One that the block ends with is carried out of it, so that
+// AtEnd, which may need the next block, leaves it alone.
+std::optional<std::string_view> LineReader::Read() {
+  if (AtEnd()) return std::nullopt;
+  carried_.clear();
+  for (;;) {
+    const char* const first = next_;
+    const char* const stop = FindLineEnd();
+    const bool ended = TakeLineEnd(stop);
+    const std::string_view piece(first, static_cast<std::size_t>(stop - first));
+    if (ended && carried_.empty() && next_ != end_) return piece;
+    carried_ += piece;
+    if (ended || AtEnd()) return carried_;
   }
-  return true;
 }
 
 // Reads the next block; the whole of the last one has been taken.
 bool LineReader::Fill() {
-  next_ = end_ = line_feed_ = 0;
-  end_ = source_(block_.data(), block_.size());
-  if (end_ == 0) return false;
-  if (after_return_ && block_[0] == '\n') next_ = 1;
+  next_ = end_ = line_feed_ = block_.data();
+  const std::size_t size = source_(block_.data(), block_.size());
+  if (size == 0) return false;
+  end_ += size;
+  if (after_return_ && *next_ == '\n') ++next_;
   after_return_ = false;
-  line_feed_ = Find(block_, '\n', next_, end_);
+  line_feed_ = Find('\n', next_, end_);
   return true;
 }
 
-// Adds bytes up to the next line end in the block, and takes that end; false when the block has none.
-// The place of the LF is kept from call to call: a file of lone CRs would otherwise be searched anew
-// to the end of the block for each of its lines.
-bool LineReader::TakeUpToEnd(std::string& line) {
-  if (line_feed_ < next_) line_feed_ = Find(block_, '\n', next_, end_);
-  const std::size_t stop = Find(block_, '\r', next_, line_feed_);
-  line.append(block_.data() + next_, stop - next_);
+// Where the next CR or LF of the block stands, or its end when it has none. The place of the LF is kept from call to
+// call: a file of lone CRs would otherwise be searched anew to the end of the block for each of its lines.
+const char* LineReader::FindLineEnd() {
+  if (line_feed_ < next_) line_feed_ = Find('\n', next_, end_);
+  return Find('\r', next_, line_feed_);
+}
+
+// Takes the bytes up to `stop` and the line end there; false when the block ends there instead.
+bool LineReader::TakeLineEnd(const char* stop) {
   next_ = stop;
   if (stop == end_) return false;
   ++next_;
-  if (block_[stop] == '\r') {
+  if (*stop == '\r') {
     if (next_ == end_) {
       after_return_ = true;
-    } else if (block_[next_] == '\n') {
+    } else if (*next_ == '\n') {
       ++next_;
     }
   }

@@ -4,7 +4,9 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class LineReader {
@@ -19,17 +21,19 @@ class LineReader {
   // True when every byte has been taken, the LF behind a line's CR included.
   bool AtEnd();
 
-  // As Files::ReadLine; returns false at the end.
-  bool Read(std::string& line);
+  // As Files::ReadLine; nothing at the end.
+  std::optional<std::string_view> Read();
 
  private:
   bool Fill();
-  bool TakeUpToEnd(std::string& line);
+  const char* FindLineEnd();
+  bool TakeLineEnd(const char* stop);
 
   Source source_;
   std::vector<char> block_;
-  std::size_t next_ = 0;       // the first byte not yet taken
-  std::size_t end_ = 0;        // behind the last byte of the block
-  std::size_t line_feed_ = 0;  // the first LF at or behind next_, or end_ when the block has none
-  bool after_return_ = false;  // the last block ended in a CR: an LF opening the next one belongs to it
+  std::string carried_;              // a line that is not whole within the block
+  const char* next_ = nullptr;       // the first byte not yet taken
+  const char* end_ = nullptr;        // behind the last byte of the block
+  const char* line_feed_ = nullptr;  // the first LF at or behind next_, or end_ when the block has none
+  bool after_return_ = false;        // the last block ended in a CR: an LF opening the next one belongs to it
 };

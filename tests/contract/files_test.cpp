@@ -37,11 +37,11 @@ int OpenError(const std::string& name, Mode mode) {
 
 std::vector<std::string> LinesOf(const std::string& name) {
   std::vector<std::string> lines;
-  std::string line;
   Files::Open(9, name, Mode::Input);
   while (!Files::AtEnd(9)) {
-    Files::ReadLine(9, line);
-    lines.push_back(line);
+    const std::string_view line = Files::ReadLine(9);
+    Files::AtEnd(9);  // asking leaves the line alone, also where the next block is needed for the answer
+    lines.emplace_back(line);
   }
   Files::Close(9);
   return lines;
@@ -90,35 +90,31 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(FilesContract, ReadingPastTheEndFailsAndLeavesTheFileOpen) {
   TestFiles::Put("A.TXT", "only");
-  std::string line;
   Files::Open(1, "A.TXT", Mode::Input);
   EXPECT_FALSE(Files::AtEnd(1));
-  Files::ReadLine(1, line);
+  Files::ReadLine(1);
   EXPECT_TRUE(Files::AtEnd(1));
-  EXPECT_EQ(ErrorOf([&] { Files::ReadLine(1, line); }), kInputPastEnd);
+  EXPECT_EQ(ErrorOf([&] { Files::ReadLine(1); }), kInputPastEnd);
   EXPECT_TRUE(Files::IsOpen(1));
 }
 
 TEST_F(FilesContract, AtEndIsTrueBehindALineEndThatIsSplitOverABlockEdge) {
   TestFiles::Put("A.TXT", Xs(kBlock - 1) + "\r\n");
-  std::string line;
   Files::Open(1, "A.TXT", Mode::Input);
-  Files::ReadLine(1, line);
+  Files::ReadLine(1);
   EXPECT_TRUE(Files::AtEnd(1));
 }
 
 TEST_F(FilesContract, FilesAreReadAtTheSameTimeEachFromItsOwnPlace) {
   TestFiles::Put("A.TXT", "a1\na2\n");
   TestFiles::Put("B.TXT", "b1\nb2\n");
-  std::string first, second, other;
   Files::Open(1, "A.TXT", Mode::Input);
   Files::Open(255, "A.TXT", Mode::Input);
   Files::Open(3, "B.TXT", Mode::Input);
-  Files::ReadLine(1, first);
-  Files::ReadLine(1, first);
-  Files::ReadLine(255, second);
-  Files::ReadLine(3, other);
-  EXPECT_EQ(first + second + other, "a2a1b1");
+  EXPECT_EQ(Files::ReadLine(1), "a1");
+  EXPECT_EQ(Files::ReadLine(1), "a2");
+  EXPECT_EQ(Files::ReadLine(255), "a1");
+  EXPECT_EQ(Files::ReadLine(3), "b1");
 }
 
 TEST_F(FilesContract, WritesBytesAsTheyStandAndReplacesWhatWasThere) {
@@ -180,9 +176,8 @@ TEST_F(FilesContract, HandleNumbersAreTheCallersUntilClosed) {
 
 TEST_F(FilesContract, HandleNumbersThatAreNotOpenOrOutOfRangeAreRefused) {
   TestFiles::Put("A.TXT", "a");
-  std::string line;
   for (const int handle : {-1, 0, 7, 256}) {
-    EXPECT_EQ(ErrorOf([&] { Files::ReadLine(handle, line); }), kBadFileNumber) << handle;
+    EXPECT_EQ(ErrorOf([&] { Files::ReadLine(handle); }), kBadFileNumber) << handle;
     EXPECT_EQ(ErrorOf([&] { Files::AtEnd(handle); }), kBadFileNumber) << handle;
     EXPECT_EQ(ErrorOf([&] { Files::Write(handle, "x"); }), kBadFileNumber) << handle;
     EXPECT_EQ(ErrorOf([&] { Files::WriteLine(handle, "x"); }), kBadFileNumber) << handle;
@@ -201,15 +196,14 @@ TEST_F(FilesContract, HandleNumbersThatAreNotOpenOrOutOfRangeAreRefused) {
 TEST_F(FilesContract, EachModeAllowsItsOwnCallsOnly) {
   TestFiles::Put("IN.TXT", "a");
   TestFiles::Put("LOCK.TXT", "a");
-  std::string line;
   Files::Open(1, "IN.TXT", Mode::Input);
   Files::Open(2, "OUT.TXT", Mode::Output);
   Files::Open(3, "LOCK.TXT", Mode::Lock);
   EXPECT_EQ(ErrorOf([] { Files::Write(1, "x"); }), kBadFileNumber);
-  EXPECT_EQ(ErrorOf([&] { Files::ReadLine(2, line); }), kBadFileNumber);
+  EXPECT_EQ(ErrorOf([&] { Files::ReadLine(2); }), kBadFileNumber);
   EXPECT_EQ(ErrorOf([] { Files::AtEnd(2); }), kBadFileNumber);
   EXPECT_EQ(ErrorOf([] { Files::Write(3, "x"); }), kBadFileNumber);
-  EXPECT_EQ(ErrorOf([&] { Files::ReadLine(3, line); }), kBadFileNumber);
+  EXPECT_EQ(ErrorOf([&] { Files::ReadLine(3); }), kBadFileNumber);
   Files::CloseAll();
   EXPECT_EQ(TestFiles::Get("LOCK.TXT"), "a");
 }

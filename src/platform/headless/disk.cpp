@@ -183,12 +183,12 @@ void Truncate(Node& file, std::size_t size) {
   file.Flushed = std::min(file.Flushed, size);
 }
 
-std::optional<unsigned long> CountCall() {
+unsigned long CountCall() {
   ++call_count;
-  if (calls_to_fault == 0) return std::nullopt;
+  if (calls_to_fault == 0) return 0;
   if (calls_to_fault > 1) {
     --calls_to_fault;
-    return std::nullopt;
+    return 0;
   }
   if (!faults.Permanent) calls_to_fault = 0;
   return faults.Code;

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -52,7 +51,7 @@ void Move(const std::string& from, const std::string& to);
 std::size_t Append(Node& file, std::string_view bytes);
 void Truncate(Node& file, std::size_t size);
 
-// Counts a file call; gives the system code that it is to fail with, or nothing.
-std::optional<unsigned long> CountCall();
+// Counts a file call; gives the system code that it is to fail with, or 0.
+unsigned long CountCall();
 
 }  // namespace Disk

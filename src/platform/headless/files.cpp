@@ -42,7 +42,7 @@ Stream& Opened(int handle, Files::Mode mode) {
 }
 
 void CountCall() {
-  if (const auto code = Disk::CountCall()) Disk::Fail(*code);
+  if (const unsigned long code = Disk::CountCall(); code != 0) Disk::Fail(code);
 }
 
 Disk::Sharing RightsOf(Files::Mode mode) {
@@ -71,22 +71,22 @@ LineReader::Source ReadFrom(const Disk::NodePtr& file) {
 }
 
 void Append(Stream& file, std::string_view bytes) {
-  const auto fault = Disk::CountCall();
+  const unsigned long fault = Disk::CountCall();
   if (file.Refusal) Disk::Fail(*file.Refusal);
-  if (fault) bytes = bytes.substr(0, bytes.size() / 2);
+  if (fault != 0) bytes = bytes.substr(0, bytes.size() / 2);
   const std::size_t taken = Disk::Append(*file.Hold->File, bytes);
   file.Unsettled += taken;
-  if (fault) Refuse(file, *fault);
+  if (fault != 0) Refuse(file, fault);
   if (taken < bytes.size()) Refuse(file, kDiskIsFull);
 }
 
 void Settle(Stream& file) {
-  const auto fault = Disk::CountCall();
+  const unsigned long fault = Disk::CountCall();
   if (file.Refusal) Disk::Fail(*file.Refusal);
-  if (fault) {
+  if (fault != 0) {
     Disk::Node& node = *file.Hold->File;
     Disk::Truncate(node, node.Bytes.size() - file.Unsettled / 2);
-    Refuse(file, *fault);
+    Refuse(file, fault);
   }
   file.Unsettled = 0;
 }
@@ -126,10 +126,11 @@ bool AtEnd(int handle) {
   return file.Reader->AtEnd();
 }
 
-void ReadLine(int handle, std::string& line) {
-  Stream& file = Opened(handle, Mode::Input);
+std::string_view ReadLine(int handle) {
+  const Stream& file = Opened(handle, Mode::Input);
   CountCall();
-  if (!file.Reader->Read(line)) throw RuntimeError(kInputPastEnd);
+  if (const auto line = file.Reader->Read()) return *line;
+  throw RuntimeError(kInputPastEnd);
 }
 
 std::string ReadAll(const std::string& name) {

@@ -161,8 +161,9 @@ bool IsOpen(int handle) { return InRange(handle) && open_files[static_cast<std::
 
 bool AtEnd(int handle) { return Opened(handle, Mode::Input).Reader->AtEnd(); }
 
-void ReadLine(int handle, std::string& line) {
-  if (!Opened(handle, Mode::Input).Reader->Read(line)) throw RuntimeError(kInputPastEnd);
+std::string_view ReadLine(int handle) {
+  if (const auto line = Opened(handle, Mode::Input).Reader->Read()) return *line;
+  throw RuntimeError(kInputPastEnd);
 }
 
 std::string ReadAll(const std::string& name) {

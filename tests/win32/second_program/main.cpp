@@ -23,9 +23,8 @@ std::string Open(const std::string& name) {
 
 // What opening does to the file, without the message box that nobody would answer.
 std::string Race(const std::string& name) {
-  std::string line;
   Files::Open(kDataFileHandle, name, Files::Mode::Input);
-  Files::ReadLine(kDataFileHandle, line);
+  Files::ReadLine(kDataFileHandle);
   Files::Close(kDataFileHandle);
   try {
     Files::Open(kLockHandle, name, Files::Mode::Lock);
