@@ -136,10 +136,10 @@ void TimePicking(HWND window) {
   ReportAim("picking a thing", Report("picking a thing, painted", picks), 16);
 }
 
-// Whoever answers the boxes of a command: types the answer, presses OK, and notes when each box came and went.
+// Whoever answers the boxes of a command: types the answer, presses OK, and notes when each box came.
 struct BoxAnswerer {
   std::string Answer;
-  std::chrono::steady_clock::time_point Came, Went;
+  std::chrono::steady_clock::time_point Came;
 };
 BoxAnswerer answerer;
 
@@ -149,13 +149,12 @@ LRESULT CALLBACK AnswerBoxes(int code, WPARAM window, LPARAM details) {
     answerer.Came = std::chrono::steady_clock::now();
     if (GetDlgItem(box, IDC_AnswerBox) != nullptr) SetDlgItemTextA(box, IDC_AnswerBox, answerer.Answer.c_str());
     PostMessageA(box, WM_COMMAND, IDOK, 0);
-  } else if (code == HCBT_DESTROYWND && GetWindow(box, GW_OWNER) != nullptr) {
-    answerer.Went = std::chrono::steady_clock::now();
   }
   return CallNextHookEx(nullptr, code, window, details);
 }
 
-// Times each command without its boxes: adding from the answer on, deleting and renaming up to what they say.
+// Times each command without the user's share: adding from OK in its box on, deleting up to what it says, and renaming
+// likewise, with the making of its box.
 void TimeCommands(HWND window) {
   const HHOOK hook = SetWindowsHookExA(WH_CBT, AnswerBoxes, nullptr, GetCurrentThreadId());
   const auto milliseconds = [](auto from, auto to) {
@@ -171,7 +170,7 @@ void TimeCommands(HWND window) {
     };
     answerer.Answer = "Added thing " + std::to_string(run);
     command(IDC_AddPersonItem);
-    adding.push_back(milliseconds(answerer.Went, std::chrono::steady_clock::now()));
+    adding.push_back(milliseconds(answerer.Came, std::chrono::steady_clock::now()));
     answerer.Answer = "Renamed thing " + std::to_string(run);
     const auto renamed = command(IDC_RenameItem);
     renaming.push_back(milliseconds(renamed, answerer.Came));

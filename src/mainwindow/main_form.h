@@ -140,9 +140,8 @@ class MainForm : public Form {
 
   std::string command_line_;
   ThingListView view_;
-  std::vector<ListEntry> listed_;  // what the thing list holds
-  std::string typed_;              // what the user typed into the thing list, without what was offered
-  bool displaying_ = false;        // controls are being filled: their events are no edits
+  std::string typed_;        // what the user typed into the thing list, without what was offered
+  bool displaying_ = false;  // controls are being filled: their events are no edits
   bool shown_before_ = false;
   bool dialog_open_ = false;
 };

@@ -11,21 +11,21 @@
 #include "resource.h"
 
 void MainForm::FillThingList(int selected) {
-  listed_ = ListThings(view_);
-  PersonCombo.Fill(listed_);
+  PersonCombo.Fill(ListThings(view_));
   if (selected != 0) {
     RestoreShownName();
-  } else if (!listed_.empty()) {
-    TheDocument.CurrentThing = listed_.front().Data;
+  } else if (!PersonCombo.Entries().empty()) {
+    TheDocument.CurrentThing = PersonCombo.Entries().front().Data;
     PersonCombo.Select(0);
   }
   FillLinkLists();
 }
 
 void MainForm::FillLinkLists() {
-  const std::vector<ListEntry> links = ListLinks(view_.NounOrder);
+  if (AreLinks(FatherCombo.Entries(), view_.NounOrder)) return;
+  std::vector<ListEntry> links = ListLinks(view_.NounOrder);
   FatherCombo.Fill(links);
-  MotherCombo.Fill(links);
+  MotherCombo.Fill(std::move(links));
 }
 
 void MainForm::Redisplay() {
@@ -151,9 +151,9 @@ void MainForm::PersonCombo_Change() {
   if (displaying_) return;
   const std::string before = std::exchange(typed_, PersonCombo.Text());
   if (typed_.size() < before.size() || typed_ == before) return;
-  const int position = FindEntryBeginning(listed_, typed_);
+  const int position = FindEntryBeginning(PersonCombo.Entries(), typed_);
   if (position < 0) return;
-  const std::string& offered = listed_[static_cast<std::size_t>(position)].Text;
+  const std::string& offered = PersonCombo.Entries()[static_cast<std::size_t>(position)].Text;
   const FlagScope scope(displaying_);
   PersonCombo.SetText(offered);
   PersonCombo.SelectText(static_cast<int>(typed_.size()), static_cast<int>(offered.size()));
@@ -164,8 +164,9 @@ void MainForm::PersonCombo_GotFocus() { PersonCombo.SelectText(0, static_cast<in
 
 void MainForm::Enter_Press() {
   if (!PersonCombo.HasFocus() || typed_.empty()) return;
-  const int position = FindEntryBeginning(listed_, PersonCombo.Text());
-  if (position >= 0) PickThing(listed_[static_cast<std::size_t>(position)].Data);
+  const std::vector<ListEntry>& listed = PersonCombo.Entries();
+  const int position = FindEntryBeginning(listed, PersonCombo.Text());
+  if (position >= 0) PickThing(listed[static_cast<std::size_t>(position)].Data);
   RestoreShownName();
 }
 
@@ -178,10 +179,11 @@ void MainForm::RestoreShownName() {
   const FlagScope scope(displaying_);
   typed_.clear();
   const ThingRecord* thing = CurrentRecord();
-  const auto entry = std::find_if(listed_.begin(), listed_.end(),
-                                  [](const ListEntry& listed) { return listed.Data == TheDocument.CurrentThing; });
-  if (thing != nullptr && entry != listed_.end()) {
-    PersonCombo.Select(static_cast<int>(entry - listed_.begin()));
+  const std::vector<ListEntry>& listed = PersonCombo.Entries();
+  const auto entry = std::find_if(listed.begin(), listed.end(),
+                                  [](const ListEntry& each) { return each.Data == TheDocument.CurrentThing; });
+  if (thing != nullptr && entry != listed.end()) {
+    PersonCombo.Select(static_cast<int>(entry - listed.begin()));
   } else {
     PersonCombo.Select(-1);
   }

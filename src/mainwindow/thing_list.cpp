@@ -34,6 +34,17 @@ std::vector<ListEntry> ListLinks(bool noun_order) {
   return entries;
 }
 
+bool AreLinks(const std::vector<ListEntry>& entries, bool noun_order) {
+  const auto& things = TheDocument.Things;
+  if (entries.size() != static_cast<std::size_t>(things.Count()) + 1) return false;
+  for (int record = 1; record <= things.Count(); ++record) {
+    const std::string& text = entries[static_cast<std::size_t>(record)].Text;
+    const std::string& name = things[record].NAME;
+    if (noun_order ? text != TurnName(name) : text != name) return false;
+  }
+  return true;
+}
+
 int FindEntryBeginning(const std::vector<ListEntry>& entries, const std::string& beginning) {
   const std::string wanted = UpperCase(beginning);
   for (std::size_t position = 0; position < entries.size(); ++position) {

@@ -26,5 +26,8 @@ std::vector<ListEntry> ListThings(const ThingListView& view);
 // An empty entry with data 0 and then every thing, so that record i stands at position i.
 std::vector<ListEntry> ListLinks(bool noun_order);
 
+// True when the entries are what ListLinks gives: found out without making them anew, since they seldom change.
+bool AreLinks(const std::vector<ListEntry>& entries, bool noun_order);
+
 // The position of the first entry whose text begins with the given one without regard to case, or -1.
 int FindEntryBeginning(const std::vector<ListEntry>& entries, const std::string& beginning);

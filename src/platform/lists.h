@@ -19,11 +19,9 @@ class ListControl : public Control {
  public:
   // Replaces all entries at once, without repainting in between. The selection is lost, silently; a
   // combo's edit text is emptied, silently too.
-  void Fill(const std::vector<ListEntry>& entries);
+  void Fill(std::vector<ListEntry> entries);
   void Clear() { Fill({}); }
-  int Count() const;
-  std::string EntryText(int position) const;
-  int EntryData(int position) const;
+  const std::vector<ListEntry>& Entries() const;  // good until the next Fill
   int Selected() const;
   void Select(int position);             // -1 selects nothing; a combo's edit text follows
   int SelectedData(int none = 0) const;  // data of the selected entry, or `none`

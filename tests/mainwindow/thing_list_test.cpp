@@ -61,6 +61,16 @@ TEST_F(ThingListTest, PassesTheFilters) {
   EXPECT_EQ(Shown(ListLinks(false)), "/0 Big Red_Barn/1 /2 Garden Shed/3 \xE9table/4 Sun Room/5 shed/6 ");
   EXPECT_EQ(Shown(ListLinks(true)), "/0 Red Barn, Big/1 /2 Shed, Garden/3 \xE9table/4 Room, Sun/5 shed/6 ");
 
+  for (const bool noun_order : {false, true}) {
+    std::vector<ListEntry> links = ListLinks(noun_order);
+    EXPECT_TRUE(AreLinks(links, noun_order));
+    EXPECT_FALSE(AreLinks(links, !noun_order));
+    links.back().Text += '!';
+    EXPECT_FALSE(AreLinks(links, noun_order));
+    links.pop_back();
+    EXPECT_FALSE(AreLinks(links, noun_order));
+  }
+
   const std::vector<ListEntry> entries = ListThings({});
   EXPECT_EQ(FindEntryBeginning(entries, "S"), 3);
   EXPECT_EQ(FindEntryBeginning(entries, "SH"), 4);

@@ -1,6 +1,8 @@
 // Lists, drop-downs and check lists, in memory.
 #include "platform/lists.h"
 
+#include <utility>
+
 #include "platform/headless/internals.h"
 
 namespace {
@@ -9,27 +11,22 @@ bool Valid(const Control::Peer& peer, int position) {
   return position >= 0 && position < static_cast<int>(peer.Entries.size());
 }
 
-const ListEntry& EntryAt(const Control::Peer& peer, int position) {
-  static const ListEntry kNone;
-  return Valid(peer, position) ? peer.Entries[static_cast<std::size_t>(position)] : kNone;
-}
-
 }  // namespace
 
-void ListControl::Fill(const std::vector<ListEntry>& entries) {
+void ListControl::Fill(std::vector<ListEntry> entries) {
   Peer& peer = PeerOf();
-  peer.Entries = entries;
+  peer.Entries = std::move(entries);
   peer.Selected = -1;
   peer.Text.clear();
 }
 
-int ListControl::Count() const { return static_cast<int>(PeerOf().Entries.size()); }
-std::string ListControl::EntryText(int position) const { return EntryAt(PeerOf(), position).Text; }
-int ListControl::EntryData(int position) const { return EntryAt(PeerOf(), position).Data; }
+const std::vector<ListEntry>& ListControl::Entries() const { return PeerOf().Entries; }
 int ListControl::Selected() const { return PeerOf().Selected; }
 void ListControl::Select(int position) { PeerOf().ChangeSelection(position); }
 
-int ListControl::SelectedData(int none) const { return Selected() < 0 ? none : EntryData(Selected()); }
+int ListControl::SelectedData(int none) const {
+  return Selected() < 0 ? none : Entries()[static_cast<std::size_t>(Selected())].Data;
+}
 
 void ComboBox::SelectText(int first, int last) {
   PeerOf().MarkFirst = first;
@@ -46,7 +43,10 @@ void CheckList::Fill(const std::vector<std::string>& entries) {
 }
 
 int CheckList::Count() const { return static_cast<int>(PeerOf().Entries.size()); }
-std::string CheckList::EntryText(int position) const { return EntryAt(PeerOf(), position).Text; }
+
+std::string CheckList::EntryText(int position) const {
+  return Valid(PeerOf(), position) ? PeerOf().Entries[static_cast<std::size_t>(position)].Text : std::string();
+}
 
 bool CheckList::Checked(int position) const {
   return Valid(PeerOf(), position) && PeerOf().Ticks[static_cast<std::size_t>(position)];

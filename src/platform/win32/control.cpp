@@ -1,6 +1,7 @@
 // What all controls share on Windows: binding to the template's window, text, state, focus.
 #include "platform/control.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/win32/internals.h"
@@ -12,6 +13,30 @@ namespace {
 constexpr int kNoLimit = 0;
 constexpr int kVisibleEntries = 16;
 constexpr WPARAM kControlA = 1;
+
+// As long as there is nothing to scroll, the scroll bar looks the same whatever the text.
+bool Scrolls(HWND box) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_RANGE | SIF_PAGE;
+  GetScrollInfo(box, SB_VERT, &info);
+  return info.nMax - info.nMin >= static_cast<int>(info.nPage);
+}
+
+// By itself, the box draws its old lines, its new ones and its scroll bar at each step of taking the text, which takes
+// most of the time of showing another thing. Only for a visible box: drawing is the same to the system as being shown.
+void SetTextDrawnOnce(HWND box, const char* text) {
+  const bool draw_frame = GetUpdateRect(box, nullptr, FALSE) != FALSE || Scrolls(box);
+  DefWindowProcA(box, WM_SETREDRAW, FALSE, 0);
+  SetWindowTextA(box, text);
+  DefWindowProcA(box, WM_SETREDRAW, TRUE, 0);
+  if (draw_frame || Scrolls(box)) {
+    RedrawWindow(box, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+  } else {
+    RedrawWindow(box, nullptr, nullptr, RDW_VALIDATE | RDW_NOFRAME);
+    RedrawWindow(box, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
+  }
+}
 
 }  // namespace
 
@@ -71,7 +96,7 @@ Form& Control::Owner() const { return *peer_->Owner; }
 
 std::string Control::Text() const {
   if (peer_->What == Kind::DropDownList) {
-    return peer_->Selected < 0 ? "" : static_cast<const DropDownList*>(this)->EntryText(peer_->Selected);
+    return peer_->Selected < 0 ? "" : peer_->Entries[static_cast<std::size_t>(peer_->Selected)].Text;
   }
   return TextOfWindow(peer_->Window);
 }
@@ -79,12 +104,10 @@ std::string Control::Text() const {
 void Control::SetText(std::string_view text) {
   Peer& peer = *peer_;
   if (peer.What == Kind::DropDownList) {
-    DropDownList& list = static_cast<DropDownList&>(*this);
-    int position = list.Count() - 1;
-    for (int each = position; each >= 0; --each) {
-      if (list.EntryText(each) == text) position = each;
-    }
-    list.Select(position >= 0 && list.EntryText(position) == text ? position : -1);
+    const auto entry = std::find_if(peer.Entries.begin(), peer.Entries.end(),
+                                    [text](const ListEntry& each) { return each.Text == text; });
+    const bool has_it = entry != peer.Entries.end();
+    static_cast<DropDownList*>(this)->Select(has_it ? static_cast<int>(entry - peer.Entries.begin()) : -1);
     return;
   }
   if (Text() == text) return;
@@ -92,7 +115,11 @@ void Control::SetText(std::string_view text) {
     const Silence silence(peer);
     // What the program shows is data: an ampersand in it is no access key.
     if (peer.What == Kind::Label) peer.ChangeStyle(SS_NOPREFIX, 0);
-    SetWindowTextA(peer.Window, std::string(text).c_str());
+    if (peer.MultiLine() && Visible()) {
+      SetTextDrawnOnce(peer.Window, std::string(text).c_str());
+    } else {
+      SetWindowTextA(peer.Window, std::string(text).c_str());
+    }
     peer.Told = Text();
   }
   if (peer.What == Kind::TextBox) Raise(static_cast<TextBox*>(this)->Change);

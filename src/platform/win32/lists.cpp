@@ -2,6 +2,7 @@
 #include "platform/lists.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/win32/internals.h"
 #include "platform/win32/silence.h"
@@ -18,17 +19,19 @@ constexpr Verbs kDropVerbs{CB_RESETCONTENT, CB_INITSTORAGE, CB_DELETESTRING, CB_
 
 const Verbs& VerbsOf(const Control::Peer& peer) { return peer.DropsDown() ? kDropVerbs : kListVerbs; }
 
-bool Valid(const ListControl& list, int position) { return position >= 0 && position < list.Count(); }
+bool Valid(const ListControl& list, int position) {
+  return position >= 0 && static_cast<std::size_t>(position) < list.Entries().size();
+}
 
 // Makes the list of a drop-down as wide as its names need, judged by the first few: measuring all
 // would take longer than filling the list.
-void WidenDropList(const Control::Peer& peer, const std::vector<ListEntry>& entries) {
+void WidenDropList(const Control::Peer& peer) {
   constexpr std::size_t kMeasured = 300;
   HDC screen = GetDC(peer.Window);
   HGDIOBJ font = SelectObject(screen, reinterpret_cast<HFONT>(peer.Send(WM_GETFONT)));
   LONG widest = 0;
-  for (std::size_t index = 0; index < std::min(entries.size(), kMeasured); ++index) {
-    const std::string& text = entries[index].Text;
+  for (std::size_t index = 0; index < std::min(peer.Entries.size(), kMeasured); ++index) {
+    const std::string& text = peer.Entries[index].Text;
     SIZE size{};
     GetTextExtentPoint32A(screen, text.c_str(), static_cast<int>(text.size()), &size);
     widest = std::max(widest, size.cx);
@@ -46,25 +49,18 @@ using Entries = std::vector<ListEntry>;
 
 bool SameText(const ListEntry& one, const ListEntry& other) { return one.Text == other.Text; }
 
-// The native list and the copy of it, changed together. Only the copy knows the data of the entries: telling the
-// native list the new numbers of all that stand behind an entry which came or went would take longer than the rest.
+// Changes the native list, which holds the texts of the entries only: telling it the new numbers of all that stand
+// behind an entry which came or went would take longer than the rest.
 class Editor {
  public:
   explicit Editor(Control::Peer& peer)
-      : peer_(peer),
-        list_(peer.DropsDown() ? peer.DropList() : peer.Window),
-        verbs_(VerbsOf(peer)),
-        held_(peer.Entries) {}
+      : peer_(peer), list_(peer.DropsDown() ? peer.DropList() : peer.Window), verbs_(VerbsOf(peer)) {}
 
-  void Delete(std::size_t position) {
-    peer_.Send(verbs_.Delete, position);
-    held_.erase(held_.begin() + static_cast<std::ptrdiff_t>(position));
-  }
+  void Delete(std::size_t position) { peer_.Send(verbs_.Delete, position); }
 
   void Insert(std::size_t position, const ListEntry& entry) {
     // Without the way through the drop-down, which doubles the time.
     SendMessageA(list_, LB_INSERTSTRING, position, reinterpret_cast<LPARAM>(entry.Text.c_str()));
-    held_.insert(held_.begin() + static_cast<std::ptrdiff_t>(position), entry);
   }
 
   void Replace(const Entries& entries) {
@@ -72,21 +68,18 @@ class Editor {
     for (const ListEntry& entry : entries) bytes += 2 * (entry.Text.size() + 1);
     peer_.Send(verbs_.Reset);
     peer_.Send(verbs_.Reserve, entries.size(), static_cast<LPARAM>(bytes));
-    held_.clear();
-    held_.reserve(entries.size());
-    for (const ListEntry& entry : entries) Insert(held_.size(), entry);
+    for (std::size_t position = 0; position < entries.size(); ++position) Insert(position, entries[position]);
   }
 
  private:
   Control::Peer& peer_;
   HWND list_;
   const Verbs& verbs_;
-  Entries& held_;
 };
 
 // Makes the list hold these entries. Filling a native list takes long, and most often one entry came, went or
 // moved: only the stretch between the first and the last difference is touched, when it is short.
-void HoldEntries(Control::Peer& peer, const Entries& entries) {
+void HoldEntries(Control::Peer& peer, Entries entries) {
   constexpr std::size_t kShort = 100;
   Editor editor(peer);
   const Entries& held = peer.Entries;
@@ -110,20 +103,20 @@ void HoldEntries(Control::Peer& peer, const Entries& entries) {
   } else {
     editor.Replace(entries);
   }
-  for (std::size_t index = 0; index < entries.size(); ++index) peer.Entries[index].Data = entries[index].Data;
+  peer.Entries = std::move(entries);
 }
 
 }  // namespace
 
-void ListControl::Fill(const std::vector<ListEntry>& entries) {
+void ListControl::Fill(std::vector<ListEntry> entries) {
   Peer& peer = PeerOf();
   const Silence silence(peer);
   const bool visible = Visible();
   if (visible) peer.Send(WM_SETREDRAW, FALSE);
-  HoldEntries(peer, entries);
+  HoldEntries(peer, std::move(entries));
   peer.Send(VerbsOf(peer).Select, static_cast<WPARAM>(-1));
   peer.Selected = -1;
-  if (peer.DropsDown()) WidenDropList(peer, entries);
+  if (peer.DropsDown()) WidenDropList(peer);
   if (peer.What == Peer::Kind::ComboBox) {
     SetWindowTextA(peer.Window, "");
     peer.Told.clear();
@@ -133,15 +126,7 @@ void ListControl::Fill(const std::vector<ListEntry>& entries) {
   RedrawWindow(peer.Window, nullptr, nullptr, RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
-int ListControl::Count() const { return static_cast<int>(PeerOf().Entries.size()); }
-
-std::string ListControl::EntryText(int position) const {
-  return Valid(*this, position) ? PeerOf().Entries[static_cast<std::size_t>(position)].Text : std::string();
-}
-
-int ListControl::EntryData(int position) const {
-  return Valid(*this, position) ? PeerOf().Entries[static_cast<std::size_t>(position)].Data : 0;
-}
+const std::vector<ListEntry>& ListControl::Entries() const { return PeerOf().Entries; }
 
 int ListControl::Selected() const { return PeerOf().Selected; }
 
@@ -158,7 +143,9 @@ void ListControl::Select(int position) {
   Raise(Click);
 }
 
-int ListControl::SelectedData(int none) const { return Selected() < 0 ? none : EntryData(Selected()); }
+int ListControl::SelectedData(int none) const {
+  return Selected() < 0 ? none : Entries()[static_cast<std::size_t>(Selected())].Data;
+}
 
 void ComboBox::SelectText(int first, int last) {
   SendMessageA(PeerOf().EditField(), EM_SETSEL, static_cast<WPARAM>(first), last);

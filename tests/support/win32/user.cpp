@@ -88,7 +88,7 @@ int CountOf(const Control::Peer& peer) {
 
 std::string EntryOf(const Control::Peer& peer, int position) {
   if (IsTickList(peer)) return static_cast<const CheckList*>(peer.Self)->EntryText(position);
-  return static_cast<const ListControl*>(peer.Self)->EntryText(position);
+  return peer.Entries.at(static_cast<std::size_t>(position)).Text;
 }
 
 int Position(const Control::Peer& peer, std::string_view entry) {
