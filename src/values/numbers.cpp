@@ -79,12 +79,18 @@ double LeadingNumber(std::string_view text) {
 
 namespace {
 
+// The form that the writer gives, quickly read: nothing but digits and their sign.
+template <class Whole>
+bool ReadPlain(std::string_view text, Whole& number) {
+  const char* const end = text.data() + text.size();
+  const auto result = std::from_chars(text.data(), end, number);
+  return result.ec == std::errc() && result.ptr == end;
+}
+
 template <class Whole>
 Whole LeadingWhole(std::string_view text) {
-  // The form that the writer gives: nothing but digits and their sign.
   Whole plain = 0;
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), plain);
-  if (result.ec == std::errc() && result.ptr == text.data() + text.size()) return plain;
+  if (ReadPlain(text, plain)) return plain;
   try {
     const double rounded = std::nearbyint(LeadingNumber(text));
     if (rounded < std::numeric_limits<Whole>::min() || rounded > std::numeric_limits<Whole>::max()) return 0;
@@ -100,6 +106,7 @@ std::int16_t LeadingInt16(std::string_view text) { return LeadingWhole<std::int1
 std::int32_t LeadingInt32(std::string_view text) { return LeadingWhole<std::int32_t>(text); }
 
 int LeadingRecordNumber(std::string_view text) {
+  if (int plain = 0; ReadPlain(text, plain)) return std::clamp(plain, 0, kPastLastRecord);
   try {
     const double rounded = std::nearbyint(LeadingNumber(text));
     if (rounded < 1) return 0;

@@ -47,6 +47,9 @@ TEST(NumbersTest, ReadsWholeNumbersWithinTheirType) {
   EXPECT_EQ(LeadingRecordNumber("-1e999"), 0);
   EXPECT_EQ(LeadingRecordNumber("32767.4"), kLastRecord);
   EXPECT_EQ(LeadingRecordNumber("1e999"), kPastLastRecord);
+  EXPECT_EQ(LeadingRecordNumber("32767"), kLastRecord);
+  EXPECT_EQ(LeadingRecordNumber("40000"), kPastLastRecord);
+  EXPECT_EQ(LeadingRecordNumber("-2"), 0);
 }
 
 TEST(NumbersTest, QuotesNumbersWithTheirSign) {
