@@ -20,7 +20,6 @@ void MainForm::MakeNew() {
   ::MakeNew();
   view_.SelectedCategory = 0;
   view_.CategoryMask = 0;
-  typed_.clear();
   ShowCategoryFilter();
   ClearStartingLetter();
   FillCategoryList();

@@ -11,6 +11,7 @@
 #include "resource.h"
 
 void MainForm::FillThingList(int selected) {
+  typed_.clear();
   PersonCombo.Fill(ListThings(view_));
   if (selected != 0) {
     RestoreShownName();

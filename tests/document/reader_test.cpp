@@ -2,7 +2,6 @@
 #include "document/reader.h"
 
 #include "document/document.h"
-#include "document/names.h"
 #include "platform/program.h"
 #include "support/fresh_test.h"
 
@@ -101,6 +100,10 @@ TEST_F(ReaderTest, ReadsEveryKindOfRecord) {
        {"[things]", "* ;name=Shed;  Note= big", "[End]"},
        "thing 1 name<Shed> note< big>\n",
        {}},
+      {"a key in small letters names a field in capitals",
+       {"[FIELDS]", "NAME=CAF\xC9", "[THINGS]", "NaME=A", "%caf\xE9=1", "*2;%CAF\xE9=2", "[END]"},
+       "field 1 keyword<CAF\xC9>\nthing 1 name<A> slot1<CAF\xC9:1>\nthing 2 slot1<CAF\xC9:2>\n",
+       {}},
       {"sections in any order, and twice: the later one starts again at record 1",
        {"[THINGS]", "*1;NAME=A;NOTE=old", "*2;NAME=B", "[FIELDS]", "NAME=X", "[THINGS]", "NAME=C", "[END]"},
        "field 1 keyword<X>\nthing 1 name<C>\n",
@@ -167,6 +170,10 @@ TEST_F(ReaderTest, TakesAnyLineEndAndTheLastLineAsItStands) {
   EXPECT_EQ(DescribeDocument(), "thing 1 name<A>\n");
   ExpectEnd({kMagic, "[THINGS]", "[END] "}, "File contains invalid record type: [END] ");
 
+  user.Reads("Data file contains invalid assignment:  [END]", Icon::Information);
+  user.Reads(kIncomplete, Icon::Exclamation);
+  EXPECT_FALSE(Load(kMagic + "\r\n[THINGS]\r\nNAME=A\r\n [END];"));
+
   user.Reads(kIncomplete, Icon::Exclamation);
   EXPECT_FALSE(Load(kMagic + "\r\n[THINGS]\r\nNAME=A\r\nNOTE=b +"));
   EXPECT_EQ(DescribeDocument(), "thing 1 name<A> note<b +>\n");
@@ -202,6 +209,10 @@ TEST_F(ReaderTest, NumbersRecordsByTheirMarkers) {
        {"[FIELDS]", "NAME=P", "[THINGS]", "*2;%P=1;%P=2", "*1;%P=3", "*2", "*1;%p=4", "*2;%P=5", "[END]"},
        "field 1 keyword<P>\nthing 1 slot3<P:3> slot4<P:4>\nthing 2 slot1<P:5>\n",
        {}},
+      {"a value counted anew takes the place of the older one",
+       {"[FIELDS]", "NAME=P", "[THINGS]", "%P=1;%P=2", "*2;%P=9", "*1;%P=3", "[END]"},
+       "field 1 keyword<P>\nthing 1 slot1<P:1> slot2<P:3>\n",
+       {}},
       {"a repeated category section clears its gaps",
        {"[CATEGORIES]", "NAME=A", "*;NAME=B", "*;NAME=C", "[CATEGORIES]", "*3;NAME=Z", "[END]"},
        "category 1\ncategory 2\ncategory 3 name<Z>\n",
@@ -219,6 +230,20 @@ TEST_F(ReaderTest, LeavesNothingOfAnOlderDocumentInGaps) {
                           "*1;NAME=F;TITLE=f", "*2;NAME=G;TITLE=g", "[END]"})));
   ASSERT_TRUE(Load(Lines({kMagic, "[FIELDS]", "*3;NAME=C", "[FORMULAS]", "*3;NAME=H", "[END]"})));
   EXPECT_EQ(DescribeDocument(), "field 1\nfield 2\nfield 3 keyword<C>\nformula 1\nformula 2\nformula 3 name<H>\n");
+  // The last record there is room for is one of them, and one that the same section made.
+  for (const char* marker : {"*200;NOTE=new", "*201;NOTE=new"}) {
+    MakeNew();
+    TheDocument = {};
+    ASSERT_TRUE(Load(Lines({kMagic, "[THINGS]", "*200;NAME=old", "[END]"})));
+    ASSERT_TRUE(Load(Lines({kMagic, "[THINGS]", marker, "[END]"})));
+    EXPECT_EQ(TheDocument.Things[200].NAME, "") << marker;
+  }
+  MakeNew();
+  TheDocument = {};
+  ASSERT_TRUE(Load(Lines({kMagic, "[THINGS]", "*300;NAME=A", "*1;NAME=B", "*300;NOTE=c", "[END]"})));
+  EXPECT_EQ(TheDocument.Things[300].NAME, "");
+  EXPECT_EQ(TheDocument.Things[300].NOTE, "c");
+
   // Nor does a field of the older one make a value known.
   TheDocument.CurrentThing = 1;
   TheDocument.Modified = TheDocument.PendingEdits = true;
@@ -319,12 +344,14 @@ TEST_F(ReaderTest, EndsTheProgramOnWhatItCannotUnderstand) {
 TEST_F(ReaderTest, ChecksTheHeader) {
   const std::string refusal = "Failed to load Filer data file due to invalid format or version.";
   for (const char* header : {"larkspur v5.0 filer data", "  LARKSPUR V4.1 FILER DATA  ", "LARKSPUR V0.5 FILER DATA",
-                             "FILER DATA of LARKSPUR V5.0", "LARKSPUR FILER DATA V5.0"}) {
+                             "FILER DATA of LARKSPUR V5.0", "LARKSPUR FILER DATA V5.0", "LARKSPUR V5.0 FILER DATA V9.0",
+                             "LARKSPUR V-1.0 FILER DATA"}) {
     EXPECT_TRUE(Load(Lines({header, "[END]"}))) << header;
   }
-  for (const char* header : {"LARKSPUR V6.0 FILER DATA", "LARKSPUR V5.1 FILER DATA", "LARKSPUR V0.0 FILER DATA",
-                             "LARKSPUR FILER DATA V5", "LARKSPUR FILER DATA V5 ", "LARKSPUR V5.0 DATA",
-                             "V5.0 FILER DATA", "LARKSPURV5.0 FILER DATA", "LARKSPUR V1e999 FILER DATA", ""}) {
+  for (const char* header :
+       {"LARKSPUR V6.0 FILER DATA", "LARKSPUR V5.1 FILER DATA", "LARKSPUR V0.0 FILER DATA", "LARKSPUR FILER DATA V5",
+        "LARKSPUR FILER DATA V5 ", "LARKSPUR V5.0 DATA", "V5.0 FILER DATA", "LARKSPUR V9.0 FILER DATA V5.0",
+        "LARKSPURV5.0 FILER DATA", "LARKSPUR V1e999 FILER DATA", ""}) {
     user.Reads(refusal, Icon::Exclamation);
     EXPECT_FALSE(Load(Lines({header, "[END]"}))) << header;
   }
@@ -362,32 +389,6 @@ TEST_F(ReaderTest, LocksTheFileAfterACompleteLoad) {
   user.Reads(kIncomplete, Icon::Exclamation);
   EXPECT_FALSE(Load(Lines({kMagic, "[THINGS]"})));
   EXPECT_FALSE(TheDocument.LockHeld);
-}
-
-TEST(NamesTest, TakeTheirForms) {
-  struct NameRow {
-    const char* Typed;
-    const char* Stored;
-    const char* Turned;
-  };
-  const NameRow rows[] = {{"Barn, Red", "Red Barn", "Barn, Red"},
-                          {"Red Barn, Big", "Big Red_Barn", "Red Barn, Big"},
-                          {"  Garden Shed ", "Garden Shed", "Shed, Garden"},
-                          {"Red_Barn", "Red_Barn", "Red_Barn"},
-                          {"Big Old Red_Barn", "Big Old Red_Barn", "Red Barn, Big Old"},
-                          {"Shed", "Shed", "Shed"},
-                          {"", "", ""},
-                          {",", "", ""},
-                          {" A  B ,", "A__B", "A__B"},
-                          {", Red", "Red", "Red"},
-                          {"A, B, C", "B, C A", "B, C A"},
-                          {"Old_Big Red_Barn_Door", "Old_Big Red_Barn_Door", "Red Barn Door, Old_Big"}};
-  for (const NameRow& row : rows) {
-    EXPECT_EQ(NormaliseName(row.Typed), row.Stored) << row.Typed;
-    EXPECT_EQ(TurnName(NormaliseName(row.Typed)), row.Turned) << row.Typed;
-  }
-  EXPECT_EQ(TurnName(" Barn ,  Red "), "Barn, Red");
-  EXPECT_EQ(JoinUnderscoredWords(" Big_Red_Barn "), "Big Red Barn");
 }
 
 }  // namespace

@@ -30,6 +30,7 @@ TEST_F(CommandLineTest, TakesFileAndKeywords) {
       {R"(/PERSON=a=b)", "", "a=b", "", ""},
       {R"(/PERSON="")", "", "", "", ""},
       {R"(/DIR=")", "", "", "\"", ""},
+      {R"(/DIR="")", "", "", "", ""},
       {R"(/PERSON=A/PERSON=B)", "", "B", "", ""},
   };
   for (const Row& row : rows) {
@@ -101,12 +102,13 @@ TEST_F(SettingsTest, ReadsTheList) {
             "0:");
   EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI", ";note", "[TOP10FILES]", "*1; NAME=A"})), "1: <A>");
   EXPECT_EQ(Loaded(Lines({"TORVANE INI V05", "[TOP10FILES]", "NAME=A"})), "1: <A>");
+  EXPECT_EQ(Loaded("TORVANE V5.0 INI V9.0\r\n;[TOP10FILES];NAME=A"), "1: <A>");
 }
 
 TEST_F(SettingsTest, SaysWhatIsWrongWithTheFile) {
   for (const char* header :
        {"TORVANE V6.0 INI", "TORVANE V5.5 INI", "TORVANE V0.9 INI", "TORVANE V.95 INI", "TORVANE I V5.0",
-        "TORVANE INI V5", "TORVANE 5.0 INI", "TORVANE V5.0", "LARKSPUR V5.0 INI", ""}) {
+        "TORVANE INI V5", "TORVANE INI V5 ", "TORVANE 5.0 INI", "TORVANE V5.0", "LARKSPUR V5.0 INI", ""}) {
     user.Reads("Failed to load TORVANE.INI due to invalid format or version.", Icon::Exclamation);
     EXPECT_EQ(Loaded(Lines({header, "[TOP10FILES]", "*1; NAME=A"})), "0:") << header;
   }

@@ -70,6 +70,7 @@ TEST_F(EditTest, EachCommandAloneChangesTheDocument) {
     Start("Home.FIL");
     act();
     EXPECT_EQ(user.SeesCaption(), "Larkspur Filer - Home.FIL *");
+    EXPECT_EQ(user.SeesEntries(IDC_FatherCombo)[1], TheDocument.Things[1].NAME);
     form.reset();
     MakeNew();
   }
@@ -111,10 +112,31 @@ TEST_F(EditTest, DeletesThings) {
   EXPECT_EQ(Shown(), "||||");
   EXPECT_EQ(TheDocument.CurrentThing, 0);
   EXPECT_TRUE(user.SeesVisible(IDC_HintLabel));
+  user.Types(IDC_PersonCombo, "x");
   user.Reads("No record is displayed to delete.", Icon::Information);
-  user.Clicks(IDC_DeleteButton);
+  user.ChoosesMenu(IDC_DeletePersonItem);
   user.Reads("No thing is displayed to rename.", Icon::Exclamation);
   user.ChoosesMenu(IDC_RenameItem);
+}
+
+TEST_F(EditTest, DeletesWhatIsShownWhateverWasTypedBefore) {
+  const auto deletes = [this](const std::string& thing) {
+    EXPECT_EQ(user.Sees(IDC_PersonCombo), thing);
+    user.Reads("Record deleted.", Icon::Information);
+    user.ChoosesMenu(IDC_DeletePersonItem);
+  };
+  PutHome();
+  Start("Home.FIL");
+  user.Types(IDC_PersonCombo, "s");
+  user.Picks(IDC_PersonCombo, "Garden Shed");
+  deletes("Garden Shed");
+  user.Types(IDC_PersonCombo, "s");
+  user.MovesTo(IDC_NoteBox);
+  deletes("rake");
+  user.Types(IDC_PersonCombo, "z");
+  TheDocument.CurrentThing = 0;
+  user.ChoosesMenu(IDC_SurnameOrderItem);
+  deletes("Red Barn, Big");
 }
 
 TEST_F(EditTest, RenamesThings) {

@@ -76,6 +76,8 @@ TEST_F(ListTest, AsksForALetter) {
   EXPECT_EQ(Listed(), Names{"Zoo"});
   user.ChoosesMenu(IDC_AllNamesItem);
   EXPECT_EQ(Listed().size(), 5u);
+  AnswersLetter("a");
+  EXPECT_TRUE(user.SeesBold(IDC_LetterLabel));
 }
 
 TEST_F(ListTest, NarrowsTheListToACategory) {
@@ -148,6 +150,21 @@ TEST_F(ListTest, StoresWhatWasTypedBeforeAnythingElse) {
   EXPECT_EQ(TheDocument.Things[2].NOTE, "later");
   EXPECT_EQ(TheDocument.Things[5].NOTE, "");
   EXPECT_EQ(Shown(), "Zoo||||");
+
+  // Before a dialog, whatever becomes of it.
+  const auto type_before = [this](const std::string& note, int item) {
+    user.Types(IDC_NoteBox, note);
+    user.ChoosesMenu(item);
+    EXPECT_EQ(TheDocument.Things[5].NOTE, note);
+  };
+  user.UsesForm(IDD_CatPickForm, [this] { user.Clicks(IDC_CancelButton); });
+  type_before("g", IDC_SelCategoryItem);
+  user.AnswersInput("Please type the name for the new object.", "");
+  type_before("h", IDC_AddPersonItem);
+  user.AnswersInput("Please type the new name for Zoo", "");
+  type_before("i", IDC_RenameItem);
+  user.UsesForm(IDD_FileForm, [this] { user.Clicks(IDC_CancelButton); });
+  type_before("j", IDC_PhotoItem);
 }
 
 TEST_F(ListTest, StoresLinks) {
@@ -158,6 +175,14 @@ TEST_F(ListTest, StoresLinks) {
   user.Picks(IDC_PersonCombo, "Zoo");
   EXPECT_EQ(TheDocument.Things[2].XREF1, 0);
   EXPECT_EQ(TheDocument.Things[2].XREF2, 4);
+
+  // Each link counts alone.
+  user.Picks(IDC_FatherCombo, "rake");
+  user.Picks(IDC_PersonCombo, "Garden Shed");
+  EXPECT_EQ(TheDocument.Things[5].XREF1, 3);
+  user.Picks(IDC_MotherCombo, "");
+  user.Picks(IDC_PersonCombo, "Zoo");
+  EXPECT_EQ(TheDocument.Things[2].XREF2, 0);
 
   // A link that no thing answers to is kept as long as the user chooses no other.
   TheDocument.Things[4].XREF2 = 999;
@@ -186,6 +211,12 @@ TEST_F(ListTest, CorrectsLineBreaksOnce) {
   user.UsesForm(IDD_CatDefForm, [&] { user.Clicks(IDC_CancelButton); });
   user.Clicks(IDC_DefCatButton);
   EXPECT_EQ(TheDocument.Things[5].NOTE, "three?four");
+
+  user.Types(IDC_NoteBox, "five\r\nsix");
+  user.Reads(message, Icon::Exclamation);
+  user.ChoosesMenu(IDC_SurnameOrderItem);
+  EXPECT_EQ(TheDocument.Things[5].NOTE, "five?six");
+  EXPECT_FALSE(TheDocument.PendingEdits);
 
   std::string text = "a\rb\nc\r\nd";
   user.Reads(message, Icon::Exclamation);
@@ -248,6 +279,12 @@ TEST_F(ListTest, ShowsPhotosAndWhereThereIsMore) {
   EXPECT_FALSE(user.SeesMarked(IDC_DataButton));
   user.Picks(IDC_PersonCombo, "Zoo");
   EXPECT_FALSE(user.SeesPicture(IDC_PhotoPic));
+  user.UsesForm(IDD_FactForm, [this] {
+    user.Types(IDC_DataBox, "3");
+    user.Clicks(IDC_OKButton);
+  });
+  user.Clicks(IDC_DataButton);
+  EXPECT_TRUE(user.SeesMarked(IDC_DataButton));
 }
 
 TEST_F(ListTest, LeavesALinkThatTheListsCannotShow) {

@@ -237,6 +237,7 @@ TEST_F(OpenTest, BeginsAnew) {
   user.Answers(kAbandon, Answer::Ok, Icon::Information, Buttons::OkCancel);
   user.Clicks(IDC_NewButton);
   EXPECT_EQ(BoldTabs(), "All");
+  EXPECT_EQ(user.Sees(IDC_CategoryFilterLabel), "All Categories");
   EXPECT_EQ(user.SeesCaption(), "Larkspur Filer");
   EXPECT_EQ(Shown(), "||||");
   EXPECT_EQ(user.SeesEntries(IDC_FatherCombo), Names{""});
@@ -279,6 +280,7 @@ TEST_F(OpenTest, KeepsAChangedNewDocumentInARescueCopy) {
   declines();
   user.Clicks(IDC_OpenButton);
   EXPECT_EQ(TestFiles::Get("Rescue2.FIL"), std::nullopt);  // nothing is given up yet
+  user.Types(IDC_NoteBox, "typed last");
   user.UsesForm(IDD_FileForm, [this] {
     user.Types(IDC_NameBox, "Home.FIL");
     user.Clicks(IDC_OKButton);
@@ -286,6 +288,7 @@ TEST_F(OpenTest, KeepsAChangedNewDocumentInARescueCopy) {
   user.Clicks(IDC_OpenButton);
   EXPECT_EQ(TestFiles::Get("Rescue.FIL"), rescue);
   EXPECT_NE(TestFiles::Get("Rescue2.FIL").value_or("").find("NAME=Second"), std::string::npos);
+  EXPECT_NE(TestFiles::Get("Rescue2.FIL").value_or("").find("NOTE=typed last"), std::string::npos);
 }
 
 TEST_F(OpenTest, AsksBeforeLeavingAChangedDocument) {

@@ -24,7 +24,7 @@ bool Valid(const ListControl& list, int position) {
 }
 
 // Makes the list of a drop-down as wide as its names need, judged by the first few: measuring all
-// would take longer than filling the list.
+// would take longer than filling the list. Done as it drops down, for the window's size and font may change.
 void WidenDropList(const Control::Peer& peer) {
   constexpr std::size_t kMeasured = 300;
   HDC screen = GetDC(peer.Window);
@@ -42,6 +42,7 @@ void WidenDropList(const Control::Peer& peer) {
   GetWindowRect(peer.Window, &own);
   const LONG width = own.right - own.left;
   const LONG margins = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE) + 4;
+  peer.Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width));  // not all systems go back to less in one step
   peer.Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::clamp(widest + margins, width, 2 * width)));
 }
 
@@ -116,7 +117,6 @@ void ListControl::Fill(std::vector<ListEntry> entries) {
   HoldEntries(peer, std::move(entries));
   peer.Send(VerbsOf(peer).Select, static_cast<WPARAM>(-1));
   peer.Selected = -1;
-  if (peer.DropsDown()) WidenDropList(peer);
   if (peer.What == Peer::Kind::ComboBox) {
     SetWindowTextA(peer.Window, "");
     peer.Told.clear();
@@ -167,6 +167,9 @@ HWND Control::Peer::DropList() const {
 
 void Control::Peer::ComboCommanded(int code) {
   switch (code) {
+    case CBN_DROPDOWN:
+      WidenDropList(*this);
+      break;
     case CBN_EDITCHANGE:
       TextMayHaveChanged();
       break;
