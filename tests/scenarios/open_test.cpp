@@ -11,10 +11,16 @@ using Names = std::vector<std::string>;
 
 class OpenTest : public MainFormTest {
  protected:
+  // The tabs in bold letters, which alone have no border.
   std::string BoldTabs() {
-    std::string text = user.SeesBold(IDC_AllLabel) ? "All" : "";
+    std::string text;
+    const auto look_at = [&](int id, const std::string& caption) {
+      EXPECT_NE(user.SeesBold(id), user.SeesBorder(id)) << caption;
+      if (user.SeesBold(id)) text += caption;
+    };
+    look_at(IDC_AllLabel, "All");
     for (int letter = 0; letter < 26; ++letter) {
-      if (user.SeesBold(IDC_LetterLabel + letter)) text += static_cast<char>('A' + letter);
+      look_at(IDC_LetterLabel + letter, std::string(1, static_cast<char>('A' + letter)));
     }
     return text;
   }

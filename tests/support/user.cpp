@@ -18,6 +18,11 @@ void User::UsesForm(int template_id, std::function<void()> acts) {
 
 void User::ChoosesFile(std::string_view name) { Expected().ExpectFile(name); }
 
+bool User::SeesBorder(int id) {
+  const Control* label = On(id);
+  return label != nullptr && static_cast<const Label*>(label)->Border();
+}
+
 bool User::SeesMarked(int id) {
   const Control* button = On(id);
   return button != nullptr && static_cast<const Button*>(button)->BackColor() == BackColor::Marked;

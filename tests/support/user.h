@@ -45,6 +45,7 @@ class User {
   bool SeesVisible(int id);
   bool SeesFocusOn(int id);
   bool SeesBold(int id);
+  bool SeesBorder(int id);                       // around a label
   bool SeesMarked(int id);                       // a button of another colour
   bool SeesPicture(int id);                      // something in a picture box
   std::vector<std::string> SeesEntries(int id);  // list, drop-down or check list
