@@ -23,14 +23,8 @@ class RecordTable {
   // True for the number of a record in use: the test that every link needs before it is followed.
   bool Holds(int record) const { return record >= 1 && record <= count_; }
 
-  Record& operator[](int record) {
-    const std::size_t index = Index(record);
-    return rows_[index / kRow][index % kRow];
-  }
-  const Record& operator[](int record) const {
-    const std::size_t index = Index(record);
-    return rows_[index / kRow][index % kRow];
-  }
+  Record& operator[](int record) { return At(record); }
+  const Record& operator[](int record) const { return At(record); }
 
   // Makes room for the record, and `step` more behind it, when its number is beyond the upper bound.
   void GrowFor(int record, int step) {
@@ -44,6 +38,11 @@ class RecordTable {
   std::size_t Index(int record) const {
     assert(record >= 1 && record <= UpperBound());
     return static_cast<std::size_t>(record - 1);
+  }
+
+  Record& At(int record) const {
+    const std::size_t index = Index(record);
+    return rows_[index / kRow][index % kRow];
   }
 
   static constexpr std::size_t kRow = 64;

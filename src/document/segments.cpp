@@ -176,17 +176,19 @@ void ReadAssignment(Assignment& assignment, int& record) {
       record = NextRecord(segment, record);
       continue;
     }
+    if (segment.front() == '[') {
+      assignment.Segment = segment;
+      return;
+    }
     const auto equals = segment.find('=');
-    if (segment.front() != '[') {
-      if (equals == std::string_view::npos) {
-        Global::Say("Data file contains invalid assignment: " + std::string(segment), Icon::Information);
-        return;
-      }
-      assignment.Key = segment.substr(0, equals);
-      assignment.Value = segment.substr(equals + 1);
-      if (record == 0) record = 1;
+    if (equals == std::string_view::npos) {
+      Global::Say("Data file contains invalid assignment: " + std::string(segment), Icon::Information);
+      return;
     }
     assignment.Segment = segment;
+    assignment.Key = segment.substr(0, equals);
+    assignment.Value = segment.substr(equals + 1);
+    if (record == 0) record = 1;
     return;
   }
 }

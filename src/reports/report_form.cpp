@@ -2,6 +2,7 @@
 #include "reports/report_form.h"
 
 #include <initializer_list>
+#include <utility>
 
 #include "document/document.h"
 #include "document/names.h"
@@ -84,7 +85,7 @@ void ReportForm::FillThings() {
   for (int record = 1; record <= TheDocument.Things.Count(); ++record) {
     entries.push_back({JoinUnderscoredWords(TheDocument.Things[record].NAME), record});
   }
-  PersonCombo.Fill(entries);
+  PersonCombo.Fill(std::move(entries));
   PersonCombo.Select(TheDocument.CurrentThing - 1);
 }
 
