@@ -12,6 +12,16 @@ std::string FullFileName(std::string_view folder, std::string_view name);
 
 }  // namespace Global
 
-// The folder of a full file name, without the "\" behind it (but "C:\" for a drive's root); empty when
-// the name has none.
+// The folder of a file name, without the "\" behind it (but "C:\" for a drive's root); empty when the name has none.
+// Here and below "/" parts folders as "\" does.
 std::string FolderOf(std::string_view file_name);
+
+// What stands behind the folder of a file name, and where it begins.
+std::size_t NameStart(std::string_view file_name);
+std::string NameWithoutFolder(std::string_view file_name);
+
+// The position of the "." before a file name's type, or npos. A folder's name may hold a "." as well.
+std::size_t TypeDot(std::string_view file_name);
+
+// True for two full names of one file.
+bool SameFile(std::string_view one, std::string_view other);

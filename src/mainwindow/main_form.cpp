@@ -6,6 +6,7 @@
 
 #include "document/document.h"
 #include "document/names.h"
+#include "document/rescue.h"
 #include "document/things.h"
 #include "mainwindow/address_titles.h"
 #include "mainwindow/command_line.h"
@@ -91,28 +92,38 @@ Event MainForm::On(void (MainForm::*handler)()) {
   };
 }
 
+// A command acts on what the thing list shows, whether or not the focus had to leave the list for it.
+Event MainForm::OnCommand(void (MainForm::*handler)()) {
+  return [this, handler] {
+    LeaveThingList();
+    (this->*handler)();
+    RefreshFrame();
+  };
+}
+
 void MainForm::WireEvents() {
   for (const Command& command : Commands()) {
-    if (command.ItsButton != nullptr) (this->*command.ItsButton).Click = On(command.Handler);
+    if (command.ItsButton != nullptr) (this->*command.ItsButton).Click = OnCommand(command.Handler);
   }
-  OpenButton.Click = On(&MainForm::OpenButton_Click);
-  ExitButton.Click = On(&MainForm::ExitButton_Click);
+  OpenButton.Click = OnCommand(&MainForm::OpenButton_Click);
+  ExitButton.Click = OnCommand(&MainForm::ExitButton_Click);
   MenuClick = [this](int id) { RunCommand(id); };
   EnterKey = On(&MainForm::Enter_Press);
   EscapeKey = On(&MainForm::Escape_Press);
-  HelpKey = On(&MainForm::ManualItem_Click);
-  AllLabel.Click = On(&MainForm::AllLabel_Click);
+  HelpKey = OnCommand(&MainForm::ManualItem_Click);
+  AllLabel.Click = OnCommand(&MainForm::AllLabel_Click);
   for (int index = 0; index < kLetters; ++index) {
     LetterLabel[static_cast<std::size_t>(index)]->Click = [this, index] {
+      LeaveThingList();
       LetterLabel_Click(index);
       RefreshFrame();
     };
   }
-  CategoryFilterLabel.Click = On(&MainForm::CategoryFilterLabel_Click);
+  CategoryFilterLabel.Click = OnCommand(&MainForm::CategoryFilterLabel_Click);
   PersonCombo.Click = On(&MainForm::PersonCombo_Click);
   PersonCombo.Change = [this] { PersonCombo_Change(); };
-  PersonCombo.GotFocus = [this] { PersonCombo_GotFocus(); };
-  PersonCombo.LostFocus = [this] { PersonCombo_LostFocus(); };
+  PersonCombo.GotFocus = [this] { MarkShownName(); };
+  PersonCombo.LostFocus = On(&MainForm::LeaveThingList);
   NoteBox.Change = On(&MainForm::NoteBox_Change);
   NoteBox.LostFocus = [this] { Later(On(&MainForm::NoteBox_LostFocus)); };
   FatherCombo.Click = MotherCombo.Click = On(&MainForm::LinkCombo_Click);
@@ -123,6 +134,7 @@ void MainForm::WireEvents() {
 }
 
 void MainForm::RunCommand(int id) {
+  LeaveThingList();
   for (const Command& command : Commands()) {
     if (command.Item == id) (this->*command.Handler)();
   }
@@ -159,7 +171,10 @@ void MainForm::AnchorControls() {
 void MainForm::Form_Load() {
   TheDocument = {};
   Global::ProgramTitle = "Larkspur Filer";
-  Global::KeepDocument = [this] { KeepDocument(); };
+  Global::KeepDocument = [this] {
+    StoreEdits();
+    if (TheDocument.Modified || Covered()) WriteRescueCopy();
+  };
   Global::FillAddressTitles();
   PhotoButton.SetBackColor(DataButton.BackColor());
   AnchorControls();
@@ -196,10 +211,6 @@ void MainForm::Form_Activate() {
   RefreshFrame();
 }
 
-void MainForm::SayFull() {
-  Global::Say("A file can hold at most 32767 things.  The thing was not added.", Icon::Exclamation);
-}
-
 // Makes the start thing the current one; a name that the document does not know is added to it. False
 // when there is no such thing in the end.
 bool MainForm::ShowStartThing() {
@@ -209,14 +220,7 @@ bool MainForm::ShowStartThing() {
     const std::string name = NormaliseName(TheStart.StartThing);
     if (name.empty()) return false;
     record = FindThing(name);
-    if (record == 0) {
-      record = InsertThing(name);
-      if (record == 0) {
-        SayFull();
-        return false;
-      }
-      TheDocument.Modified = true;
-    }
+    if (record == 0) return AddThing(name) != 0;
   }
   TheDocument.CurrentThing = record;
   return true;
@@ -224,8 +228,12 @@ bool MainForm::ShowStartThing() {
 
 void MainForm::Form_QueryUnload(bool& cancel, UnloadMode mode) {
   if (mode == UnloadMode::Code) return;
-  ExitItem_Click();
   cancel = true;
+  if (mode == UnloadMode::WindowsShutdown) {
+    EndSession();
+  } else {
+    ExitItem_Click();
+  }
   RefreshFrame();
 }
 

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -12,8 +13,6 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
-
-inline constexpr int kLetters = 26;
 
 struct ReportRequest;
 
@@ -44,12 +43,12 @@ class MainForm : public Form {
   void Form_Activate() override;
   void Form_QueryUnload(bool& cancel, UnloadMode mode) override;
   Event On(void (MainForm::*handler)());
+  Event OnCommand(void (MainForm::*handler)());
   void RunCommand(int id);
   void WireEvents();
   void AnchorControls();
   void RefreshFrame();
   bool ShowStartThing();
-  static void SayFull();
 
   // main_form_file.cpp: the File menu
   void NewItem_Click();
@@ -59,7 +58,9 @@ class MainForm : public Form {
   void OpenButton_Click() { OpenItem_Click(); }
   void ExitButton_Click() { ExitItem_Click(); }
   bool MayAbandon();
-  void KeepUnasked();
+  bool KeepUnasked();
+  bool MayExit();
+  void EndSession();
   bool LoadDocument(const std::string& full_name, const std::string& name);
 
   // main_form_list.cpp: the View menu, the letter tabs, the thing list
@@ -84,8 +85,8 @@ class MainForm : public Form {
   void SetNameOrder(bool noun_order);
   void PersonCombo_Click();
   void PersonCombo_Change();
-  void PersonCombo_GotFocus();
-  void PersonCombo_LostFocus() { RestoreShownName(); }
+  void MarkShownName();
+  void LeaveThingList();
   void Enter_Press();
   void Escape_Press();
   void PickThing(int record);
@@ -121,7 +122,6 @@ class MainForm : public Form {
   void ManualItem_Click();
   void FilerHelpItem_Click();
   void AboutItem_Click();
-  void KeepDocument();
 
   Button NewButton, OpenButton, SaveButton, AddPersonButton, DeleteButton, HelpButton, ExitButton;
   Label AllLabel;
@@ -140,7 +140,9 @@ class MainForm : public Form {
 
   std::string command_line_;
   ThingListView view_;
-  std::string typed_;        // what the user typed into the thing list, without what was offered
+  std::optional<std::string> typed_;  // what the user typed into the thing list, without what was offered
+  std::string rescue_name_;           // the rescue copy that goes when the Exit question is answered
+  bool asking_to_exit_ = false;
   bool displaying_ = false;  // controls are being filled: their events are no edits
   bool shown_before_ = false;
   bool dialog_open_ = false;

@@ -33,24 +33,12 @@ void MainForm::AddPersonItem_Click() {
     Global::Say("Sorry, this object is already on file.", Icon::Exclamation);
     return;
   }
-  const int record = InsertThing(name);
-  if (record == 0) {
-    SayFull();
-    return;
-  }
-  TheDocument.CurrentThing = record;
-  TheDocument.Modified = true;
+  if (AddThing(name) == 0) return;
   Redisplay();
   NoteBox.SetFocus();
 }
 
 void MainForm::DeletePersonItem_Click() {
-  // The list offers a name that was begun; the menu leaves it there. Nothing but what is shown whole is deleted.
-  if (!typed_.empty() && CurrentRecord() != nullptr) {
-    RestoreShownName();
-    Global::Say("Nothing was deleted.  Please pick the thing to delete in the list first.", Icon::Exclamation);
-    return;
-  }
   // What was typed belongs to the thing that goes, not to the one that takes its number.
   TheDocument.PendingEdits = false;
   if (CurrentRecord() == nullptr) {

@@ -11,7 +11,7 @@
 #include "resource.h"
 
 void MainForm::FillThingList(int selected) {
-  typed_.clear();
+  typed_.reset();
   PersonCombo.Fill(ListThings(view_));
   if (selected != 0) {
     RestoreShownName();
@@ -141,7 +141,7 @@ void MainForm::PersonCombo_Click() {
 void MainForm::PickThing(int record) {
   StoreEdits();
   TheDocument.CurrentThing = record;
-  typed_.clear();
+  typed_.reset();
   DisplayThing();
   TheDocument.PendingEdits = false;
 }
@@ -150,25 +150,31 @@ void MainForm::PickThing(int record) {
 // that the next key replaces it. Nothing is offered to somebody who is deleting.
 void MainForm::PersonCombo_Change() {
   if (displaying_) return;
-  const std::string before = std::exchange(typed_, PersonCombo.Text());
-  if (typed_.size() < before.size() || typed_ == before) return;
-  const int position = FindEntryBeginning(PersonCombo.Entries(), typed_);
+  const std::string before = typed_.value_or("");
+  const std::string typed = typed_.emplace(PersonCombo.Text());
+  if (typed.size() < before.size() || typed == before) return;
+  const int position = FindEntryBeginning(PersonCombo.Entries(), typed);
   if (position < 0) return;
   const std::string& offered = PersonCombo.Entries()[static_cast<std::size_t>(position)].Text;
   const FlagScope scope(displaying_);
   PersonCombo.SetText(offered);
-  PersonCombo.SelectText(static_cast<int>(typed_.size()), static_cast<int>(offered.size()));
+  PersonCombo.SelectText(static_cast<int>(typed.size()), static_cast<int>(offered.size()));
 }
 
 // Whoever comes here by keyboard types another name over the one shown.
-void MainForm::PersonCombo_GotFocus() { PersonCombo.SelectText(0, static_cast<int>(PersonCombo.Text().size())); }
+void MainForm::MarkShownName() { PersonCombo.SelectText(0, static_cast<int>(PersonCombo.Text().size())); }
 
-void MainForm::Enter_Press() {
-  if (!PersonCombo.HasFocus() || typed_.empty()) return;
+// Whoever typed and goes on means the first thing that the list offers for it; with none, the shown one stays.
+void MainForm::LeaveThingList() {
+  if (!typed_) return;
   const std::vector<ListEntry>& listed = PersonCombo.Entries();
-  const int position = FindEntryBeginning(listed, PersonCombo.Text());
+  const int position = typed_->empty() ? -1 : FindEntryBeginning(listed, PersonCombo.Text());
   if (position >= 0) PickThing(listed[static_cast<std::size_t>(position)].Data);
   RestoreShownName();
+}
+
+void MainForm::Enter_Press() {
+  if (PersonCombo.HasFocus()) LeaveThingList();
 }
 
 void MainForm::Escape_Press() {
@@ -178,7 +184,7 @@ void MainForm::Escape_Press() {
 // Shows the current thing's name in the thing list, also when the filters keep the thing out of it.
 void MainForm::RestoreShownName() {
   const FlagScope scope(displaying_);
-  typed_.clear();
+  typed_.reset();
   const ThingRecord* thing = CurrentRecord();
   const std::vector<ListEntry>& listed = PersonCombo.Entries();
   const auto entry = std::find_if(listed.begin(), listed.end(),
@@ -189,4 +195,5 @@ void MainForm::RestoreShownName() {
     PersonCombo.Select(-1);
   }
   PersonCombo.SetText(thing == nullptr ? "" : ShownName(*thing, view_.NounOrder));
+  if (PersonCombo.HasFocus()) MarkShownName();
 }

@@ -14,13 +14,23 @@ ThingRecord* MainForm::CurrentRecord() const {
   return things.Holds(TheDocument.CurrentThing) ? &things[TheDocument.CurrentThing] : nullptr;
 }
 
-bool MainForm::ValidateText(std::string& text) {
+namespace {
+
+// A text with each line break turned into "?".
+std::string OneParagraph(const std::string& text) {
   std::string one_paragraph;
   for (std::size_t at = 0; at < text.size(); ++at) {
     const bool is_break = text[at] == '\r' || text[at] == '\n';
     if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n') ++at;
     one_paragraph += is_break ? '?' : text[at];
   }
+  return one_paragraph;
+}
+
+}  // namespace
+
+bool MainForm::ValidateText(std::string& text) {
+  std::string one_paragraph = OneParagraph(text);
   if (one_paragraph == text) return false;
   text = std::move(one_paragraph);
   Global::Say(
@@ -35,16 +45,16 @@ void MainForm::StoreEdits() {
   TheDocument.PendingEdits = false;
   ThingRecord* thing = CurrentRecord();
   if (thing == nullptr) return;
+  // All is stored before anything is said: Windows may end while the box is up.
   std::string note = NoteBox.Text();
-  if (ValidateText(note)) {
-    const FlagScope scope(displaying_);
-    NoteBox.SetText(note);
-  }
-  thing->NOTE = Trim(note);
+  thing->NOTE = Trim(OneParagraph(note));
   // A list without a selection stands for a link that the lists cannot show: it is left as it is.
   if (FatherCombo.Selected() >= 0) thing->XREF1 = static_cast<std::int16_t>(FatherCombo.SelectedData());
   if (MotherCombo.Selected() >= 0) thing->XREF2 = static_cast<std::int16_t>(MotherCombo.SelectedData());
   TheDocument.Modified = true;
+  if (!ValidateText(note)) return;
+  const FlagScope scope(displaying_);
+  NoteBox.SetText(note);
 }
 
 namespace {

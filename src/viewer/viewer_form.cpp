@@ -231,4 +231,4 @@ Page ViewerForm::Notice() const {
   return page;
 }
 
-std::string ViewerForm::FileTitle() const { return file_.substr(file_.find_last_of("\\:") + 1); }
+std::string ViewerForm::FileTitle() const { return NameWithoutFolder(file_); }

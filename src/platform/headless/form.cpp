@@ -64,6 +64,10 @@ void Form::RunUntilClosed() {
   peer_->Gone();
 }
 
+bool Form::Covered() const { return peer_->Shown && OpenForms().back() != this; }
+
+void Form::SetShutdownReason(std::string_view reason) { peer_->ShutdownReason = reason; }
+
 void Form::Later(Event event) { peer_->Deferred.push_back(std::move(event)); }
 
 void Form::Close() { peer_->Unload(UnloadMode::Code); }
@@ -115,9 +119,19 @@ void Form::Peer::RunDeferred() {
   for (const Event& event : std::exchange(Deferred, {})) event();
 }
 
-void Form::Peer::Appear() {
+// A form that could not be loaded is not there.
+void Form::Peer::Load() {
   Closed = false;
-  Self->Form_Load();
+  try {
+    Self->Form_Load();
+  } catch (...) {
+    Closed = true;
+    throw;
+  }
+}
+
+void Form::Peer::Appear() {
+  Load();
   OpenForms().push_back(Self);
   Shown = true;
   if (Focus == nullptr || !Focus->PeerOf().TakesFocus()) {

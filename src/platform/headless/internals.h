@@ -71,6 +71,7 @@ struct Form::Peer {
   bool Shown = false;
   bool Modal = false;
   bool Closed = false;
+  std::string ShutdownReason;
   std::vector<Event> Deferred;
   std::set<int> MenuGreyed;
   std::set<int> MenuTicked;
@@ -78,7 +79,8 @@ struct Form::Peer {
   Control* Find(int id) const;       // nullptr when there is none
   void MoveFocus(Control* control);  // raises LostFocus and GotFocus while the form is shown
   void RunDeferred();                // when the person has done what there was to do
-  void Appear();                     // Form_Load, onto the stack, first focus, Form_Activate
+  void Load();
+  void Appear();  // Form_Load, onto the stack, first focus, Form_Activate
   void Activate() { Self->Form_Activate(); }
   void Unload(UnloadMode mode);  // Form_QueryUnload, Form_Unload
   void Gone();                   // closed and off the stack, without asking
@@ -94,6 +96,7 @@ void ActivateTopmost();
 // aborts.
 struct Stage {
   std::function<Answer(const std::string& text, const std::string& caption, Buttons buttons, Icon icon)> Message;
+  DefaultButton Default = DefaultButton::First;  // of the message box that is up
   std::function<std::string(const std::string& prompt, const std::string& caption, const std::string& offered)> Input;
   std::function<std::string(const FileChoice& choice)> File;
   std::function<void(Form& form)> Use;  // acts on an open form; reports it when it stays open

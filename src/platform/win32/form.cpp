@@ -138,6 +138,7 @@ void Form::RunUntilClosed() { peer_->Loop(); }
 
 void Form::Close() { peer_->Unload(UnloadMode::Code); }
 bool Form::Closed() const { return peer_->Closed; }
+bool Form::Covered() const { return peer_->Shown && TopmostForm() != this; }
 
 std::string Form::Caption() const { return TextOfWindow(peer_->Window); }
 void Form::SetCaption(std::string_view caption) { SetWindowTextA(peer_->Window, std::string(caption).c_str()); }
@@ -157,11 +158,21 @@ Control* Form::Peer::Find(int id) const {
   return found == Controls.end() ? nullptr : found->second;
 }
 
-// Runs Form_Load and shows the form; the one below is disabled first, so that it never looks alive.
-void Form::Peer::Appear(Form* owner) {
+// A form that could not be loaded is not there.
+void Form::Peer::Load() {
   Closed = false;
   ToActivate = false;
-  Self->Form_Load();
+  try {
+    Self->Form_Load();
+  } catch (...) {
+    Closed = true;
+    throw;
+  }
+}
+
+// Runs Form_Load and shows the form; the one below is disabled first, so that it never looks alive.
+void Form::Peer::Appear(Form* owner) {
+  Load();
   if (Closed) return;
   HWND owner_window = owner == nullptr ? nullptr : owner->PeerOf().Window;
   Place(owner_window);

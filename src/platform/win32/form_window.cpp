@@ -196,7 +196,12 @@ void Form::Peer::Command(int id, int code) {
   }
 }
 
+// From the close box, or from the task bar, which lets the user close a form that a dialog disables.
 void Form::Peer::CloseBox() {
+  if (!IsWindowEnabled(Window)) {
+    SetForegroundWindow(GetLastActivePopup(Window));
+    return;
+  }
   Control* cancel = Find(IDCANCEL);
   if (Modal && cancel != nullptr && cancel->PeerOf().TakesFocus()) {
     cancel->PeerOf().Commanded(BN_CLICKED);
@@ -210,6 +215,14 @@ bool Form::Peer::MayShutDown() {
   bool cancel = false;
   Self->Form_QueryUnload(cancel, UnloadMode::WindowsShutdown);
   return Closed || !cancel;
+}
+
+void Form::SetShutdownReason(std::string_view reason) {
+  if (reason.empty()) {
+    ShutdownBlockReasonDestroy(peer_->Window);
+  } else {
+    ShutdownBlockReasonCreate(peer_->Window, std::wstring(reason.begin(), reason.end()).c_str());
+  }
 }
 
 void Form::SetMenuEnabled(int id, bool enabled) {

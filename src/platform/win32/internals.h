@@ -41,6 +41,7 @@ struct Form::Peer {
   void Make(int template_id);
   void AddMenu();
   void Place(HWND owner) const;
+  void Load();
   void Appear(Form* owner);
   void GiveFirstFocus();
   void Loop();
