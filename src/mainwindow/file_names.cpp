@@ -1,6 +1,8 @@
 // Full names out of folders and file names: see file_names.h.
 #include "mainwindow/file_names.h"
 
+#include <algorithm>
+
 #include "platform/program.h"
 
 std::string Global::FullFileName(std::string_view folder, std::string_view name) {
@@ -16,4 +18,23 @@ std::string FolderOf(std::string_view file_name) {
   if (end == std::string_view::npos) return {};
   const bool is_root = file_name[end] == ':' || end == 0 || file_name[end - 1] == ':';
   return std::string(file_name.substr(0, is_root ? end + 1 : end));
+}
+
+std::vector<std::string> PhotoPlaces(const std::string& name, const std::string& data_file,
+                                     const std::string& working_folder) {
+  const auto with_backslashes = [](std::string text) {
+    std::replace(text.begin(), text.end(), '/', '\\');
+    return text;
+  };
+  const std::string photo = with_backslashes(name);
+  const std::string folder = FolderOf(with_backslashes(data_file));
+  const std::string in_working_folder = Global::FullFileName(working_folder, photo);
+  if (folder.empty()) return {in_working_folder};
+  if (in_working_folder != photo) return {Global::FullFileName(folder, photo), in_working_folder};
+  std::vector<std::string> places = {photo};
+  for (auto at = photo.find_last_of("\\:"); at != std::string::npos && at + 1 < photo.size();
+       at = at == 0 ? std::string::npos : photo.find_last_of("\\:", at - 1)) {
+    if (photo[at + 1] != '\\') places.push_back(Global::FullFileName(folder, photo.substr(at + 1)));
+  }
+  return places;
 }

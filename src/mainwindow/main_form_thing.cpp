@@ -6,6 +6,7 @@
 #include "mainwindow/command_line.h"
 #include "mainwindow/file_names.h"
 #include "mainwindow/main_form.h"
+#include "platform/files.h"
 #include "shell/messages.h"
 #include "values/numbers.h"
 
@@ -87,9 +88,22 @@ void MainForm::DisplayThing() {
 
 void MainForm::ResetPicBox() { PhotoPic.Clear(); }
 
+namespace {
+
+// The first of a photo's places that has it; where none has, the error is that of the working folder.
+std::string PhotoFile(const std::string& name) {
+  const std::string& folder = TheStart.WorkingFolder;
+  for (const std::string& place : PhotoPlaces(name, Global::FullFileName(folder, TheDocument.FileName), folder)) {
+    if (Files::Exists(place)) return place;
+  }
+  return Global::FullFileName(folder, name);
+}
+
+}  // namespace
+
 void MainForm::ShowPhoto(ThingRecord& thing) {
   try {
-    PhotoPic.Load(Global::FullFileName(TheStart.WorkingFolder, thing.PICFILENAME));
+    PhotoPic.Load(PhotoFile(thing.PICFILENAME));
   } catch (const RuntimeError& error) {
     ResetPicBox();
     thing.PICFILENAME.clear();
