@@ -109,6 +109,18 @@ void MainForm::PhotoButton_Click() {
   Redisplay();
 }
 
+void MainForm::RemovePhotoItem_Click() {
+  ThingRecord* thing = CurrentRecord();
+  if (thing == nullptr || thing->PICFILENAME.empty()) {
+    Global::Say("No photo is displayed to remove.", Icon::Information);
+    return;
+  }
+  StoreEdits();
+  thing->PICFILENAME.clear();
+  TheDocument.Modified = true;
+  Redisplay();
+}
+
 void MainForm::DataButton_Click() {
   if (CurrentRecord() == nullptr) {
     Global::Say("First choose or add a thing, then click the MORE button.", Icon::Exclamation);

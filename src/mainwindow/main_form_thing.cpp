@@ -7,6 +7,7 @@
 #include "mainwindow/file_names.h"
 #include "mainwindow/main_form.h"
 #include "platform/files.h"
+#include "shell/launch.h"
 #include "shell/messages.h"
 #include "values/numbers.h"
 
@@ -103,7 +104,8 @@ std::string PhotoFile(const std::string& name) {
 
 void MainForm::ShowPhoto(ThingRecord& thing) {
   try {
-    PhotoPic.Load(PhotoFile(thing.PICFILENAME));
+    HiddenPic.Load(PhotoFile(thing.PICFILENAME));
+    PhotoPic.ShowFrom(HiddenPic);
   } catch (const RuntimeError& error) {
     ResetPicBox();
     thing.PICFILENAME.clear();
@@ -112,6 +114,18 @@ void MainForm::ShowPhoto(ThingRecord& thing) {
                     ". The picture file link will be removed.",
                 Icon::Exclamation);
   }
+}
+
+void MainForm::PhotoPic_DoubleClick() {
+  std::string file = PhotoPic.FileName();
+  if (file.empty()) return;
+  std::string program = file.substr(std::min(file.find_last_of(".\\"), file.size()));
+  if (!APISubs::IsRegistered(program)) {
+    Global::Say("I cannot open the photo " + file + " because no program is registered for files of its type.",
+                Icon::Exclamation);
+    return;
+  }
+  APISubs::LaunchProgram(program, file);
 }
 
 // Entry k is category k, so that the list's positions need no table; unused numbers show no text.

@@ -36,9 +36,11 @@ struct Control::Peer {
   bool ReadOnly = false;  // text box
   int TextLimit = 0;      // text box
   BackColor Back = BackColor::ButtonFace;
-  bool Checked = false;             // option button
-  int Group = 0;                    // option button: those made one after another are one group
-  bool Loaded = false;              // picture
+  bool Checked = false;   // option button
+  int Group = 0;          // option button: those made one after another are one group
+  bool Loaded = false;    // picture
+  std::string PhotoName;  // picture: the file that was loaded, and what it held
+  std::string PhotoBytes;
   std::vector<ListEntry> Entries;   // lists, the check list included
   int Selected = -1;                // lists
   std::vector<bool> Ticks;          // check list

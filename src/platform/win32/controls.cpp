@@ -86,7 +86,8 @@ void Control::Peer::Commanded(int code) {
       if (code == STN_CLICKED || code == STN_DBLCLK) Raise(static_cast<Label*>(Self)->Click);
       break;
     case Kind::Picture:
-      if (code == STN_CLICKED || code == STN_DBLCLK) Raise(static_cast<Picture*>(Self)->Click);
+      if (code == STN_CLICKED) Raise(static_cast<Picture*>(Self)->Click);
+      if (code == STN_DBLCLK) Raise(static_cast<Picture*>(Self)->DoubleClick);
       break;
     case Kind::TextBox:
       if (code == EN_CHANGE) TextMayHaveChanged();
