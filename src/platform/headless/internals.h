@@ -59,8 +59,9 @@ struct Control::Peer {
   void ChangeText(const std::string& text);
   void ChangeSelection(int position);
   void ChangeTick(int position, bool checked);
-  void Check();  // an option button
-  void Click();  // a label, button or picture; an option button checks
+  void Check();                 // an option button
+  void Click();                 // a label, button or picture; an option button checks
+  void TurnWheel(int notches);  // over a drop-down; positive: towards the person
 };
 
 struct Form::Peer {
