@@ -62,6 +62,12 @@ void MainForm::DeletePersonItem_Click() {
   TheDocument.Modified = true;
   Redisplay();
   RefreshFrame();
+  // Not on the button: the next key would delete the next thing.
+  if (TheDocument.Things.Count() == 0) {
+    AddPersonButton.SetFocus();
+  } else {
+    PersonCombo.SetFocus();
+  }
   Global::Say("Record deleted.", Icon::Information);
 }
 

@@ -44,6 +44,7 @@ void MainForm::NewItem_Click() {
   if (!MayAbandon()) return;
   KeepUnasked();
   MakeNew();
+  AddPersonButton.SetFocus();
 }
 
 void MainForm::OpenItem_Click() {

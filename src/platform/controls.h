@@ -21,6 +21,7 @@ class TextBox : public Control {
   bool ReadOnly() const;
   void SetTextLimit(int characters);  // for typing only; 0 = none
   void SelectAll();
+  void SelectText(int first, int last);  // marks characters [first, last) and puts the caret behind them
   Event Change;
 };
 

@@ -51,6 +51,11 @@ bool TextBox::ReadOnly() const { return (GetWindowLongA(PeerOf().Window, GWL_STY
 void TextBox::SetTextLimit(int characters) { PeerOf().Send(EM_SETLIMITTEXT, static_cast<WPARAM>(characters)); }
 void TextBox::SelectAll() { PeerOf().Send(EM_SETSEL, 0, -1); }
 
+void TextBox::SelectText(int first, int last) {
+  PeerOf().Send(EM_SETSEL, static_cast<WPARAM>(first), last);
+  PeerOf().Send(EM_SCROLLCARET);
+}
+
 void Button::SetBackColor(::BackColor color) {
   PeerOf().Back = color;
   InvalidateRect(PeerOf().Window, nullptr, TRUE);
