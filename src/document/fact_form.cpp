@@ -243,6 +243,7 @@ void FactForm::DeleteFieldItem_Click() {
   if (number == field_) field_ = 0;
   if (number < field_) --field_;
   ShowDefinitions();
+  FieldNameCombo.SetFocus();
 }
 
 void FactForm::DeleteFormulaItem_Click() {
@@ -265,7 +266,8 @@ void FactForm::InsertDateItem_Click() {
   if (!text.empty() && text.back() != ' ') text += ' ';
   text +=
       ShortDate(static_cast<int>(date.year()), static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
+  const int end = static_cast<int>(text.size());
   DataBox.SetText(text);
-  // Not a second time: the whole text would be marked, and the next key would delete it.
-  if (!DataBox.HasFocus()) DataBox.SetFocus();
+  DataBox.SetFocus();
+  DataBox.SelectText(end, end);  // what is typed next goes on there
 }

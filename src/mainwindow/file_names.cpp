@@ -33,11 +33,31 @@ std::size_t TypeDot(std::string_view file_name) {
   return dot != std::string_view::npos && dot >= NameStart(file_name) ? dot : std::string_view::npos;
 }
 
+namespace {
+
+std::string WithBackslashes(std::string_view file_name) {
+  std::string name(file_name);
+  std::replace(name.begin(), name.end(), '/', '\\');
+  return name;
+}
+
+}  // namespace
+
 bool SameFile(std::string_view one, std::string_view other) {
-  const auto compared = [](std::string_view name) {
-    std::string full = UpperCase(name);
-    std::replace(full.begin(), full.end(), '/', '\\');
-    return full;
-  };
-  return compared(one) == compared(other);
+  return UpperCase(WithBackslashes(one)) == UpperCase(WithBackslashes(other));
+}
+
+std::vector<std::string> PhotoPlaces(const std::string& name, const std::string& data_file,
+                                     const std::string& working_folder) {
+  const std::string photo = WithBackslashes(name);
+  const std::string folder = FolderOf(WithBackslashes(data_file));
+  const std::string in_working_folder = Global::FullFileName(working_folder, photo);
+  if (folder.empty()) return {in_working_folder};
+  if (in_working_folder != photo) return {Global::FullFileName(folder, photo), in_working_folder};
+  std::vector<std::string> places = {photo};
+  for (auto at = photo.find_last_of("\\:"); at != std::string::npos && at + 1 < photo.size();
+       at = at == 0 ? std::string::npos : photo.find_last_of("\\:", at - 1)) {
+    if (photo[at + 1] != '\\') places.push_back(Global::FullFileName(folder, photo.substr(at + 1)));
+  }
+  return places;
 }

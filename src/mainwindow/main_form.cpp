@@ -32,6 +32,7 @@ std::span<const MainForm::Command> MainForm::Commands() {
       {IDC_DeletePersonItem, &MainForm::DeleteButton, &MainForm::DeletePersonItem_Click},
       {IDC_RenameItem, nullptr, &MainForm::RenameItem_Click},
       {IDC_PhotoItem, &MainForm::PhotoButton, &MainForm::PhotoButton_Click},
+      {IDC_RemovePhotoItem, nullptr, &MainForm::RemovePhotoItem_Click},
       {IDC_DataItem, &MainForm::DataButton, &MainForm::DataButton_Click},
       {IDC_DefCatItem, &MainForm::DefCatButton, &MainForm::DefCatButton_Click},
       {IDC_AllNamesItem, nullptr, &MainForm::AllNamesItem_Click},
@@ -70,6 +71,7 @@ MainForm::MainForm(std::string command_line)
       MotherCombo(*this, IDC_MotherCombo),
       PhotoLabel(*this, IDC_PhotoLabel),
       PhotoPic(*this, IDC_PhotoPic),
+      HiddenPic(*this, IDC_HiddenPic),
       PhotoButton(*this, IDC_PhotoButton),
       DataButton(*this, IDC_DataButton),
       CatLabel(*this, IDC_CatLabel),
@@ -127,6 +129,7 @@ void MainForm::WireEvents() {
   NoteBox.Change = On(&MainForm::NoteBox_Change);
   NoteBox.LostFocus = [this] { Later(On(&MainForm::NoteBox_LostFocus)); };
   FatherCombo.Click = MotherCombo.Click = On(&MainForm::LinkCombo_Click);
+  PhotoPic.DoubleClick = On(&MainForm::PhotoPic_DoubleClick);
   CatList.ItemCheck = [this](int position) {
     CatList_ItemCheck(position);
     RefreshFrame();
@@ -177,6 +180,7 @@ void MainForm::Form_Load() {
   };
   Global::FillAddressTitles();
   PhotoButton.SetBackColor(DataButton.BackColor());
+  HiddenPic.SetVisible(false);
   AnchorControls();
   HintLabel.SetText(
       "There are no things yet.\r\n\r\nChoose Edit, Add Thing to add the first one, or File, Open to open a file.");

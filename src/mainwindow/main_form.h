@@ -98,6 +98,7 @@ class MainForm : public Form {
   void DeletePersonItem_Click();
   void RenameItem_Click();
   void PhotoButton_Click();
+  void RemovePhotoItem_Click();
   void DataButton_Click();
   void DefCatButton_Click();
 
@@ -112,6 +113,7 @@ class MainForm : public Form {
   void StoreEdits();
   void DisplayThing();
   void ShowPhoto(ThingRecord& thing);
+  void PhotoPic_DoubleClick();
   void FillCategoryList();
   void NoteBox_Change();
   void NoteBox_LostFocus();
@@ -132,7 +134,7 @@ class MainForm : public Form {
   Label FatherLabel, MotherLabel;
   DropDownList FatherCombo, MotherCombo;
   Label PhotoLabel;
-  Picture PhotoPic;
+  Picture PhotoPic, HiddenPic;
   Button PhotoButton, DataButton;
   Label CatLabel;
   CheckList CatList;

@@ -50,6 +50,12 @@ void MainForm::DeletePersonItem_Click() {
   TheDocument.Modified = true;
   Redisplay();
   RefreshFrame();
+  // Not on the button: the next key would delete the next thing.
+  if (TheDocument.Things.Count() == 0) {
+    AddPersonButton.SetFocus();
+  } else {
+    PersonCombo.SetFocus();
+  }
   Global::Say("Record deleted.", Icon::Information);
 }
 
@@ -93,6 +99,18 @@ void MainForm::PhotoButton_Click() {
   }
   if (request.Name.empty()) return;
   thing->PICFILENAME = request.Name;
+  TheDocument.Modified = true;
+  Redisplay();
+}
+
+void MainForm::RemovePhotoItem_Click() {
+  ThingRecord* thing = CurrentRecord();
+  if (thing == nullptr || thing->PICFILENAME.empty()) {
+    Global::Say("No photo is displayed to remove.", Icon::Information);
+    return;
+  }
+  StoreEdits();
+  thing->PICFILENAME.clear();
   TheDocument.Modified = true;
   Redisplay();
 }

@@ -65,7 +65,9 @@ bool MainForm::KeepUnasked() {
 
 void MainForm::NewItem_Click() {
   StoreEdits();
-  if (MayAbandon() && KeepUnasked()) MakeNew();
+  if (!MayAbandon() || !KeepUnasked()) return;
+  MakeNew();
+  AddPersonButton.SetFocus();
 }
 
 void MainForm::OpenItem_Click() {

@@ -6,6 +6,8 @@
 #include "mainwindow/command_line.h"
 #include "mainwindow/file_names.h"
 #include "mainwindow/main_form.h"
+#include "platform/files.h"
+#include "shell/launch.h"
 #include "shell/messages.h"
 #include "values/numbers.h"
 
@@ -97,9 +99,23 @@ void MainForm::DisplayThing() {
 
 void MainForm::ResetPicBox() { PhotoPic.Clear(); }
 
+namespace {
+
+// The first of a photo's places that has it; where none has, the error is that of the working folder.
+std::string PhotoFile(const std::string& name) {
+  const std::string& folder = TheStart.WorkingFolder;
+  for (const std::string& place : PhotoPlaces(name, Global::FullFileName(folder, TheDocument.FileName), folder)) {
+    if (Files::Exists(place)) return place;
+  }
+  return Global::FullFileName(folder, name);
+}
+
+}  // namespace
+
 void MainForm::ShowPhoto(ThingRecord& thing) {
   try {
-    PhotoPic.Load(Global::FullFileName(TheStart.WorkingFolder, thing.PICFILENAME));
+    HiddenPic.Load(PhotoFile(thing.PICFILENAME));
+    PhotoPic.ShowFrom(HiddenPic);
   } catch (const RuntimeError& error) {
     ResetPicBox();
     thing.PICFILENAME.clear();
@@ -108,6 +124,18 @@ void MainForm::ShowPhoto(ThingRecord& thing) {
                     ". The picture file link will be removed.",
                 Icon::Exclamation);
   }
+}
+
+void MainForm::PhotoPic_DoubleClick() {
+  std::string file = PhotoPic.FileName();
+  if (file.empty()) return;
+  std::string program = file.substr(std::min(file.find_last_of(".\\"), file.size()));
+  if (!APISubs::IsRegistered(program)) {
+    Global::Say("I cannot open the photo " + file + " because no program is registered for files of its type.",
+                Icon::Exclamation);
+    return;
+  }
+  APISubs::LaunchProgram(program, file);
 }
 
 // Entry k is category k, so that the list's positions need no table; unused numbers show no text.

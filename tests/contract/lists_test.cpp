@@ -97,6 +97,23 @@ TEST_F(ListsTest, ClickComesOnceAndOnlyWhenTheSelectionMoved) {
   });
 }
 
+TEST_F(ListsTest, TheWheelTurnsNoClosedDropDownButAComboWithTheFocus) {
+  Use([&] {
+    const auto selected_after_wheel = [&](ListControl& list) {
+      list.Fill({{"one", 1}, {"two", 2}, {"three", 3}});
+      list.Select(1);
+      user.TurnsWheel(list.Id(), 1);
+      return list.Selected();
+    };
+    form.FirstButton.SetFocus();
+    EXPECT_EQ(selected_after_wheel(form.NameCombo), 1);
+    form.NameCombo.SetFocus();
+    EXPECT_EQ(selected_after_wheel(form.NameCombo), 2);
+    form.KindDrop.SetFocus();
+    EXPECT_EQ(selected_after_wheel(form.KindDrop), 1);
+  });
+}
+
 TEST_F(ListsTest, SelectionBeforeTheFormIsShownTellsToo) {
   form.NameCombo.Fill({{"one", 1}, {"two", 2}});
   form.KindDrop.Fill({{"three", 3}});

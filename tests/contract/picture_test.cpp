@@ -42,6 +42,7 @@ TEST_F(PictureTest, ShowsAKnownPictureAndLetsGoOfItsFile) {
   EXPECT_TRUE(form.PhotoPic.Empty());
   EXPECT_EQ(FailureOf("small.bmp"), 0);
   EXPECT_FALSE(form.PhotoPic.Empty());
+  EXPECT_EQ(form.PhotoPic.FileName(), "small.bmp");
   Files::Erase("small.bmp");
   form.PhotoPic.Clear();
   EXPECT_TRUE(form.PhotoPic.Empty());
@@ -78,6 +79,16 @@ TEST_F(PictureTest, FilesThatCannotBeReadFailByTheirNumber) {
   EXPECT_EQ(FailureOf("nowhere\\small.bmp"), kPathNotFound);
   TestFiles::MakeFolder("folder");
   EXPECT_EQ(FailureOf("folder"), kPathFileAccess);
+}
+
+TEST_F(PictureTest, ReadsAFileAgainOnlyWhenItHasChanged) {
+  TestFiles::Put("small.bmp", SmallBitmap());
+  EXPECT_EQ(FailureOf("small.bmp"), 0);
+  TestFiles::HoldByOther("small.bmp", true);
+  EXPECT_EQ(FailureOf("small.bmp"), 0);
+  TestFiles::ReleaseByOther();
+  TestFiles::Put("small.bmp", "no picture");
+  EXPECT_EQ(FailureOf("small.bmp"), kInvalidPicture);
 }
 
 TEST_F(PictureTest, FailingLeavesTheBoxEmpty) {

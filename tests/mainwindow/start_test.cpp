@@ -71,6 +71,24 @@ TEST_F(CommandLineTest, JoinsFoldersAndNames) {
   EXPECT_EQ(FolderOf("Home.FIL"), "");
 }
 
+TEST_F(CommandLineTest, LooksForPhotosBesideTheDataFile) {
+  struct Row {
+    std::string Name, DataFile;
+    std::vector<std::string> Places;
+  };
+  const Row rows[] = {
+      {"a.jpg", "", {R"(C:\W\a.jpg)"}},
+      {R"(p\a.jpg)", R"(C:\D\x.FIL)", {R"(C:\D\p\a.jpg)", R"(C:\W\p\a.jpg)"}},
+      {"p/a.jpg", "C:/D/x.FIL", {R"(C:\D\p\a.jpg)", R"(C:\W\p\a.jpg)"}},
+      {R"(E:\o\p\a.jpg)", "", {R"(E:\o\p\a.jpg)"}},
+      {R"(E:\o/p\a.jpg)", R"(C:\x.FIL)", {R"(E:\o\p\a.jpg)", R"(C:\a.jpg)", R"(C:\p\a.jpg)", R"(C:\o\p\a.jpg)"}},
+      {R"(\p\a.jpg)", R"(C:\x.FIL)", {R"(\p\a.jpg)", R"(C:\a.jpg)", R"(C:\p\a.jpg)"}},
+      {R"(\\s\a.jpg)", R"(C:\x.FIL)", {R"(\\s\a.jpg)", R"(C:\a.jpg)", R"(C:\s\a.jpg)"}},
+      {"E:a.jpg", R"(C:\x.FIL)", {"E:a.jpg", R"(C:\a.jpg)"}},
+  };
+  for (const Row& row : rows) EXPECT_EQ(PhotoPlaces(row.Name, row.DataFile, R"(C:\W)"), row.Places) << row.Name;
+}
+
 class SettingsTest : public FreshTest {
  protected:
   // The list after loading a settings file of these lines: "count: name, name".

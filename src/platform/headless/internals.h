@@ -36,9 +36,11 @@ struct Control::Peer {
   bool ReadOnly = false;  // text box
   int TextLimit = 0;      // text box
   BackColor Back = BackColor::ButtonFace;
-  bool Checked = false;             // option button
-  int Group = 0;                    // option button: those made one after another are one group
-  bool Loaded = false;              // picture
+  bool Checked = false;   // option button
+  int Group = 0;          // option button: those made one after another are one group
+  bool Loaded = false;    // picture
+  std::string PhotoName;  // picture: the file that was loaded, and what it held
+  std::string PhotoBytes;
   std::vector<ListEntry> Entries;   // lists, the check list included
   int Selected = -1;                // lists
   std::vector<bool> Ticks;          // check list
@@ -57,8 +59,9 @@ struct Control::Peer {
   void ChangeText(const std::string& text);
   void ChangeSelection(int position);
   void ChangeTick(int position, bool checked);
-  void Check();  // an option button
-  void Click();  // a label, button or picture; an option button checks
+  void Check();                 // an option button
+  void Click();                 // a label, button or picture; an option button checks
+  void TurnWheel(int notches);  // over a drop-down; positive: towards the person
 };
 
 struct Form::Peer {

@@ -40,6 +40,20 @@ bool TellKey(Form::Peer& peer, const MSG& message) {
   return taken;
 }
 
+// Natively, the wheel selects another entry of any closed drop-down. Asked here, since the messages of drop-downs take
+// no detour.
+bool TurnsDropDownUnasked(const Form::Peer& form, const MSG& message) {
+  if (message.message != WM_MOUSEWHEEL) return false;
+  for (HWND window : {message.hwnd, GetParent(message.hwnd)}) {  // the edit field is a window within
+    const Control* control = form.Find(GetDlgCtrlID(window));
+    if (control == nullptr || control->PeerOf().Window != window || !control->PeerOf().DropsDown()) continue;
+    const Control::Peer& peer = control->PeerOf();
+    if (peer.Send(CB_GETDROPPEDSTATE) != FALSE) return false;
+    return peer.What == Control::Peer::Kind::DropDownList || !control->HasFocus();
+  }
+  return false;
+}
+
 }  // namespace
 
 std::optional<Key> KeyOfCode(WPARAM code) {
@@ -76,6 +90,7 @@ void Dispatch(MSG& message) {
       return;
     }
     if (takes_keys && TellKey(peer, message)) return;
+    if (TurnsDropDownUnasked(peer, message)) return;
     if (IsDialogMessageA(peer.Window, &message)) return;
   }
   TranslateMessage(&message);
