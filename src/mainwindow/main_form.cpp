@@ -15,72 +15,41 @@
 #include "resource.h"
 #include "shell/messages.h"
 
-// A menu entry and the button of the same command.
-struct MainForm::Command {
-  int Item;
-  Button MainForm::*ItsButton;
-  void (MainForm::*Handler)();
-};
-
-std::span<const MainForm::Command> MainForm::Commands() {
-  static constexpr Command kCommands[] = {
-      {IDC_NewItem, &MainForm::NewButton, &MainForm::NewItem_Click},
-      {IDC_OpenItem, &MainForm::OpenButton, &MainForm::OpenItem_Click},
-      {IDC_SaveItem, &MainForm::SaveButton, &MainForm::SaveItem_Click},
-      {IDC_ExitItem, &MainForm::ExitButton, &MainForm::ExitItem_Click},
-      {IDC_AddPersonItem, &MainForm::AddPersonButton, &MainForm::AddPersonItem_Click},
-      {IDC_DeletePersonItem, &MainForm::DeleteButton, &MainForm::DeletePersonItem_Click},
-      {IDC_RenameItem, nullptr, &MainForm::RenameItem_Click},
-      {IDC_PhotoItem, &MainForm::PhotoButton, &MainForm::PhotoButton_Click},
-      {IDC_RemovePhotoItem, nullptr, &MainForm::RemovePhotoItem_Click},
-      {IDC_DataItem, &MainForm::DataButton, &MainForm::DataButton_Click},
-      {IDC_DefCatItem, &MainForm::DefCatButton, &MainForm::DefCatButton_Click},
-      {IDC_AllNamesItem, nullptr, &MainForm::AllNamesItem_Click},
-      {IDC_StartingLetterItem, nullptr, &MainForm::StartingLetterItem_Click},
-      {IDC_AllCategoryItem, nullptr, &MainForm::AllCategoryItem_Click},
-      {IDC_SelCategoryItem, nullptr, &MainForm::SelCategoryItem_Click},
-      {IDC_GivenNameItem, nullptr, &MainForm::GivenNameItem_Click},
-      {IDC_SurnameOrderItem, nullptr, &MainForm::SurnameOrderItem_Click},
-      {IDC_AddressRepItem, nullptr, &MainForm::AddressRepItem_Click},
-      {IDC_ItemValuesItem, nullptr, &MainForm::ItemValuesItem_Click},
-      {IDC_DescendantItem, nullptr, &MainForm::DescendantItem_Click},
-      {IDC_ManualItem, &MainForm::HelpButton, &MainForm::ManualItem_Click},
-      {IDC_FilerHelpItem, nullptr, &MainForm::FilerHelpItem_Click},
-      {IDC_AboutItem, nullptr, &MainForm::AboutItem_Click},
+std::span<const Command<MainForm>> MainForm::Commands() {
+  using F = MainForm;
+  // What does not store leaves the current thing alone, or does so when it comes to that.
+  constexpr auto kNotStoring = [](int item, void (F::*handler)(), Button F::*button = nullptr) {
+    return Command<F>{item, button, handler, nullptr, nullptr, false};
+  };
+  static constexpr Command<F> kCommands[] = {
+      {IDC_NewItem, &F::NewButton, &F::NewItem_Click},
+      {IDC_OpenItem, nullptr, &F::OpenItem_Click},
+      {IDC_SaveItem, &F::SaveButton, &F::SaveItem_Click},
+      {IDC_ExitItem, nullptr, &F::ExitItem_Click},
+      {IDC_AddPersonItem, &F::AddPersonButton, &F::AddPersonItem_Click},
+      kNotStoring(IDC_DeletePersonItem, &F::DeletePersonItem_Click, &F::DeleteButton),
+      {IDC_RenameItem, nullptr, &F::RenameItem_Click},
+      {IDC_PhotoItem, &F::PhotoButton, &F::PhotoButton_Click},
+      {IDC_RemovePhotoItem, nullptr, &F::RemovePhotoItem_Click},
+      {IDC_DataItem, &F::DataButton, &F::DataButton_Click},
+      {IDC_DefCatItem, &F::DefCatButton, &F::DefCatButton_Click},
+      kNotStoring(IDC_AllNamesItem, &F::AllNamesItem_Click),
+      kNotStoring(IDC_StartingLetterItem, &F::StartingLetterItem_Click),
+      kNotStoring(IDC_AllCategoryItem, &F::AllCategoryItem_Click),
+      kNotStoring(IDC_SelCategoryItem, &F::SelCategoryItem_Click),
+      kNotStoring(IDC_GivenNameItem, &F::GivenNameItem_Click),
+      kNotStoring(IDC_SurnameOrderItem, &F::SurnameOrderItem_Click),
+      kNotStoring(IDC_AddressRepItem, &F::AddressRepItem_Click),
+      kNotStoring(IDC_ItemValuesItem, &F::ItemValuesItem_Click),
+      kNotStoring(IDC_DescendantItem, &F::DescendantItem_Click),
+      kNotStoring(IDC_ManualItem, &F::ManualItem_Click, &F::HelpButton),
+      kNotStoring(IDC_FilerHelpItem, &F::FilerHelpItem_Click),
+      kNotStoring(IDC_AboutItem, &F::AboutItem_Click),
   };
   return kCommands;
 }
 
-MainForm::MainForm(std::string command_line)
-    : Form(IDD_MainForm),
-      NewButton(*this, IDC_NewButton),
-      OpenButton(*this, IDC_OpenButton),
-      SaveButton(*this, IDC_SaveButton),
-      AddPersonButton(*this, IDC_AddPersonButton),
-      DeleteButton(*this, IDC_DeleteButton),
-      HelpButton(*this, IDC_HelpButton),
-      ExitButton(*this, IDC_ExitButton),
-      AllLabel(*this, IDC_AllLabel),
-      PersonCombo(*this, IDC_PersonCombo),
-      CategoryFilterLabel(*this, IDC_CategoryFilterLabel),
-      HintLabel(*this, IDC_HintLabel),
-      NoteBox(*this, IDC_NoteBox),
-      FatherLabel(*this, IDC_FatherLabel),
-      MotherLabel(*this, IDC_MotherLabel),
-      FatherCombo(*this, IDC_FatherCombo),
-      MotherCombo(*this, IDC_MotherCombo),
-      PhotoLabel(*this, IDC_PhotoLabel),
-      PhotoPic(*this, IDC_PhotoPic),
-      HiddenPic(*this, IDC_HiddenPic),
-      PhotoButton(*this, IDC_PhotoButton),
-      DataButton(*this, IDC_DataButton),
-      CatLabel(*this, IDC_CatLabel),
-      CatList(*this, IDC_CatList),
-      DefCatButton(*this, IDC_DefCatButton),
-      command_line_(std::move(command_line)) {
-  for (int index = 0; index < kLetters; ++index) {
-    LetterLabel[static_cast<std::size_t>(index)] = std::make_unique<Label>(*this, IDC_LetterLabel + index);
-  }
+MainForm::MainForm(std::string command_line) : Form(IDD_MainForm), command_line_(std::move(command_line)) {
   WireEvents();
 }
 
@@ -94,38 +63,26 @@ Event MainForm::On(void (MainForm::*handler)()) {
   };
 }
 
-// A command acts on what the thing list shows, whether or not the focus had to leave the list for it.
-Event MainForm::OnCommand(void (MainForm::*handler)()) {
-  return [this, handler] {
-    LeaveThingList();
-    (this->*handler)();
+void MainForm::WireEvents() {
+  // A command acts on what the thing list shows, whether or not the focus had to leave the list for it.
+  commands_.Before = [this](bool stores) {
+    Picker.LeaveThingList();
+    if (stores) StoreEdits();
+    return true;
+  };
+  commands_.After = [this] { RefreshFrame(); };
+  OpenButton.Click = [this] { OpenButton_Click(); };
+  ExitButton.Click = [this] { ExitButton_Click(); };
+  EnterKey = [this] { Picker.EnterKey(); };
+  EscapeKey = [this] { Picker.EscapeKey(); };
+  HelpKey = [this] { commands_.Run(IDC_ManualItem); };
+  Picker.StoreEdits = [this] { StoreEdits(); };
+  Picker.Picked = [this] {
+    DisplayThing();
+    TheDocument.PendingEdits = false;
     RefreshFrame();
   };
-}
-
-void MainForm::WireEvents() {
-  for (const Command& command : Commands()) {
-    if (command.ItsButton != nullptr) (this->*command.ItsButton).Click = OnCommand(command.Handler);
-  }
-  OpenButton.Click = OnCommand(&MainForm::OpenButton_Click);
-  ExitButton.Click = OnCommand(&MainForm::ExitButton_Click);
-  MenuClick = [this](int id) { RunCommand(id); };
-  EnterKey = On(&MainForm::Enter_Press);
-  EscapeKey = On(&MainForm::Escape_Press);
-  HelpKey = OnCommand(&MainForm::ManualItem_Click);
-  AllLabel.Click = OnCommand(&MainForm::AllLabel_Click);
-  for (int index = 0; index < kLetters; ++index) {
-    LetterLabel[static_cast<std::size_t>(index)]->Click = [this, index] {
-      LeaveThingList();
-      LetterLabel_Click(index);
-      RefreshFrame();
-    };
-  }
-  CategoryFilterLabel.Click = OnCommand(&MainForm::CategoryFilterLabel_Click);
-  PersonCombo.Click = On(&MainForm::PersonCombo_Click);
-  PersonCombo.Change = [this] { PersonCombo_Change(); };
-  PersonCombo.GotFocus = [this] { MarkShownName(); };
-  PersonCombo.LostFocus = On(&MainForm::LeaveThingList);
+  Picker.Narrowed = On(&MainForm::Redisplay);
   NoteBox.Change = On(&MainForm::NoteBox_Change);
   NoteBox.LostFocus = [this] { Later(On(&MainForm::NoteBox_LostFocus)); };
   FatherCombo.Click = MotherCombo.Click = On(&MainForm::LinkCombo_Click);
@@ -134,14 +91,6 @@ void MainForm::WireEvents() {
     CatList_ItemCheck(position);
     RefreshFrame();
   };
-}
-
-void MainForm::RunCommand(int id) {
-  LeaveThingList();
-  for (const Command& command : Commands()) {
-    if (command.Item == id) (this->*command.Handler)();
-  }
-  RefreshFrame();
 }
 
 void MainForm::RefreshFrame() {
@@ -155,11 +104,12 @@ void MainForm::RefreshFrame() {
 
 // The note and the lists grow with the window; the photo keeps its corner.
 void MainForm::AnchorControls() {
-  for (Control* control : std::initializer_list<Control*>{&HelpButton, &ExitButton, &CategoryFilterLabel, &PhotoLabel,
-                                                          &PhotoPic, &PhotoButton, &DataButton, &CatLabel}) {
+  for (Control* control :
+       std::initializer_list<Control*>{&HelpButton, &ExitButton, &Picker.CategoryFilterLabel, &PhotoLabel, &PhotoPic,
+                                       &PhotoButton, &DataButton, &CatLabel}) {
     Anchor(*control, kEdgeTop | kEdgeRight);
   }
-  Anchor(PersonCombo, kEdgeLeft | kEdgeTop | kEdgeRight);
+  Anchor(Picker.PersonCombo, kEdgeLeft | kEdgeTop | kEdgeRight);
   Anchor(HintLabel, kEdgeLeft | kEdgeTop | kEdgeRight);
   Anchor(NoteBox, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
   for (Control* control : std::initializer_list<Control*>{&FatherCombo, &MotherCombo}) {
@@ -184,9 +134,7 @@ void MainForm::Form_Load() {
   AnchorControls();
   HintLabel.SetText(
       "There are no things yet.\r\n\r\nChoose Edit, Add Thing to add the first one, or File, Open to open a file.");
-  ShowTabs();
   MakeNew();
-  ShowNameOrder();
   TheStart = command_line_.empty() ? StartOptions{} : ParseCommandLine(command_line_);
   LoadSettings();
   TheDocument.Writable = true;
@@ -199,7 +147,7 @@ void MainForm::Form_Load() {
 void MainForm::Form_Activate() {
   if (shown_before_ || dialog_open_) return;
   shown_before_ = true;
-  PersonCombo.SetFocus();
+  Picker.PersonCombo.SetFocus();
   bool show = true;
   if (!TheDocument.DocumentOpen && TheRecentFiles.Count > 0) {
     OpenItem_Click();
@@ -236,9 +184,8 @@ void MainForm::Form_QueryUnload(bool& cancel, UnloadMode mode) {
   if (mode == UnloadMode::WindowsShutdown) {
     EndSession();
   } else {
-    ExitItem_Click();
+    commands_.Run(IDC_ExitItem);
   }
-  RefreshFrame();
 }
 
 void MainForm::Run() {

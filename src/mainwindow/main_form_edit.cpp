@@ -26,7 +26,6 @@ struct NoRecentFiles {
 }  // namespace
 
 void MainForm::AddPersonItem_Click() {
-  StoreEdits();
   const std::string name = NormaliseName(InputBox("Please type the name for the new object.", Global::ProgramTitle));
   if (name.empty()) return;
   if (FindThing(name) != 0) {
@@ -54,7 +53,7 @@ void MainForm::DeletePersonItem_Click() {
   if (TheDocument.Things.Count() == 0) {
     AddPersonButton.SetFocus();
   } else {
-    PersonCombo.SetFocus();
+    Picker.PersonCombo.SetFocus();
   }
   Global::Say("Record deleted.", Icon::Information);
 }
@@ -65,7 +64,6 @@ void MainForm::RenameItem_Click() {
     Global::Say("No thing is displayed to rename.", Icon::Exclamation);
     return;
   }
-  StoreEdits();
   const std::string name =
       NormaliseName(InputBox("Please type the new name for " + thing->NAME, Global::ProgramTitle, thing->NAME));
   if (name.empty()) return;
@@ -86,7 +84,6 @@ void MainForm::PhotoButton_Click() {
     Global::Say("First choose or add a thing, then click the button to select a portrait file.", Icon::Exclamation);
     return;
   }
-  StoreEdits();
   FileRequest request;
   request.Mode = FileRequest::Kind::Read;
   request.Folder = TheStart.WorkingFolder;
@@ -109,7 +106,6 @@ void MainForm::RemovePhotoItem_Click() {
     Global::Say("No photo is displayed to remove.", Icon::Information);
     return;
   }
-  StoreEdits();
   thing->PICFILENAME.clear();
   TheDocument.Modified = true;
   Redisplay();
@@ -120,7 +116,6 @@ void MainForm::DataButton_Click() {
     Global::Say("First choose or add a thing, then click the MORE button.", Icon::Exclamation);
     return;
   }
-  StoreEdits();
   FactForm().ShowModal();
   // Renaming and deleting fields change things even when the dialog is cancelled.
   ThingDataChanged = false;
@@ -128,16 +123,11 @@ void MainForm::DataButton_Click() {
 }
 
 void MainForm::DefCatButton_Click() {
-  StoreEdits();
   CatDefForm form;
   form.ShowModal();
   if (!form.Accepted) return;
   TheDocument.Modified = true;
-  if (view_.SelectedCategory != 0 && TheDocument.CategoryNames[view_.SelectedCategory].empty()) {
-    view_.SelectedCategory = 0;
-    view_.CategoryMask = 0;
-  }
-  ShowCategoryFilter();
+  Picker.CategoriesRenamed();
   FillCategoryList();
   Redisplay();
 }

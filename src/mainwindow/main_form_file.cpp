@@ -37,10 +37,7 @@ bool LoadCopyOf(const std::string& full_name) {
 
 void MainForm::MakeNew() {
   ::MakeNew();
-  view_.SelectedCategory = 0;
-  view_.CategoryMask = 0;
-  ShowCategoryFilter();
-  ClearStartingLetter();
+  Picker.Reset();
   FillCategoryList();
   Redisplay();
 }
@@ -64,14 +61,12 @@ bool MainForm::KeepUnasked() {
 }
 
 void MainForm::NewItem_Click() {
-  StoreEdits();
   if (!MayAbandon() || !KeepUnasked()) return;
   MakeNew();
   AddPersonButton.SetFocus();
 }
 
 void MainForm::OpenItem_Click() {
-  StoreEdits();
   if (!MayAbandon()) return;
   FileRequest request;
   request.Mode = FileRequest::Kind::Read;
@@ -103,13 +98,11 @@ bool MainForm::LoadDocument(const std::string& full_name, const std::string& nam
 }
 
 void MainForm::SaveItem_Click() {
-  StoreEdits();
   const FlagScope scope(dialog_open_);
   SaveDocument([this] { RefreshFrame(); });
 }
 
 void MainForm::ExitItem_Click() {
-  StoreEdits();
   RefreshFrame();
   if (TheDocument.Modified && !MayExit()) return;
   ReleaseFileLock();

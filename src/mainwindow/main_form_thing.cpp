@@ -1,5 +1,7 @@
 // MainForm's current thing: its display, and the step that stores what was typed.
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "document/document.h"
 #include "document/text.h"
@@ -57,6 +59,20 @@ void MainForm::StoreEdits() {
   if (!ValidateText(note)) return;
   const FlagScope scope(displaying_);
   NoteBox.SetText(note);
+}
+
+void MainForm::Redisplay() {
+  const FlagScope scope(displaying_);
+  Picker.FillThingList(TheDocument.CurrentThing);
+  FillLinkLists();
+  DisplayThing();
+}
+
+void MainForm::FillLinkLists() {
+  if (AreLinks(FatherCombo.Entries(), Picker.NounOrder())) return;
+  std::vector<ListEntry> links = ListLinks(Picker.NounOrder());
+  FatherCombo.Fill(links);
+  MotherCombo.Fill(std::move(links));
 }
 
 namespace {

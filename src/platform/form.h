@@ -66,6 +66,8 @@ class Form {
   bool MenuEnabled(int id) const;
   void SetMenuChecked(int id, bool checked);
   bool MenuChecked(int id) const;
+  void SetMenuText(int id, std::string_view text);  // "&" and tab as in a template; the template's own comes first
+  std::string MenuText(int id) const;               // as set last, empty before
 
   // The entry or accelerator was chosen; only enabled entries are told of.
   std::function<void(int id)> MenuClick;

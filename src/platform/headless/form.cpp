@@ -94,6 +94,13 @@ void Form::SetMenuChecked(int id, bool checked) {
   }
 }
 
+void Form::SetMenuText(int id, std::string_view text) { peer_->MenuTexts[id] = text; }
+
+std::string Form::MenuText(int id) const {
+  const auto found = peer_->MenuTexts.find(id);
+  return found == peer_->MenuTexts.end() ? std::string() : found->second;
+}
+
 bool Form::MenuChecked(int id) const { return peer_->MenuTicked.contains(id); }
 
 // Nothing has a place here.

@@ -78,6 +78,7 @@ struct Form::Peer {
   std::vector<Event> Deferred;
   std::set<int> MenuGreyed;
   std::set<int> MenuTicked;
+  std::map<int, std::string> MenuTexts;
 
   Control* Find(int id) const;       // nullptr when there is none
   void MoveFocus(Control* control);  // raises LostFocus and GotFocus while the form is shown

@@ -234,6 +234,22 @@ bool Form::MenuEnabled(int id) const {
   return state != static_cast<UINT>(-1) && (state & (MF_GRAYED | MF_DISABLED)) == 0;
 }
 
+void Form::SetMenuText(int id, std::string_view text) {
+  std::string& shown = peer_->MenuTexts[id];
+  if (shown == text) return;
+  shown = text;
+  MENUITEMINFOA entry{};
+  entry.cbSize = sizeof entry;
+  entry.fMask = MIIM_STRING;
+  entry.dwTypeData = shown.data();
+  SetMenuItemInfoA(GetMenu(peer_->Window), static_cast<UINT>(id), FALSE, &entry);
+}
+
+std::string Form::MenuText(int id) const {
+  const auto found = peer_->MenuTexts.find(id);
+  return found == peer_->MenuTexts.end() ? std::string() : found->second;
+}
+
 void Form::SetMenuChecked(int id, bool checked) {
   CheckMenuItem(GetMenu(peer_->Window), static_cast<UINT>(id), MF_BYCOMMAND | (checked ? MF_CHECKED : MF_UNCHECKED));
 }

@@ -22,6 +22,7 @@ struct Form::Peer {
   HFONT BoldFont = nullptr;
   HWND TipWindow = nullptr;
   std::map<int, Control*> Controls;
+  std::map<int, std::string> MenuTexts;
   Layout Sizes;
   const Control* Below = nullptr;
 
