@@ -50,6 +50,7 @@ TEST_F(ListsTest, ClickComesOnceAndOnlyWhenTheSelectionMoved) {
     Does([&] { list.Select(2), list.Select(2); }, click("2", "Smith"));
     EXPECT_EQ(list.SelectedData(), 33);
     Does([&] { user.Picks(id, "Smith"), user.Picks(id, "Smith"); }, click("0", "Smith"));
+    EXPECT_EQ(list.SelectedData(-5), 11);
     Does([&] { user.Picks(id, "smith"), user.PicksAt(id, 1); }, click("1", "smith"));
     EXPECT_EQ(list.SelectedData() + list.Selected(), 22 + 1);
     EXPECT_EQ(user.SeesSelected(id), "smith");

@@ -25,23 +25,19 @@ TEST(RegistryTest, KeysOpenByPathAndValuesTellTypeSizeAndText) {
   EXPECT_TRUE(open.IsOpen());
   for (const auto& row : rows) {
     for (const std::string& name : {std::string(row.Name), UpperCase(row.Name)}) {
-      const auto value = open.Query(name);
-      ASSERT_TRUE(value.has_value()) << name;
-      EXPECT_EQ(value->Type, row.Type) << name;
-      EXPECT_EQ(value->Size, row.Text.size() + 1) << name;
-      EXPECT_EQ(open.ReadText(name, value->Size), row.Text) << name;
-      EXPECT_EQ(open.ReadText(name, value->Size - 1), std::nullopt) << name;
+      const RegistryValue value = open.Query(name).value_or(RegistryValue());
+      EXPECT_EQ(std::make_pair(value.Type, value.Size), std::make_pair(row.Type, row.Text.size() + 1)) << name;
+      EXPECT_EQ(open.ReadText(name, value.Size), row.Text) << name;
+      EXPECT_EQ(open.ReadText(name, value.Size - 1), std::nullopt) << name;
     }
   }
-  // A key may have no value of that name, or no default one, or not be there.
-  for (const auto& [root, path, is_open] : std::initializer_list<std::tuple<RegistryRoot, std::string, bool>>{
-           {RegistryRoot::CurrentUser, class_key, true},
-           {RegistryRoot::CurrentUser, key.substr(0, key.size() - 1), false},
-           {RegistryRoot::LocalMachine, key, false}}) {
-    const RegistryKey other(root, path);
-    EXPECT_EQ(other.IsOpen(), is_open) << path;
-    EXPECT_FALSE(other.Query("") || other.ReadText("", 100) || open.Query("missing") || open.ReadText("missing", 100));
-  }
+  const RegistryKey empty(RegistryRoot::CurrentUser, class_key);
+  EXPECT_TRUE(empty.IsOpen());
+  const RegistryKey cut(RegistryRoot::CurrentUser, key.substr(0, key.size() - 1)),
+      other(RegistryRoot::LocalMachine, key);
+  EXPECT_FALSE(cut.IsOpen() || other.IsOpen());
+  for (const RegistryKey* none : {&empty, &cut, &other}) EXPECT_FALSE(none->Query("") || none->ReadText("", 100));
+  EXPECT_FALSE(open.Query("missing") || open.ReadText("missing", 100));
   TestRegistry::Remove(class_key);
 }
 
