@@ -10,12 +10,16 @@
 namespace {
 
 TEST_F(FormTest, LivesFromLoadToUnloadAndMayRefuseToGo) {
-  form.OnLoad = [&] { form.HintLabel.SetText("loaded"); };
   form.SetCaption("Larkspur && caf\xE9");
+  form.KindDrop.Fill({{"early", 1}});
+  Does([&] { form.KindDrop.Select(0), form.LineBox.SetText("x"); }, "KindDrop Click 0 early, LineBox Change x");
+  form.OnLoad = [&] { form.HintLabel.SetText("loaded"), form.LinesBox.SetFocus(); };
   Does([&] { Use({}); }, "Load, Activate, CancelButton Click, QueryUnload Code, Unload");
   EXPECT_TRUE(form.Closed());
   Use([&] {
-    EXPECT_EQ(user.SeesCaption() + user.Sees(IDC_HintLabel), "Larkspur && caf\xE9loaded");
+    EXPECT_EQ(user.SeesCaption() + user.Sees(IDC_LineBox) + user.Sees(IDC_HintLabel), "Larkspur && caf\xE9xloaded");
+    EXPECT_EQ(user.SeesSelected(IDC_KindDrop), "early");
+    EXPECT_TRUE(user.SeesFocusOn(IDC_LinesBox));
     form.Refuses = true;
     Does([&] { form.Close(); }, "QueryUnload Code");
     EXPECT_FALSE(form.Closed());
@@ -45,80 +49,72 @@ TEST_F(FormTest, MainFormRunsUntilClosedAndSurvivesWhatAHandlerThrows) {
   bare.RunUntilClosed();
 }
 
-TEST_F(FormTest, KeysAreClicksOrTold) {
+TEST_F(ShownFormTest, KeysAreClicksOrTold) {
   std::vector<Key> keys;
   form.KeyDown = [&](Key key) {
     keys.push_back(key);
     return keys.size() < 9;
   };
-  Use([&] {
-    form.OKButton.SetEnabled(false);
-    Does([&] { user.Presses(Key::Enter); }, "");
-    form.OKButton.SetEnabled(true);
-    form.Refuses = true;
-    Does([&] { user.Presses(Key::Enter); }, "OKButton Click, QueryUnload Code");
-    Does([&] { user.Presses(Key::Escape); }, "CancelButton Click, QueryUnload Code");
-    form.Refuses = false;
-    for (const int id : {IDC_LinesBox, IDC_SmallOption, IDC_NameCombo, IDC_TickList, IDC_OKButton, IDC_FirstButton}) {
-      user.MovesTo(id);
-      Does([&] { user.Presses(Key::Help); }, "HelpKey");
-      EXPECT_TRUE(user.SeesFocusOn(id)) << id;
-    }
-    Does([&] { user.Presses(Key::Enter); }, "FirstButton Click");
-    const std::vector<Key> walk = {Key::Left,   Key::Right,    Key::Up,   Key::Down,
-                                   Key::PageUp, Key::PageDown, Key::Home, Key::End};
-    for (const Key key : walk) user.Presses(key);
-    EXPECT_EQ(keys, walk);
-    EXPECT_TRUE(user.SeesFocusOn(IDC_FirstButton));  // an arrow would have moved it on, had it not been kept
-    user.Presses(Key::Home);
-    EXPECT_EQ(keys.size(), 9U);
-  });
+  form.OKButton.SetEnabled(false);
+  Does([&] { user.Presses(Key::Enter); }, "");
+  form.OKButton.SetEnabled(true);
+  form.Refuses = true;
+  Does([&] { user.Presses(Key::Enter); }, "OKButton Click, QueryUnload Code");
+  Does([&] { user.Presses(Key::Escape); }, "CancelButton Click, QueryUnload Code");
+  form.Refuses = false;
+  for (const int id : {IDC_LinesBox, IDC_SmallOption, IDC_NameCombo, IDC_TickList, IDC_OKButton, IDC_FirstButton}) {
+    user.MovesTo(id);
+    Does([&] { user.Presses(Key::Help); }, "HelpKey");
+    EXPECT_TRUE(user.SeesFocusOn(id)) << id;
+  }
+  Does([&] { user.Presses(Key::Enter); }, "FirstButton Click");
+  const std::vector<Key> walk = {Key::Left,   Key::Right,    Key::Up,   Key::Down,
+                                 Key::PageUp, Key::PageDown, Key::Home, Key::End};
+  for (const Key key : walk) user.Presses(key);
+  EXPECT_EQ(keys, walk);
+  EXPECT_TRUE(user.SeesFocusOn(IDC_FirstButton));  // an arrow would have moved it on, had it not been kept
+  user.Presses(Key::Home);
+  EXPECT_EQ(keys.size(), 9U);
   Use(bare, [&] {
     user.MovesTo(IDC_BareBox);
     Does([&] { user.Presses(Key::Enter), user.Presses(Key::Escape); }, "bare EnterKey, bare EscapeKey");
   });
 }
 
-TEST_F(FormTest, WhatIsForLaterComesBehindTheClickThatMovedTheFocus) {
+TEST_F(ShownFormTest, WhatIsForLaterComesBehindTheClickThatMovedTheFocus) {
   form.LineBox.LostFocus = [&] { form.Later([] { Log("Later"); }); };
-  Use([&] {
-    user.MovesTo(IDC_LineBox);
-    Does([&] { user.Clicks(IDC_FirstButton); }, "FirstButton Click, Later");
-    user.MovesTo(IDC_LineBox);
-    Does([&] { user.MovesTo(IDC_FirstButton); }, "Later");
-  });
+  user.MovesTo(IDC_LineBox);
+  Does([&] { user.Clicks(IDC_FirstButton); }, "FirstButton Click, Later");
+  user.MovesTo(IDC_LineBox);
+  Does([&] { user.MovesTo(IDC_FirstButton); }, "Later");
 }
 
-TEST_F(FormTest, TheFormAboveTakesEveryActAndGivesTheFocusBack) {
+TEST_F(ShownFormTest, TheFormAboveTakesEveryActAndGivesTheFocusBack) {
   LogsFocus = true;
   form.MenuClick = [&](int) { bare.ShowModal(); };
-  Use([&] {
-    user.MovesTo(IDC_LinesBox);
-    user.UsesForm(IDD_BareForm, [&] {
-      EXPECT_TRUE(bare.BareBox.HasFocus() && !form.LinesBox.HasFocus());
-      Does([&] { user.Presses(Key::Help); }, "bare HelpKey");
-      user.ClosesWindow();
-    });
-    Does([&] { user.ChoosesMenu(IDC_PlainItem); }, "bare QueryUnload ControlMenu, bare Unload, Activate");
-    EXPECT_TRUE(form.LinesBox.HasFocus() && user.SeesFocusOn(IDC_LinesBox));
-    Does([&] { user.Types(IDC_LinesBox, "x"); }, "LinesBox Change x");
+  user.MovesTo(IDC_LinesBox);
+  user.UsesForm(IDD_BareForm, [&] {
+    EXPECT_TRUE(bare.BareBox.HasFocus() && !form.LinesBox.HasFocus());
+    Does([&] { user.Presses(Key::Help); }, "bare HelpKey");
+    user.ClosesWindow();
   });
+  Does([&] { user.ChoosesMenu(IDC_PlainItem); }, "bare QueryUnload ControlMenu, bare Unload, Activate");
+  EXPECT_TRUE(form.LinesBox.HasFocus() && user.SeesFocusOn(IDC_LinesBox));
+  Does([&] { user.Types(IDC_LinesBox, "x"); }, "LinesBox Change x");
 }
 
-TEST_F(FormTest, MenuEntriesAreEnabledCheckedAndTold) {
-  Use([&] {
-    for (const bool on : {false, true}) {
-      form.SetMenuEnabled(IDC_GreyItem, on);
-      form.SetMenuChecked(IDC_TickItem, on);
-      for (const int id : {IDC_PlainItem, IDC_GreyItem, IDC_TickItem}) {
-        EXPECT_EQ(user.SeesMenuEnabled(id), on || id != IDC_GreyItem) << id;
-        EXPECT_EQ(form.MenuEnabled(id), on || id != IDC_GreyItem) << id;
-        EXPECT_EQ(user.SeesMenuChecked(id), on && id == IDC_TickItem) << id;
-        EXPECT_EQ(form.MenuChecked(id), on && id == IDC_TickItem) << id;
-      }
+TEST_F(ShownFormTest, MenuEntriesAreEnabledCheckedAndTold) {
+  for (const bool on : {false, true}) {
+    form.SetMenuEnabled(IDC_GreyItem, on);
+    form.SetMenuChecked(IDC_TickItem, on);
+    for (const int id : {IDC_PlainItem, IDC_GreyItem, IDC_TickItem}) {
+      EXPECT_EQ(user.SeesMenuEnabled(id), on || id != IDC_GreyItem) << id;
+      EXPECT_EQ(form.MenuEnabled(id), on || id != IDC_GreyItem) << id;
+      EXPECT_EQ(user.SeesMenuChecked(id), on && id == IDC_TickItem) << id;
+      EXPECT_EQ(form.MenuChecked(id), on && id == IDC_TickItem) << id;
     }
-    Does([&] { user.ChoosesMenu(IDC_GreyItem); }, "Menu 5042");
-  });
+  }
+  Does([&] { user.ChoosesMenu(IDC_GreyItem); }, "Menu 5042");
 }
 
 TEST_F(FormTest, WhatAHandlerThrowsComesOutAfterTheFormHasGone) {

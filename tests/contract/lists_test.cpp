@@ -5,16 +5,11 @@
 
 namespace {
 
-class ListsTest : public FormTest {
+class ListsTest : public ShownFormTest {
  protected:
-  // Acts on each list in turn. Its events are named as in the log; a drop-down's text follows within Click.
-  void UseEach(const std::function<void(ListControl&, const std::string& name, bool drops)>& acts) {
-    Use([&] {
-      acts(form.NameCombo, "NameCombo", true);
-      acts(form.KindDrop, "KindDrop", true);
-      acts(form.EntryList, "EntryList", false);
-    });
-  }
+  // With the names they have in the log.
+  std::vector<std::pair<ListControl*, std::string>> lists = {
+      {&form.NameCombo, "NameCombo"}, {&form.KindDrop, "KindDrop"}, {&form.EntryList, "EntryList"}};
 };
 
 TEST_F(ListsTest, EntriesKeepOrderTextAndDataAsManyAsThereCanBeRecords) {
@@ -22,7 +17,8 @@ TEST_F(ListsTest, EntriesKeepOrderTextAndDataAsManyAsThereCanBeRecords) {
                                 {"caf\xE9 & b", 0}, {"", -2147483647}, {" x ", 7}};
   std::vector<ListEntry> many;
   for (int number = 32767; number >= 1; --number) many.push_back({"Thing " + std::to_string(number), number});
-  UseEach([&](ListControl& list, const std::string& name, bool /*drops*/) {
+  for (const auto& [each, name] : lists) {
+    ListControl& list = *each;
     for (const std::vector<ListEntry>& entries : {odd, many, odd}) {
       Does([&] { list.Fill(entries); }, "");
       EXPECT_EQ(list.Entries(), entries) << name;
@@ -33,17 +29,15 @@ TEST_F(ListsTest, EntriesKeepOrderTextAndDataAsManyAsThereCanBeRecords) {
       EXPECT_EQ(list.SelectedData(), entries.back().Data) << name;
       EXPECT_EQ(user.SeesSelected(list.Id()), entries.back().Text) << name;
     }
-  });
+  }
 }
 
 TEST_F(ListsTest, ClickComesOnceAndOnlyWhenTheSelectionMoved) {
-  form.KindDrop.Fill({{"early", 1}});
-  Does([&] { form.KindDrop.Select(0); }, "KindDrop Click 0 early");
-  UseEach([&](ListControl& list, const std::string& name, bool drops) {
-    SCOPED_TRACE(name);
+  for (const auto& each : lists) {
+    ListControl& list = *each.first;
     const int id = list.Id();
     const auto click = [&](const std::string& position, const char* text) {
-      return name + " Click " + position + " " + (drops ? text : "");
+      return each.second + " Click " + position + " " + (&list == &form.EntryList ? "" : text);
     };
     list.Fill({{"Smith", 11}, {"smith", 22}, {"Smith", 33}});
     EXPECT_EQ(list.SelectedData(-5), -5);
@@ -72,67 +66,63 @@ TEST_F(ListsTest, ClickComesOnceAndOnlyWhenTheSelectionMoved) {
     Does([&] { user.Picks(id, "two"); }, "Click");
     EXPECT_EQ(list.Entries().size(), 1U);
     EXPECT_EQ(list.Selected(), -1);
-  });
+  }
 }
 
 TEST_F(ListsTest, ComboTextMayBeAnything) {
   form.NameCombo.Fill({{"one", 1}, {"twenty", 2}});
-  Use([&] {
-    Does([&] { user.Types(IDC_NameCombo, "three"), form.NameCombo.SetText("three"); }, "NameCombo Change three");
-    Does([&] { user.Picks(IDC_NameCombo, "one"); }, "NameCombo Click 0 one");
-    EXPECT_EQ(user.Sees(IDC_NameCombo), "one");
-    for (const Event& act :
-         {Event([&] { user.Types(IDC_NameCombo, "on"); }), Event([&] { form.NameCombo.SetText("on"); })}) {
-      form.NameCombo.Select(0);
-      Does(act, "NameCombo Change on");
-      EXPECT_EQ(form.NameCombo.Selected(), -1);
-    }
-    EXPECT_EQ(form.NameCombo.Entries().size(), 2U);
-    Does([&] { form.NameCombo.Fill({{"one", 1}, {"twenty", 2}}); }, "");
-    EXPECT_EQ(form.NameCombo.Text(), "");
-    // Its handler may complete the text.
-    form.NameCombo.Change = [&, tell = form.NameCombo.Change] {
-      tell();
-      if (form.NameCombo.Text() != "tw") return;
-      form.NameCombo.SetText("twenty");
-      form.NameCombo.SelectText(2, 6);
-    };
-    Does([&] { user.Types(IDC_NameCombo, "tw"); }, "NameCombo Change tw, NameCombo Change twenty");
-    EXPECT_EQ(user.Sees(IDC_NameCombo), "twenty");
-    // A drop-down's is one of its entries or nothing.
-    form.KindDrop.Fill({{"red", 1}, {"green", 2}});
-    Does([&] { form.KindDrop.SetText("green"), form.KindDrop.SetText("blue"); },
-         "KindDrop Click 1 green, KindDrop Click -1 ");
-  });
+  Does([&] { user.Types(IDC_NameCombo, "three"), form.NameCombo.SetText("three"); }, "NameCombo Change three");
+  Does([&] { user.Picks(IDC_NameCombo, "one"); }, "NameCombo Click 0 one");
+  EXPECT_EQ(user.Sees(IDC_NameCombo), "one");
+  for (const Event& act :
+       {Event([&] { user.Types(IDC_NameCombo, "on"); }), Event([&] { form.NameCombo.SetText("on"); })}) {
+    form.NameCombo.Select(0);
+    Does(act, "NameCombo Change on");
+    EXPECT_EQ(form.NameCombo.Selected(), -1);
+  }
+  EXPECT_EQ(form.NameCombo.Entries().size(), 2U);
+  Does([&] { form.NameCombo.Fill({{"one", 1}, {"twenty", 2}}); }, "");
+  EXPECT_EQ(form.NameCombo.Text(), "");
+  // Its handler may complete the text.
+  form.NameCombo.Change = [&, tell = form.NameCombo.Change] {
+    tell();
+    if (form.NameCombo.Text() != "tw") return;
+    form.NameCombo.SetText("twenty");
+    form.NameCombo.SelectText(2, 6);
+  };
+  Does([&] { user.Types(IDC_NameCombo, "tw"); }, "NameCombo Change tw, NameCombo Change twenty");
+  EXPECT_EQ(user.Sees(IDC_NameCombo), "twenty");
+  // A drop-down's is one of its entries or nothing.
+  form.KindDrop.Fill({{"red", 1}, {"green", 2}});
+  Does([&] { form.KindDrop.SetText("green"), form.KindDrop.SetText("blue"); },
+       "KindDrop Click 1 green, KindDrop Click -1 ");
 }
 
 TEST_F(ListsTest, ChecksAreTurnedOver) {
   using Texts = std::vector<std::string>;
   CheckList& list = form.TickList;
-  Use([&] {
-    Does([&] { list.Fill({"b", "a", "C & D", "a"}); }, "");
-    EXPECT_EQ(list.Count(), 4);
-    EXPECT_EQ(user.SeesEntries(IDC_TickList), (Texts{"b", "a", "C & D", "a"}));
-    EXPECT_EQ(user.SeesTicked(IDC_TickList), Texts{});
-    Does([&] { list.SetChecked(3, true), list.SetChecked(3, true); }, "TickList ItemCheck 3 on");
-    Does([&] { user.Ticks(IDC_TickList, "C & D"); }, "TickList ItemCheck 2 on");
-    EXPECT_EQ(user.SeesTicked(IDC_TickList), (Texts{"C & D", "a"}));
-    Does([&] { list.SetChecked(3, false), list.SetChecked(0, false); }, "TickList ItemCheck 3 off");
-    Does([&] { user.Ticks(IDC_TickList, "C & D"); }, "TickList ItemCheck 2 off");
-    // Its handler may turn another check over.
-    list.ItemCheck = [&, tell = list.ItemCheck](int position) {
-      tell(position);
-      if (position == 0) list.SetChecked(1, !list.Checked(1));
-    };
-    Does([&] { user.Ticks(IDC_TickList, "b"); }, "TickList ItemCheck 0 on, TickList ItemCheck 1 on");
-    EXPECT_TRUE(list.Checked(0) && list.Checked(1));
-    Does([&] { list.Fill({"caf\xE9", "x"}); }, "");
-    EXPECT_EQ(list.EntryText(0) + list.EntryText(2), "caf\xE9");
-    EXPECT_EQ(list.Count(), 2);
-    EXPECT_EQ(user.SeesTicked(IDC_TickList), Texts{});
-    for (const int position : {-1, 0, 1, 2}) EXPECT_FALSE(list.Checked(position)) << position;
-    Does([&] { list.SetChecked(-1, true), list.SetChecked(2, true); }, "");
-  });
+  Does([&] { list.Fill({"b", "a", "C & D", "a"}); }, "");
+  EXPECT_EQ(list.Count(), 4);
+  EXPECT_EQ(user.SeesEntries(IDC_TickList), (Texts{"b", "a", "C & D", "a"}));
+  EXPECT_EQ(user.SeesTicked(IDC_TickList), Texts{});
+  Does([&] { list.SetChecked(3, true), list.SetChecked(3, true); }, "TickList ItemCheck 3 on");
+  Does([&] { user.Ticks(IDC_TickList, "C & D"); }, "TickList ItemCheck 2 on");
+  EXPECT_EQ(user.SeesTicked(IDC_TickList), (Texts{"C & D", "a"}));
+  Does([&] { list.SetChecked(3, false), list.SetChecked(0, false); }, "TickList ItemCheck 3 off");
+  Does([&] { user.Ticks(IDC_TickList, "C & D"); }, "TickList ItemCheck 2 off");
+  // Its handler may turn another check over.
+  list.ItemCheck = [&, tell = list.ItemCheck](int position) {
+    tell(position);
+    if (position == 0) list.SetChecked(1, !list.Checked(1));
+  };
+  Does([&] { user.Ticks(IDC_TickList, "b"); }, "TickList ItemCheck 0 on, TickList ItemCheck 1 on");
+  EXPECT_TRUE(list.Checked(0) && list.Checked(1));
+  Does([&] { list.Fill({"caf\xE9", "x"}); }, "");
+  EXPECT_EQ(list.EntryText(0) + list.EntryText(2), "caf\xE9");
+  EXPECT_EQ(list.Count(), 2);
+  EXPECT_EQ(user.SeesTicked(IDC_TickList), Texts{});
+  for (const int position : {-1, 0, 1, 2}) EXPECT_FALSE(list.Checked(position)) << position;
+  Does([&] { list.SetChecked(-1, true), list.SetChecked(2, true); }, "");
 }
 
 }  // namespace

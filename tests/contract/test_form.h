@@ -139,3 +139,9 @@ class FormTest : public testing::Test {
   TestForm form;
   BareForm bare;
 };
+
+// The same with the form on the screen, where the person acts on it at once.
+class ShownFormTest : public FormTest {
+ protected:
+  ShownFormTest() { form.Show(); }
+};

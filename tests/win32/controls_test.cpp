@@ -17,30 +17,28 @@ LONG WidthOf(HWND window) { return RectOf(window).right - RectOf(window).left; }
 
 HWND WindowOf(const Control& control) { return control.PeerOf().Window; }
 
-TEST_F(FormTest, DroppedListIsAsWideAsItsNamesNeedAndAtLeastAsItsBox) {
-  Use([&] {
-    for (ListControl* list : std::initializer_list<ListControl*>{&form.NameCombo, &form.KindDrop}) {
-      HWND window = WindowOf(*list);
-      const LONG width = WidthOf(window);
-      const auto dropped_width = [&] {
-        SendMessageA(window, CB_SHOWDROPDOWN, TRUE, 0);
-        const LONG dropped = WidthOf(list->PeerOf().DropList());
-        SendMessageA(window, CB_SHOWDROPDOWN, FALSE, 0);
-        return dropped;
-      };
-      list->Fill({{"short", 1}});
-      EXPECT_EQ(dropped_width(), width);
-      list->Fill({{"short", 1}, {std::string(200, 'w'), 2}});
-      // The box may have become another since it was filled.
-      for (const LONG box : {width, 2 * width, width}) {
-        SetWindowPos(window, nullptr, 0, 0, box, 20, SWP_NOMOVE | SWP_NOZORDER);
-        EXPECT_EQ(dropped_width(), 2 * box);  // and no wider
-      }
+TEST_F(ShownFormTest, DroppedListIsAsWideAsItsNamesNeedAndAtLeastAsItsBox) {
+  for (ListControl* list : std::initializer_list<ListControl*>{&form.NameCombo, &form.KindDrop}) {
+    HWND window = WindowOf(*list);
+    const LONG width = WidthOf(window);
+    const auto dropped_width = [&] {
+      SendMessageA(window, CB_SHOWDROPDOWN, TRUE, 0);
+      const LONG dropped = WidthOf(list->PeerOf().DropList());
+      SendMessageA(window, CB_SHOWDROPDOWN, FALSE, 0);
+      return dropped;
+    };
+    list->Fill({{"short", 1}});
+    EXPECT_EQ(dropped_width(), width);
+    list->Fill({{"short", 1}, {std::string(200, 'w'), 2}});
+    // The box may have become another since it was filled.
+    for (const LONG box : {width, 2 * width, width}) {
+      SetWindowPos(window, nullptr, 0, 0, box, 20, SWP_NOMOVE | SWP_NOZORDER);
+      EXPECT_EQ(dropped_width(), 2 * box);  // and no wider
     }
-  });
+  }
 }
 
-TEST_F(FormTest, AnotherTextIsDrawnAsIfItHadStoodThere) {
+TEST_F(ShownFormTest, AnotherTextIsDrawnAsIfItHadStoodThere) {
   HWND box = WindowOf(form.LinesBox);
   const auto pixels = [box] {
     const RECT rect = RectOf(box);
@@ -52,28 +50,25 @@ TEST_F(FormTest, AnotherTextIsDrawnAsIfItHadStoodThere) {
     return seen;
   };
   const std::string many = "a\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj\r\nk\r\nl";
-  Use([&] {
-    form.FirstButton.SetFocus();  // no blinking caret
-    std::vector<DWORD> last;
-    for (const std::string& text : {std::string("a few words"), std::string("others"), many, many + "\r\nm",
-                                    std::string("one\r\ntwo"), std::string()}) {
-      form.LinesBox.SetText(text);
-      EXPECT_TRUE(user.SeesVisible(IDC_LinesBox));
-      UpdateWindow(box);
-      const auto seen = pixels();
-      EXPECT_NE(seen, last) << text;
-      RedrawWindow(box, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
-      EXPECT_EQ(pixels(), seen) << text;
-      last = seen;
-    }
-    form.LinesBox.SetVisible(false);
-    form.LinesBox.SetText("hidden");
-    EXPECT_FALSE(user.SeesVisible(IDC_LinesBox));
-  });
+  form.FirstButton.SetFocus();  // no blinking caret
+  std::vector<DWORD> last;
+  for (const std::string& text : {std::string("a few words"), std::string("others"), many, many + "\r\nm",
+                                  std::string("one\r\ntwo"), std::string()}) {
+    form.LinesBox.SetText(text);
+    EXPECT_TRUE(user.SeesVisible(IDC_LinesBox));
+    UpdateWindow(box);
+    const auto seen = pixels();
+    EXPECT_NE(seen, last) << text;
+    RedrawWindow(box, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+    EXPECT_EQ(pixels(), seen) << text;
+    last = seen;
+  }
+  form.LinesBox.SetVisible(false);
+  form.LinesBox.SetText("hidden");
+  EXPECT_FALSE(user.SeesVisible(IDC_LinesBox));
 }
 
-class RowsForm : public TestForm {
- public:
+struct RowsForm : TestForm {
   using Form::RemoveRows;
 };
 
