@@ -97,14 +97,14 @@ TEST_F(ReaderTest, ReadsSections) {
   // goes: what it hid is told by what is left. A later section starts again at record 1.
   Check(R"(
 [things]/* ;name=Shed;  Note= big -> thing 1 name<Shed> note< big>
-[THINGS]/[FIELDS]/*/[CATEGORIES]; NAME= A  -> category 1 name<A>
+[THINGS]/[FIELDS]/*/[CATEGORIES]/*; NAME= A  -> category 1 name<A>
 anything/x; y=1; [THINGS]; NAME=Red Barn , Big -> thing 1 name<Big Red_Barn>
 [THINGS]/XREF1=2.5; XREF2=3.5 km; CATBITMAP=-2147483647/*;XREF1=32768 -> thing 1 xref1 2 xref2 4 categories -2147483647/thing 2
 [THINGS]/NOTE=one  +/   two+/  three/*;NOTE=x++//y -> thing 1 note<one  twothree>/thing 2 note<xy>
 [THINGS]/NAME=A/+/NOTE=b+/c  /*2;NOTE=b  ; XREF1=1 -> thing 1 name<A> note<bc>/thing 2 note<b> xref1 1
 [THINGS]/NOTE=1 ~+/*;NAME=B~;b~~;c ;NOTE=d~/e~f -> thing 1 note<1 +>/thing 2 name<B;b;c> note<d/ef>
 ~[THINGS]/~*3;~'x;NAME=C/'[END]/'note; NOTE=c/~[END]/DONE=YES -> thing 1/thing 2/thing 3 name<C> note<c>
-[FORMULAS]/*1; NAME=F/; FORMAT=0/;;; TITLE=t -> formula 1 name<F> title<t> format<0>
+[FORMULAS]/*; NAME=F/; FORMAT=0/;;; TITLE=t -> formula 1 name<F> title<t> format<0>
 [THINGS]/*1;NAME=A;NOTE=old/*2;NAME=B/[FIELDS]/NAME=X/[THINGS]/NAME=C -> field 1 keyword<X>/thing 1 name<C>
 [CATEGORIES]/NAME=A/*;NAME=B/*;NAME=C/[CATEGORIES]/*3;NAME=Z -> category 1/category 2/category 3 name<Z>
 )");
@@ -184,8 +184,8 @@ TEST_F(ReaderTest, ChecksTheHeader) {
         "+FILER DATA of LARKSPUR V5.0", "+LARKSPUR FILER DATA V5.0", "+LARKSPUR V5.0 FILER DATA V9.0",
         "+LARKSPUR V-1.0 FILER DATA", "-LARKSPUR V6.0 FILER DATA", "-LARKSPUR V5.1 FILER DATA",
         "-LARKSPUR V0.0 FILER DATA", "-LARKSPUR FILER DATA V5", "-LARKSPUR FILER DATA V5 ", "-LARKSPUR V5.0 DATA",
-        "-V5.0 FILER DATA", "-LARKSPUR V9.0 FILER DATA V5.0", "-LARKSPURV5.0 FILER DATA", "-LARKSPUR V1e999 FILER DATA",
-        "-", ""}) {
+        "-OTHER V5.0 FILER DATA", "-LARKSPUR V9.0 FILER DATA V5.0", "-LARKSPURV5.0 FILER DATA",
+        "-LARKSPUR V1e999 FILER DATA", "-", ""}) {
     const bool accepted = header.starts_with('+');
     if (!accepted) user.Reads("Failed to load Filer data file due to invalid format or version.", Icon::Exclamation);
     EXPECT_EQ(Load(header.empty() ? header : header.substr(1) + "\r\n[END]"), accepted) << header;

@@ -14,7 +14,7 @@ TEST_F(CommaTest, ValuesAreTypedStoredAndShownWithIt) {
   const std::array<const char*, 5> rows[] = {
       {"1234567", "LONG", "", "1234567", "1.234.567"},
       {"5", "INTEGER", "", "5", "5"},
-      {"12,345 * 2", "DOLLAR", "", "24,69", "24,69"},
+      {"12,345 * 200,0% + 1", "DOLLAR", "", "25,69", "25,69"},
       {"1234,5", "DOLLAR", "###.##0.00", "1234,50", "1.234,50"},
       {"1234,5", "DOLLAR", "#,##0.0", "1234,50", "1.234,5"},
       {"1234,5678", "DOUBLE", "", "1234,5678", "1.234,568"},
@@ -27,10 +27,12 @@ TEST_F(CommaTest, ValuesAreTypedStoredAndShownWithIt) {
     EXPECT_EQ(text, stored);
     EXPECT_EQ(FormatValue(stored, type, format), shown);
   }
-  user.Reads("Failed to store number 1.5 due to error # 13: Type mismatch", Icon::Exclamation);
-  std::string text = "1.5";
-  EXPECT_FALSE(ConvertTypedValue(text, "DOLLAR"));
-  EXPECT_EQ(FormatValue(text, "DOUBLE", "0.00"), "1.5");
+  for (const auto& [typed, box] : {std::pair("1.5", "store number 1.5"), {", + 1", "calculate expression ,+1"}}) {
+    user.Reads(std::string("Failed to ") + box + " due to error # 13: Type mismatch", Icon::Exclamation);
+    std::string text = typed;
+    EXPECT_FALSE(ConvertTypedValue(text, "DOLLAR")) << typed;
+    EXPECT_EQ(FormatValue(text, "DOUBLE", "0.00"), typed);
+  }
   Machine::SetDecimalSeparator('.');
 }
 
