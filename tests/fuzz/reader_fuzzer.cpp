@@ -27,9 +27,12 @@ Icon last_icon = Icon::None;
 std::string OlderFile() {
   std::string file = "LARKSPUR V5.0 FILER DATA\n";
   for (const int count : {20, 1}) {
-    for (const char* head : {"[CATEGORIES]\n", "[FIELDS]\n", "[FORMULAS]\n", "[THINGS]\n"}) {
+    for (const auto& [head, key] : {std::pair("[CATEGORIES]\n", "*;NAME="),
+                                    {"[FIELDS]\n", "*;FIELDTYPE="},
+                                    {"[FORMULAS]\n", "*;FORMAT="},
+                                    {"[THINGS]\n", "*;NOTE="}}) {
       file += head;
-      for (int number = 1; number <= count; ++number) file += "*;NAME=" + (count == 1 ? "A" : kStale) + "\n";
+      for (int number = 1; number <= count; ++number) file += key + (count == 1 ? "A" : kStale) + "\n";
     }
   }
   return file + "[END]";
