@@ -104,8 +104,8 @@ anything/x; y=1; [THINGS]; NAME=Red Barn , Big -> thing 1 name<Big Red_Barn>
 [THINGS]/NAME=A/+/NOTE=b+/c  /*2;NOTE=b  ; XREF1=1 -> thing 1 name<A> note<bc>/thing 2 note<b> xref1 1
 [THINGS]/NOTE=1 ~+/*;NAME=B~;b~~;c ;NOTE=d~/e~f -> thing 1 note<1 +>/thing 2 name<B;b;c> note<d/ef>
 ~[THINGS]/~*3;~'x;NAME=C/'[END]/'note; NOTE=c/~[END]/DONE=YES -> thing 1/thing 2/thing 3 name<C> note<c>
-[FORMULAS]/*; NAME=F/; FORMAT=0/;;; TITLE=t -> formula 1 name<F> title<t> format<0>
-[THINGS]/*1;NAME=A;NOTE=old/*2;NAME=B/[FIELDS]/NAME=X/[THINGS]/NAME=C -> field 1 keyword<X>/thing 1 name<C>
+[FORMULAS]/*; NAME=F; FIELDTYPE=X/; FORMAT=0/;;; TITLE=t -> formula 1 name<F> title<t> type<X> format<0>
+[THINGS]/*1;NAME=A;NOTE=old/*2;NAME=B/[FIELDS]/NAME=X;FIELDTYPE=D/[THINGS]/NAME=C -> field 1 keyword<X> type<D>/thing 1 name<C>
 [CATEGORIES]/NAME=A/*;NAME=B/*;NAME=C/[CATEGORIES]/*3;NAME=Z -> category 1/category 2/category 3 name<Z>
 )");
   Check({"[THINGS]\rNAME=\tA\t\n\n\r[End]", "", "thing 1 name<\tA\t>"});
@@ -137,7 +137,7 @@ TEST_F(ReaderTest, LeavesNothingOfAnOlderDocument) {
   // Formulas alone outlive the clearing, until there are new ones.
   Check(R"(
 [FORMULAS]/NAME=F/[THINGS]/NAME=a/*2;NAME=b/*3;NAME=c|[THINGS]/*3;NOTE=new -> formula 1 name<F>/thing 1/thing 2/thing 3 note<new>
-[FIELDS]/NAME=A;TITLE=a/*2;NAME=B;TITLE=b|[FIELDS]/*3;NAME=C -> field 1/field 2/field 3 keyword<C>
+[FIELDS]/NAME=A;TITLE=a/*2;NAME=B;FIELDTYPE=b|[FIELDS]/*3;NAME=C -> field 1/field 2/field 3 keyword<C>
 [FORMULAS]/NAME=A;TITLE=a/*2;NAME=B;TITLE=b|[FORMULAS]/*3;NAME=C -> formula 1/formula 2/formula 3 name<C>
 [FIELDS]/NAME=C/[END]|[THINGS]/NAME=A/%C=1 -> Y%C=1 -> thing 1 name<A>
 )");

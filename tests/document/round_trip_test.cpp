@@ -4,7 +4,6 @@
 #include <random>
 
 #include "document/document.h"
-#include "document/reader.h"
 #include "document/text.h"
 #include "support/fresh_test.h"
 
@@ -123,25 +122,6 @@ TEST_F(RoundTripTest, BringsNotesBackWhereverTheirBlanksAre) {
   }
   TheDocument.Things[1].PICFILENAME.assign(300000, ';');
   EXPECT_NO_THROW(RequireRoundTrip());
-}
-
-// What the format cannot hold, and what it becomes. Blanks at a line's end are lost, but never let a "+" before them
-// join the next line.
-TEST_F(RoundTripTest, LosesWhatTheFormatCannotHold) {
-  TheDocument.Fields.SetCount(1);
-  TheDocument.Fields[1] = {"WEIGHT", "Weight +  ", "DOLLAR"};
-  TheDocument.Things.SetCount(2);
-  TheDocument.Things[1].NAME = "B, C A";
-  TheDocument.Things[1].NOTE = "one~two\r\nthree  ";
-  TheDocument.Things[1].XREF1 = -1;
-  TheDocument.Things[2].NOTE = "n+ ";
-  TheDocument.Things[2].CATBITMAP = 3;
-  Saved("Test.FIL");
-  MakeNew();
-  EXPECT_TRUE(LoadFilerFile("Test.FIL"));
-  EXPECT_EQ(DescribeDocument(),
-            "field 1 keyword<WEIGHT> title<Weight +> type<DOLLAR>\nthing 1 name<C A B> note<one?two/three>\n"
-            "thing 2 note<n+> categories 3\n");
 }
 
 }  // namespace
