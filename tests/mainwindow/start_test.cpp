@@ -116,6 +116,7 @@ TEST_F(StartTest, SettingsAreWritten) {
   RememberRecentFile("A");
   TestFiles::MakeFolder("ini");
   TheStart.SettingsFolder += "\\";
+  EXPECT_EQ(SettingsFileName(), InFolder(R"(ini\\Torvane.INI)"));
   SaveSettings();
   EXPECT_EQ(TestFiles::Get(R"(ini\Torvane.INI)"), Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "*1; NAME=A"}));
 }

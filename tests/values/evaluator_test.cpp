@@ -135,7 +135,9 @@ TEST_F(EvaluatorTest, EndsOnLongExpressions) {
   }
   EXPECT_EQ(Value(sum), "5001");
   EXPECT_EQ(Value(product), "1");
-  EXPECT_EQ(Value(std::string(20000, '(') + "2" + std::string(20000, ')')), "2");
+  std::string nested(20000, '(');
+  nested += "2";
+  EXPECT_EQ(Value(nested.append(20000, ')')), "2");
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ TEST(NumbersTest, ReadsTheLongestLeadingNumber) {
                                          "1.5 => error 13 | 1,5,5 => error 13 | - => error 13")) {
     EXPECT_EQ(Read(text, ','), number) << text;
   }
-  EXPECT_EQ(WriteNumber(0.5, ',') + SignedText(53) + SignedText(0) + SignedText(-3), "0,5 53 0-3");
+  EXPECT_EQ(WriteNumber(0.5, ',') + SignedText(53) + SignedText(0) + SignedText(-1), "0,5 53 0-1");
 }
 
 // As a short and a long whole number, and as a record's.
@@ -52,7 +52,8 @@ TEST(NumbersTest, ReadsWholeNumbersWithinTheirType) {
 TEST(NumbersTest, KnowTheirTypes) {
   for (const auto& [type, told] : Rows(R"(interest => INTRATE ###0.00% number |   => DOUBLE  | CALC =>   |  => DOUBLE 
 dollar => DOLLAR ###,###,##0.00 number | Byte => BYTE  number | LONG => LONG ##,###,###,##0 number
-INTRATE => INTRATE  number)")) {
+INTRATE => INTRATE  number | INTEGER => INTEGER ######0 number | SINGLE => SINGLE ###,##0.0 number
+DOUBLE => DOUBLE ###,###,###,##0.000 number | ODDS => ODDS ##0.0% number | ODDSPM => ODDSPM ###0.0% number)")) {
     EXPECT_EQ(StorageType(type) + " " + Global::DefaultTemplate(type) + (IsNumberType(type) ? " number" : ""), told)
         << type;
   }
@@ -65,7 +66,7 @@ TEST(NumbersTest, AreShownUnderTemplates) {
 55% ##0.0% => 55.0% | 0.5 %0 => %50 | 0.5 0%.00 => 50%.00 | 1234.5 #,#%## => 123,4%50 | 0.05 #%# => %5
 0.1234 0.0%0# => 12.3%4 | 0.5 0.% => 50.% | 0.005 0%% => 50%% | 1e5 #,##0 => 100,000 | 1.25 0.0#0 => 1.250
 1E+20 #,##0 => 100,000,000,000,000,000,000 | 1.5E-07 0.0000000# => 0.00000015 | 1.2 0.0.0 => 1.20
-0E+2000000000 0.0 => 0.0 | -0E-2000000000% 0.0# => 0.0 | RED 0.00 => RED |  0.00 =>  | 12abc 0.00 => 12abc
+0E+2000000000 0.0 => 0.0 | -0E-2000000000% 0.0# => 0.0 | RED 0.00 => RED | inf 0.00 => inf |  0.00 =>  | 12abc 0.00 => 12abc
 5  => 5 | 5   => 5)")) {
     const auto [stored, display_template] = Halves(given, ' ');
     EXPECT_EQ(FormatByTemplate(stored, display_template, '.'), shown) << given;
