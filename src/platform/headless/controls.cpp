@@ -19,8 +19,8 @@ void TextBox::SetReadOnly(bool read_only) { PeerOf().ReadOnly = read_only; }
 bool TextBox::ReadOnly() const { return PeerOf().ReadOnly; }
 void TextBox::SetTextLimit(int characters) { PeerOf().TextLimit = characters; }
 
-// Nothing is marked here: what a person types replaces everything anyway.
-void TextBox::SelectAll() {}
+// What a person types replaces everything anyway.
+void TextBox::SelectAll() { PeerOf().MarkAll(); }
 
 void Button::SetBackColor(::BackColor color) { PeerOf().Back = color; }
 ::BackColor Button::BackColor() const { return PeerOf().Back; }

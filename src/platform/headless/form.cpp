@@ -107,6 +107,7 @@ void Form::Peer::MoveFocus(Control* control) {
   const Event lost = Shown && Focus != nullptr ? Focus->LostFocus : Event();
   const Event got = Shown && control != nullptr ? control->GotFocus : Event();
   Focus = control;
+  if (control != nullptr) control->PeerOf().Entered();
   if (lost) lost();
   if (got) got();
 }
@@ -125,6 +126,7 @@ void Form::Peer::Appear() {
         std::find_if(InOrder.begin(), InOrder.end(), [](const Control* each) { return each->PeerOf().TakesFocus(); });
     Focus = first == InOrder.end() ? nullptr : *first;
   }
+  if (Focus != nullptr) Focus->PeerOf().Entered();
   if (Focus != nullptr && Focus->GotFocus) Focus->GotFocus();
   Self->Form_Activate();
 }
