@@ -36,19 +36,38 @@ std::vector<std::pair<std::string, std::string>> Stand() {
           {"\r\n", "{n}"}};
 }
 
+// As stories have it: what is the machine's own by its name, what is no plain character as {E9}.
+std::string Plain(const std::string& line) {
+  std::string text = line, plain;
+  for (const auto& [real, name] : Stand()) ReplaceAll(text, real, name);
+  for (const char each : text) {
+    constexpr const char* kDigits = "0123456789ABCDEF";
+    const auto code = static_cast<unsigned char>(each);
+    const bool printed = code >= ' ' && code < 0x7F;
+    plain += printed ? std::string(1, each) : std::string("{") + kDigits[code / 16] + kDigits[code % 16] + "}";
+  }
+  plain.erase(plain.find_last_not_of(' ') + 1);
+  return plain;
+}
+
+// A click on these closes a form.
+bool Leaves(const Act& act) { return act.Text.ends_with("click OKButton") || act.Text.ends_with("click CancelButton"); }
+
 }  // namespace
 
 Story::Story(std::shared_ptr<StoryFile> file, std::size_t number)
-    : Sees([this](const std::string& line) { Say(line); }), file_(std::move(file)), number_(number) {}
+    : Sees([this](const std::string& line) { Say(line); }, Plain), file_(std::move(file)), number_(number) {}
 Story::~Story() = default;
 
 void Story::SetUp() {
   FreshTest::SetUp();
+  ResetMachine();
   Expected().Told = this;
 }
 
 void Story::TearDown() {
   form_.reset();
+  ResetMachine();
   FreshTest::TearDown();
 }
 
@@ -56,20 +75,20 @@ void Story::TestBody() {
   Tale& tale = file_->Tales[number_];
   if (tale.InMemoryOnly && MachineVerbs().empty()) GTEST_SKIP() << "only in memory";
   std::vector<Act> before = file_->Tales[0].Acts;
-  Quiet = true;
-  Run(before);
-  Quiet = false;
-  for (Act& act : tale.Acts) act.Now.clear();
-  Run(tale.Acts);
+  for (Act& act : before) acts_.push_back(&act);
+  untold_ = acts_.size();
+  for (Act& act : tale.Acts) {
+    act.Now.clear();
+    acts_.push_back(&act);
+  }
+  Run();
   if (!updating) return ExpectAsWritten(*file_, tale);
   for (Act& act : tale.Acts) act.Seen = act.Now;
   file_->Write();
 }
 
-void Story::Run(std::vector<Act>& acts) {
-  acts_ = &acts;
-  next_ = 0;
-  while (next_ < acts.size()) {
+void Story::Run() {
+  while (next_ < acts_.size()) {
     try {
       Step();
     } catch (const ProgramEnded&) {
@@ -95,12 +114,21 @@ void Story::CheckReplies() {
 }
 
 void Story::Step() {
-  now_ = &(*acts_)[next_++];
+  if (next_ == untold_) {
+    Quiet = true;
+    Sees.LookAtDocument();
+    Quiet = false;
+  }
+  now_ = acts_[next_++];
   const testing::ScopedTrace trace(file_->Path.c_str(), now_->Line, now_->Text);
   if (TakeReply(now_->Text)) return;
   CheckReplies();
   replies_.swap(given_);
+  const bool leaves = Leaves(*now_);
+  const std::size_t open = Hands::OpenForms().size();
   Do(Expanded(now_->Text));
+  const bool stays = leaves && Hands::OpenForms().size() >= open && !Hands::OpenForms().back()->Closed();
+  if (stays) Say("stays");
   Sees.LookAround();
 }
 
@@ -144,18 +172,7 @@ std::string Story::Unquoted(const std::string& text) {
 }
 
 void Story::Say(const std::string& line) {
-  if (Quiet || now_ == nullptr) return;
-  std::string text = line;
-  for (const auto& [real, name] : Stand()) ReplaceAll(text, real, name);
-  std::string plain;
-  for (const char each : text) {
-    constexpr const char* kDigits = "0123456789ABCDEF";
-    const auto code = static_cast<unsigned char>(each);
-    const bool printed = code >= ' ' && code < 0x7F;
-    plain += printed ? std::string(1, each) : std::string("{") + kDigits[code / 16] + kDigits[code % 16] + "}";
-  }
-  plain.erase(plain.find_last_not_of(' ') + 1);
-  now_->Now.push_back(std::move(plain));
+  if (!Quiet && now_ != nullptr) now_->Now.push_back(Plain(line));
 }
 
 void Story::Fail(const std::string& why) {
@@ -215,10 +232,10 @@ void Story::FormCame(Form& form) {
   const auto open = Hands::OpenForms();
   if (open.size() > 1 && Sees.Knows(*open[open.size() - 2])) Sees.LookAt(*open[open.size() - 2]);
   Sees.LookAround();
-  while (!form.Closed() && next_ < acts_->size()) Step();
+  while (!form.Closed() && next_ < acts_.size()) Step();
   const std::string name = Names::OfForm(Hands::TemplateOf(form));
   if (!form.Closed()) Fail(name + " was left open");
-  Say(name + " closes");
+  if (!Leaves(*now_)) Say(name + " closes");
   Sees.Forget(form);
 }
 

@@ -8,6 +8,7 @@
 // Given; FILE and FOLDER are names in the test's folder, which "{folder}" stands for; {E9} is a byte, {n} a line's end
 //   given FILE [FILE]                 a file of tests/scenarios/given, under that name
 //   file FILE "text"                  a file of that text; without one, of the lines "| ..." that follow
+//   data FILE                         a data file: the lines "| ..." that follow stand between its first and last
 //   folder FOLDER, erase FILE, read-only FILE, writable FILE
 //   held FILE, kept FILE, released    another program keeps others from writing it, from everything; lets go
 //   recent FILE, FILE                 the recent-files list
@@ -18,6 +19,7 @@
 //   menu ITEM, close, key Enter (Escape, Down, PageDown, Help, ..., with Shift+ or Ctrl+ on a surface; Ctrl+A, Ctrl+C)
 //   drag SURFACE 1,2 3,4 (column, row; from 0), shift-drag SURFACE 1,2 3,4, double-click SURFACE 1,2
 //   wheel SURFACE 3, shift-wheel SURFACE 3, ctrl-wheel SURFACE 1, page-down SURFACE 2, page-across SURFACE -1
+//   A click on OKButton or CancelButton closes a form; one that does not is told of ("stays").
 //   3 times ACT, quietly ACT (untold)
 // Standing before the act whose questions they answer; a plain OK box needs none
 //   ok, cancel, yes, no, answers "text" (an input box), chooses "file" (a file dialog)
@@ -62,7 +64,7 @@ class Story : public FreshTest, public Listener {
   static std::string Expanded(std::string text);
   static std::string Unquoted(const std::string& text);
   Recorder Sees;
-  bool Quiet = false;  // nothing is told
+  bool Quiet = true;  // nothing is told
 
   Answer MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
   std::string InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) override;
@@ -77,7 +79,7 @@ class Story : public FreshTest, public Listener {
   void SetUp() override;
   void TearDown() override;
   void TestBody() override;
-  void Run(std::vector<Act>& acts);
+  void Run();
   void Step();
   bool TakeReply(const std::string& text);
   void CheckReplies();
@@ -85,8 +87,8 @@ class Story : public FreshTest, public Listener {
 
   std::shared_ptr<StoryFile> file_;
   std::size_t number_;
-  std::vector<Act>* acts_ = nullptr;
-  std::size_t next_ = 0;
+  std::vector<Act*> acts_;
+  std::size_t untold_ = 0, next_ = 0;  // so many come before the story; the one to come
   Act* now_ = nullptr;
   std::deque<Reply> replies_, given_;  // to the act that runs; to the next one
   std::unique_ptr<Form> form_;
@@ -95,6 +97,7 @@ class Story : public FreshTest, public Listener {
 std::map<std::string, Story::Verb> PersonVerbs();
 std::map<std::string, Story::Verb> CallVerbs();
 std::map<std::string, Story::Verb> MachineVerbs();  // none in real windows
+void ResetMachine();                                // after those
 
 // Makes each story a test case; with `update`, running one writes what was seen into its file.
 void RegisterStories(bool update);

@@ -60,6 +60,7 @@ Verb Untold(Act act) {
     const bool quiet = std::exchange(story.Quiet, true);
     act(story, rest);
     story.Sees.LookAround();
+    story.Sees.LookAtDocument();
     story.Quiet = quiet;
   };
 }
@@ -78,12 +79,20 @@ void Give(const std::string& rest) {
   TestFiles::Put(names.back(), std::string(std::istreambuf_iterator<char>(in), {}));
 }
 
-void PutFile(Story& story, const std::string& rest) {
-  const std::size_t quote = rest.find(" \"");
-  if (quote != std::string::npos) return TestFiles::Put(rest.substr(0, quote), Story::Unquoted(rest.substr(quote + 1)));
+std::string LinesOf(const Story& story) {
   std::string text;
   for (const std::string& line : story.Given()) text += Story::Expanded(line) + "\r\n";
-  TestFiles::Put(rest, text);
+  return text;
+}
+
+void PutFile(Story& story, const std::string& rest) {
+  const std::size_t quote = rest.find(" \"");
+  if (quote == std::string::npos) return TestFiles::Put(rest, LinesOf(story));
+  TestFiles::Put(rest.substr(0, quote), Story::Unquoted(rest.substr(quote + 1)));
+}
+
+void PutData(Story& story, const std::string& rest) {
+  TestFiles::Put(rest, "LARKSPUR V5.0 FILER DATA\r\n" + LinesOf(story) + "[END]\r\n");
 }
 
 void PutRecent(Story& /*story*/, const std::string& rest) {
@@ -174,6 +183,7 @@ std::map<std::string, Verb> PersonVerbs() {
   return {
       {"given", Untold([](Story&, const std::string& rest) { Give(rest); })},
       {"file", Untold(PutFile)},
+      {"data", Untold(PutData)},
       {"folder", Untold([](Story& story, const std::string& rest) {
          TestFiles::MakeFolder(rest);
          story.Sees.NoteFolder(rest);
@@ -188,12 +198,8 @@ std::map<std::string, Verb> PersonVerbs() {
       {"home", Untold([](Story& story, const std::string&) {
          Give("Home.FIL");
          StartProgram(story, "Home.FIL");
-         story.Sees.LookAtDocument();
        })},
-      {"empty", Untold([](Story& story, const std::string&) {
-         StartProgram(story, "");
-         story.Sees.LookAtDocument();
-       })},
+      {"empty", Untold([](Story& story, const std::string&) { StartProgram(story, ""); })},
       {"quietly", Untold([](Story& story, const std::string& rest) { story.Do(rest); })},
       {"leave", [](Story& story, const std::string&) { story.Leave(); }},
       {"start", StartProgram},

@@ -31,4 +31,7 @@ const std::map<int, Control*>& ControlsOf(const Form& form);
 // The system is about to shut down and asks; true when the form has nothing against it.
 void ShutDown(Form& form);
 
+// The command lines of the programs started since the last call; only the in-memory machine knows.
+std::vector<std::string> StartedPrograms();
+
 }  // namespace Hands

@@ -4,25 +4,25 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <utility>
 
 namespace {
 
 struct Template {
+  std::map<int, std::pair<std::string, int>> Names;  // and the place in its row, from 0
+  std::set<std::string> Rows;
   std::map<int, std::string> Captions;
   std::map<int, bool> Lines;
   std::vector<int> Items;
 };
 
 struct Book {
-  std::map<std::string, int> Ids;                           // "IDC_PersonCombo"
-  std::map<std::string, std::map<int, std::string>> Names;  // by prefix: "IDC", "IDD"
+  std::map<std::string, int> Ids;  // "IDC_PersonCombo"
+  std::map<int, std::string> Forms;
   std::map<int, Template> Templates;
 };
-
-// Of these, the id in the header is the first of many.
-constexpr const char* kRows[] = {"LetterLabel", "CategoryNameBox", "DayButton"};
 
 void ReadIds(const std::filesystem::path& file, Book& book) {
   std::ifstream in(file);
@@ -32,7 +32,7 @@ void ReadIds(const std::filesystem::path& file, Book& book) {
     int id = 0;
     if (!(words >> define >> name >> id) || define != "#define" || name.size() < 5) continue;
     book.Ids[name] = id;
-    book.Names[name.substr(0, 3)][id] = name.substr(4);
+    if (name.starts_with("IDD_")) book.Forms[id] = name.substr(4);
   }
 }
 
@@ -61,8 +61,11 @@ void ReadTemplates(const std::filesystem::path& file, Book& book) {
     if (at == std::string::npos || kind.empty() || line.find(kind + ",") != std::string::npos)
       continue;  // accelerators
     const std::string name = WordAt(line, at);
-    int id = book.Ids[name];
-    if (line.compare(at + name.size(), 3, " + ") == 0) id += std::stoi(line.substr(at + name.size() + 3));
+    const bool in_row = line.compare(at + name.size(), 3, " + ") == 0;
+    const int place = in_row ? std::stoi(line.substr(at + name.size() + 3)) : 0;
+    const int id = book.Ids[name] + place;
+    if (in_row) current->Rows.insert(name.substr(4));
+    current->Names[id] = {name.substr(4), place};
     if (kind == "MENUITEM") {
       current->Items.push_back(id);
     } else {
@@ -100,18 +103,13 @@ const Template& Of(int form) {
 
 }  // namespace
 
-std::string Names::OfControl(int id) {
-  const auto& names = TheBook().Names.at("IDC");
-  const auto behind = names.upper_bound(id);
-  if (behind == names.begin()) return std::to_string(id);
-  const auto& [first, name] = *std::prev(behind);
-  for (const std::string row : kRows) {
-    if (name != row) continue;
-    const int index = id - first;
-    return name + "[" + (row == kRows[0] ? std::string(1, static_cast<char>('A' + index)) : std::to_string(index + 1)) +
-           "]";
-  }
-  return first == id ? name : std::to_string(id);
+std::string Names::OfControl(int form, int id) {
+  const auto found = Of(form).Names.find(id);
+  if (found == Of(form).Names.end()) return std::to_string(id);
+  const auto& [name, place] = found->second;
+  if (!Of(form).Rows.contains(name)) return name;
+  const bool letters = name.starts_with("Letter");
+  return name + "[" + (letters ? std::string(1, static_cast<char>('A' + place)) : std::to_string(place + 1)) + "]";
 }
 
 int Names::ControlOf(const std::string& name) {
@@ -124,9 +122,8 @@ int Names::ControlOf(const std::string& name) {
 }
 
 std::string Names::OfForm(int template_id) {
-  const auto& names = TheBook().Names.at("IDD");
-  const auto found = names.find(template_id);
-  return found == names.end() ? std::to_string(template_id) : found->second;
+  const auto found = TheBook().Forms.find(template_id);
+  return found == TheBook().Forms.end() ? std::to_string(template_id) : found->second;
 }
 
 std::string Names::Caption(int form, int id) {

@@ -7,8 +7,8 @@
 
 namespace Names {
 
-// "PersonCombo" for IDC_PersonCombo; "LetterLabel[S]", "CategoryNameBox[2]" for one of a row.
-std::string OfControl(int id);
+// "PersonCombo" for IDC_PersonCombo on that form; "LetterLabel[S]", "CategoryNameBox[2]" for one of a row.
+std::string OfControl(int form, int id);
 int ControlOf(const std::string& name);  // 0 when there is none
 std::string OfForm(int template_id);     // "MainForm" for IDD_MainForm
 std::string Caption(int form, int id);   // the text that the template gives a control; the form's own for id 0

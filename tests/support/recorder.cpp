@@ -63,24 +63,51 @@ Texts Change(const Texts& before, const Texts& now) {
   return lines;
 }
 
+// The rows of a page that differ: " 4: text / 5: text"; of many, the first ones and the last.
+Texts PageChange(const Texts& before, const Texts& now) {
+  constexpr std::size_t kWidth = 100, kMost = 10, kFirst = 2;
+  Texts rows, lines;
+  for (std::size_t row = 0; row < std::max(before.size(), now.size()); ++row) {
+    const std::string old = row < before.size() ? before[row] : "", text = row < now.size() ? now[row] : "";
+    if (old != text) rows.push_back(" " + std::to_string(row) + ": " + text);
+  }
+  if (rows.size() > kMost) {
+    const std::string last = rows.back() + " (" + std::to_string(rows.size()) + " rows)";
+    rows.resize(kFirst);
+    rows.push_back(last);
+  }
+  for (const std::string& row : rows) {
+    if (lines.empty() || lines.back().size() + row.size() > kWidth) {
+      lines.push_back(row);
+    } else {
+      lines.back() += " /" + row;
+    }
+  }
+  return lines;
+}
+
 // "LetterLabel[A-Z]" for neighbours of a row.
-std::string NamesOf(const std::vector<int>& ids) {
+std::string NamesOf(int form, const std::vector<int>& ids) {
   std::string line;
   for (std::size_t at = 0; at < ids.size(); ++at) {
-    std::string name = Names::OfControl(ids[at]);
+    std::string name = Names::OfControl(form, ids[at]);
     std::size_t last = at;
     while (name.ends_with(']') && last + 1 < ids.size() && ids[last + 1] == ids[last] + 1 &&
-           Names::OfControl(ids[last + 1]).starts_with(name.substr(0, name.find('[') + 1))) {
+           Names::OfControl(form, ids[last + 1]).starts_with(name.substr(0, name.find('[') + 1))) {
       ++last;
     }
     if (last != at) {
-      const std::string end = Names::OfControl(ids[last]);
+      const std::string end = Names::OfControl(form, ids[last]);
       name = name.substr(0, name.size() - 1) + "-" + end.substr(end.find('[') + 1);
     }
     line += (line.empty() ? "" : ", ") + name;
     at = last;
   }
   return line;
+}
+
+bool FollowsInRow(int form, int id, const std::vector<int>& next) {
+  return next.size() == 1 && next[0] == id + 1 && NamesOf(form, {id, id + 1}).find(',') == std::string::npos;
 }
 
 void SeeLists(const Control& control, std::map<std::string, std::string>& told, Texts& entries) {
@@ -100,6 +127,8 @@ void SeeLists(const Control& control, std::map<std::string, std::string>& told, 
   }
   if (const auto* surface = dynamic_cast<const Surface*>(&control)) {
     entries = RowsOfPage(Hands::PageOn(*surface));
+    const Page page = Hands::PageOn(*surface);
+    if (page.ShowsCaret) told[" caret"] = std::to_string(page.Caret.Column) + "," + std::to_string(page.Caret.Row);
     for (const auto& [bar, name] :
          {std::pair(Surface::Bar::Across, " across"), std::pair(Surface::Bar::Down, " down")}) {
       const int position = Hands::BarOn(*surface, bar);
@@ -153,7 +182,7 @@ Recorder::State Recorder::BlankOf(const Form& form) {
 
 Recorder::State Recorder::StateOf(const Form& form, const State& before) {
   State state;
-  const int form_id = Hands::TemplateOf(form);
+  const int form_id = state.Form = Hands::TemplateOf(form);
   state.Caption = form.Caption().empty() ? Names::Caption(form_id, 0) : form.Caption();
   const bool topmost = !Hands::OpenForms().empty() && Hands::OpenForms().back() == &form;
   for (const auto& [id, control] : Hands::ControlsOf(form)) {
@@ -170,6 +199,7 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
     if (marked && !Names::HasLines(form_id, id)) told[""] += MarkIn(sight);
     if (!control->ToolTip().empty()) told[" tip"] = Quoted(control->ToolTip());
     SeeLists(*control, told, state.Lists[id]);
+    if (dynamic_cast<const Surface*>(control) != nullptr) state.Pages.insert(id);
     for (const std::string& mark : MarksOf(*control, sight)) state.Marks.emplace(mark, id);
     if (topmost && sight.Focused) state.Marks.emplace("focus", id);
   }
@@ -185,13 +215,15 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
 
 void Recorder::LookAt(const Form& form) {
   const bool known = Knows(form);
-  State before = known ? forms_.at(&form) : BlankOf(form);
+  const auto opened = opened_.find(Hands::TemplateOf(form));
+  State before = known ? forms_.at(&form) : opened == opened_.end() ? BlankOf(form) : opened->second;
   if (known) ForeseeAct(before);
   const State now = StateOf(form, before);
   if (!known) say_(Names::OfForm(Hands::TemplateOf(form)) + " opens: " + now.Caption);
-  if (known && before.Caption != now.Caption) say_("caption " + Quoted(now.Caption));
+  if (known && before.Caption != now.Caption) Pack("caption " + Quoted(now.Caption));
   Tell(before, now);
   forms_[&form] = now;
+  if (!known) opened_[Hands::TemplateOf(form)] = now;
 }
 
 void Recorder::ForeseeAct(State& before) const {
@@ -222,7 +254,9 @@ void Recorder::Tell(const State& before, const State& now) {
     const std::string text = told.contains("") ? told.at("") : old[""].empty() ? "" : Quoted("");
     if (old[""] != text && !only_unmarked) changes[0] = " " + text;
     if (old_list != now.Lists.at(id)) {
-      for (const std::string& line : Change(old_list, now.Lists.at(id))) {
+      const bool page = now.Pages.contains(id);
+      for (const std::string& line :
+           page ? PageChange(old_list, now.Lists.at(id)) : Change(old_list, now.Lists.at(id))) {
         if (changes.size() > 1 || line[0] != ':') changes.emplace_back();
         changes.back() += line;
       }
@@ -237,8 +271,26 @@ void Recorder::Tell(const State& before, const State& now) {
       if (!line.empty()) add(id, line);
     }
   }
-  for (const auto& [text, ids] : lines) say_(NamesOf(ids) + text);
+  for (std::size_t at = 0; at < lines.size(); ++at) {
+    auto& [text, ids] = lines[at];
+    while (at + 1 < lines.size() && FollowsInRow(now.Form, ids.back(), lines[at + 1].second) &&
+           text.starts_with(" \"")) {
+      ids.push_back(lines[at + 1].second[0]);
+      text += lines[at + 1].first;
+      lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(at) + 1);
+    }
+    Pack(NamesOf(now.Form, ids) + text);
+  }
   TellMarks(before, now);
+  Pack("");
+}
+
+// Short news share a line; none says what has been gathered.
+void Recorder::Pack(const std::string& raw) {
+  const std::string news = plain_(raw);
+  constexpr std::size_t kWidth = 114;
+  if (!packed_.empty() && (news.empty() || packed_.size() + news.size() > kWidth)) say_(std::exchange(packed_, ""));
+  if (!news.empty()) packed_ += (packed_.empty() ? "" : "; ") + news;
 }
 
 // Its text is marked, which tells that it has the focus.
@@ -259,22 +311,28 @@ void Recorder::TellMarks(const State& before, const State& now) {
   }
   for (const auto& [mark, ids] : lines) {
     const bool both = !ids.first.empty() && !ids.second.empty();
-    say_(mark + ": " + NamesOf(ids.first) + (both ? ", " : "") +
-         (ids.second.empty() ? "" : "not " + NamesOf(ids.second)));
+    Pack(mark + ": " + NamesOf(now.Form, ids.first) + (both ? ", " : "") +
+         (ids.second.empty() ? "" : "not " + NamesOf(now.Form, ids.second)));
   }
 }
 
 void Recorder::TellAll(const Form& form, int id) {
   const State state = StateOf(form, {});
-  if (!state.Controls.contains(id)) return say_("there is no " + Names::OfControl(id));
+  if (!state.Controls.contains(id)) return say_("there is no " + Names::OfControl(state.Form, id));
   const auto& told = state.Controls.at(id);
-  for (const auto& [what, text] : told) say_(Names::OfControl(id) + what + " " + text);
+  for (const auto& [what, text] : told) say_(Names::OfControl(state.Form, id) + what + " " + text);
   for (const std::string& entry : state.Lists.at(id)) say_("| " + entry);
 }
 
 void Recorder::LookAround() {
   LookAtFiles();
+  for (const std::string& line : Hands::StartedPrograms()) say_("starts " + line);
   const auto open = Hands::OpenForms();
+  std::erase_if(forms_, [&](const auto& known) {
+    const bool gone = std::find(open.begin(), open.end(), known.first) == open.end();
+    if (gone) say_(Names::OfForm(known.second.Form) + " closes");
+    return gone;
+  });
   if (!open.empty() && !open.back()->Closed()) LookAt(*open.back());
   foreseen_ = {};
 }
@@ -284,7 +342,7 @@ void Recorder::LookAtFiles() {
   for (const std::string& folder : folders_) {
     for (const std::string& name : TestFiles::List(folder)) {
       const std::string path = folder.empty() ? name : folder + "\\" + name;
-      now[path] = TestFiles::Get(path).value_or("");
+      now[path] = TestFiles::Get(path).value_or(files_[path]);  // nobody can read it
     }
   }
   auto gone = files_;

@@ -1,5 +1,5 @@
-// What a person at the program sees, in words: each look tells only what differs from the last one, the first one what
-// differs from the empty window of the form's template.
+// What a person at the program sees, in words: each look tells only what differs from the last one, the first one at a
+// form what differs from the form as it opened last, or from the empty window of its template.
 #pragma once
 
 #include <functional>
@@ -16,7 +16,8 @@
 class Recorder {
  public:
   using Say = std::function<void(const std::string&)>;
-  explicit Recorder(Say say) : say_(std::move(say)) {}
+  using Plain = std::function<std::string(const std::string&)>;  // a text as it is told, alike on every machine
+  Recorder(Say say, Plain plain) : say_(std::move(say)), plain_(std::move(plain)) {}
 
   void LookAround();              // at the topmost form and the folder's files
   void LookAt(const Form& form);  // tells its name and caption when it is new
@@ -36,8 +37,10 @@ class Recorder {
 
  private:
   struct State {
+    int Form = 0;                                                // its template
     std::map<int, std::map<std::string, std::string>> Controls;  // by id: what there is to tell, by its name
     std::map<int, std::vector<std::string>> Lists;               // by id: entries, or the rows of a page
+    std::set<int> Pages;                                         // of which Lists holds rows
     std::set<std::pair<std::string, int>> Marks;                 // "hidden", "bold", "greyed", ... and the id
     std::string Caption;
   };
@@ -47,10 +50,14 @@ class Recorder {
   void ForeseeAct(State& before) const;
   void Tell(const State& before, const State& now);
   void TellMarks(const State& before, const State& now);
+  void Pack(const std::string& raw);
 
   Say say_;
+  Plain plain_;
+  std::string packed_;
   Foreseen foreseen_;
   std::map<const Form*, State> forms_;
+  std::map<int, State> opened_;  // by template: as it opened last
   std::map<std::string, std::string> files_;
   std::vector<std::string> folders_{""};
   std::map<std::string, std::string> document_;

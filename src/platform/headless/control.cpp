@@ -54,9 +54,15 @@ void Control::SetText(std::string_view text) {
 }
 
 bool Control::Enabled() const { return peer_->Enabled; }
-void Control::SetEnabled(bool enabled) { peer_->Enabled = enabled; }
+void Control::SetEnabled(bool enabled) {
+  peer_->Enabled = enabled;
+  peer_->Owner->PeerOf().LeaveUnreachable();
+}
 bool Control::Visible() const { return peer_->Visible; }
-void Control::SetVisible(bool visible) { peer_->Visible = visible; }
+void Control::SetVisible(bool visible) {
+  peer_->Visible = visible;
+  peer_->Owner->PeerOf().LeaveUnreachable();
+}
 
 void Control::SetFocus() {
   if (peer_->TakesFocus()) peer_->Owner->PeerOf().MoveFocus(this);

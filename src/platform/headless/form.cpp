@@ -112,6 +112,16 @@ void Form::Peer::MoveFocus(Control* control) {
   if (got) got();
 }
 
+void Form::Peer::LeaveUnreachable() {
+  if (!Shown || Focus == nullptr || Focus->PeerOf().TakesFocus()) return;
+  const auto old = std::find(InOrder.begin(), InOrder.end(), Focus);
+  std::vector<Control*> next(old, InOrder.end());
+  next.insert(next.end(), InOrder.begin(), old);
+  const auto found =
+      std::find_if(next.begin(), next.end(), [](const Control* each) { return each->PeerOf().TakesFocus(); });
+  if (found != next.end()) MoveFocus(*found);
+}
+
 void Form::Peer::RunDeferred() {
   for (const Event& event : std::exchange(Deferred, {})) event();
 }

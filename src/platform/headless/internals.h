@@ -80,6 +80,7 @@ struct Form::Peer {
 
   Control* Find(int id) const;       // nullptr when there is none
   void MoveFocus(Control* control);  // raises LostFocus and GotFocus while the form is shown
+  void LeaveUnreachable();           // moves the focus on from a control that was hidden or disabled
   void RunDeferred();                // when the person has done what there was to do
   void Appear();                     // Form_Load, onto the stack, first focus, Form_Activate
   void Activate() { Self->Form_Activate(); }

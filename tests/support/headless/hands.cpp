@@ -2,6 +2,7 @@
 #include "support/hands.h"
 
 #include "platform/headless/internals.h"
+#include "platform/headless/machine.h"
 
 Hands::Sight Hands::LookAt(const Control& control) {
   const Control::Peer& peer = control.PeerOf();
@@ -26,3 +27,4 @@ std::vector<Form*> Hands::OpenForms() { return ::OpenForms(); }
 int Hands::TemplateOf(const Form& form) { return form.PeerOf().Template; }
 const std::map<int, Control*>& Hands::ControlsOf(const Form& form) { return form.PeerOf().Controls; }
 void Hands::ShutDown(Form& form) { form.PeerOf().Unload(UnloadMode::WindowsShutdown); }
+std::vector<std::string> Hands::StartedPrograms() { return Machine::StartedPrograms(); }

@@ -3,9 +3,8 @@
 //   fails N CODE [for-good]    the N-th file call from now on fails with that code of the system
 //   disk BYTES, no-faults      so much may be written yet; no faults and space again
 //   starts ERROR               starting a program fails so, 0 gives no process; "starts" alone: it does not
-//   started                    tells the programs started since
 //   program-folder FOLDER      where the program lies; today YEAR MONTH DAY
-//   registry KEY "text"        the default value of a key of the user's; unregister KEY
+//   registry KEY "text"        the default value of a key of the user's; registry-value KEY NAME TEXT; unregister KEY
 //   printer FIRST LAST [SHEETS], printer cancels, no-printer; printed: tells the pages
 #include <sstream>
 
@@ -53,10 +52,6 @@ std::map<std::string, Verb> MachineVerbs() {
        [](Story&, const std::string& rest) {
          Machine::FailStart(rest.empty() ? std::nullopt : std::optional(std::stoi(rest)));
        }},
-      {"started",
-       [](Story& story, const std::string&) {
-         for (const std::string& line : Machine::StartedPrograms()) story.Say(line);
-       }},
       {"program-folder", [](Story&, const std::string& rest) { Machine::SetProgramFolder(rest); }},
       {"today",
        [](Story&, const std::string& rest) {
@@ -64,6 +59,11 @@ std::map<std::string, Verb> MachineVerbs() {
          Machine::SetToday(year, month, day);
        }},
       {"registry", SetRegistry},
+      {"registry-value",
+       [](Story&, const std::string& rest) {
+         const auto [key, name, text] = Read<std::string, std::string, std::string>(rest);
+         Machine::SetRegistryValue(RegistryRoot::CurrentUser, key, name, text);
+       }},
       {"unregister",
        [](Story&, const std::string& rest) { Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, rest); }},
       {"printer", SetPrinter},
@@ -76,4 +76,13 @@ std::map<std::string, Verb> MachineVerbs() {
          }
        }},
   };
+}
+
+void ResetMachine() {
+  Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, "SOFTWARE");
+  Machine::SetProgramFolder("C:\\LARKSPUR");
+  Machine::SetToday(2026, 8, 5);
+  Machine::FailStart(std::nullopt);
+  Machine::SetPrinter(std::nullopt);
+  Machine::StartedPrograms();
 }

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "platform/headless/internals.h"
-#include "platform/program.h"
 #include "support/expectations.h"
+#include "support/files.h"
 
 namespace {
 
@@ -99,7 +99,7 @@ User::User() {
   stage.File = [](const FileChoice& choice) {
     std::string asked = choice.Caption + " | " + choice.PatternTitle + " (" + choice.Pattern + ")";
     if (!choice.Name.empty()) asked += " | " + choice.Name;
-    if (!choice.Folder.empty() && choice.Folder != CurrentFolder()) asked += " | in " + choice.Folder;
+    if (!choice.Folder.empty() && choice.Folder != TestFiles::Folder()) asked += " | in " + choice.Folder;
     return Expected().FileDialogCame(choice.Caption, asked + (choice.ForWriting ? " | to write" : ""));
   };
   stage.Use = UseForm;

@@ -47,3 +47,5 @@ void Hands::ShutDown(Form& form) {
   SendMessageA(form.PeerOf().Window, WM_QUERYENDSESSION, 0, 0);
   RethrowCarried();
 }
+
+std::vector<std::string> Hands::StartedPrograms() { return {}; }

@@ -2,3 +2,4 @@
 #include "scenarios/story.h"
 
 std::map<std::string, Story::Verb> MachineVerbs() { return {}; }
+void ResetMachine() {}

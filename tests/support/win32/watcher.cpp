@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/program.h"
 #include "platform/win32/internals.h"
 #include "resource.h"
 #include "support/expectations.h"
+#include "support/files.h"
 
 namespace {
 
@@ -155,7 +155,7 @@ std::string AskedOf(HWND dialog, HWND field) {
   if (field != nullptr && !TextOfWindow(field).empty()) asked += " | " + TextOfWindow(field);
   char folder[MAX_PATH] = "";
   SendMessageA(dialog, CDM_GETFOLDERPATH, sizeof folder, reinterpret_cast<LPARAM>(folder));
-  if (folder[0] != 0 && CurrentFolder() != folder) asked += std::string(" | in ") + folder;
+  if (folder[0] != 0 && TestFiles::Folder() != folder) asked += std::string(" | in ") + folder;
   if (TextOfWindow(GetDlgItem(dialog, IDOK)) == "&Save") asked += " | to write";
   return asked;
 }
