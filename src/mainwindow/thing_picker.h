@@ -29,6 +29,8 @@ class ThingPicker {
   // What was typed into the list is settled: the thing that it offers becomes the current one; where it offers none,
   // the name of the current one comes back. Every command begins with it, so that it acts on what the list shows.
   void LeaveThingList();
+  // True while there is such a text; Esc drops it.
+  bool IsTyping() const { return typed_.has_value(); }
   // Takes notice of the categories' names, one of which may be gone.
   void CategoriesRenamed();
   bool NounOrder() const { return view_.NounOrder; }
