@@ -139,9 +139,9 @@ void SetRecords(RecordTable<Record>& table, const std::vector<Record>& records) 
 void MakeDefinitions() {
   int number = 0;
   for (const auto name : {"Furniture", "Tools", "Kitchen", "Garden", "", "Music", "Papers", "Valuables", "Insured"}) {
-    TheDocument.CategoryNames[++number] = name;
+    TheDocument.CategoryNames.Writable(++number) = name;
   }
-  TheDocument.CategoryNames[kCategories] = "On loan";
+  TheDocument.CategoryNames.Writable(kCategories) = "On loan";
   SetRecords<FieldDefinition>(TheDocument.Fields, {{"PRICE", "Price paid for one", "DOLLAR"},
                                                    {"QTY", "How many", "INTEGER"},
                                                    {"BOUGHT", "When bought", ""},
@@ -218,7 +218,7 @@ void GenerateDocument(int things, unsigned seed) {
     if (dice.Percent(8)) thing.PICFILENAME = "photos\\" + std::to_string(record) + ".jpg";
     thing.CATBITMAP = MakeCategories(dice);
     MakeValues(thing, dice);
-    TheDocument.Things[record] = std::move(thing);
+    TheDocument.Things.Writable(record) = std::move(thing);
   }
   MakeLinks(dice);
 }

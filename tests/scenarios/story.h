@@ -24,7 +24,7 @@
 // Standing before the act whose questions they answer; a plain OK box needs none
 //   ok, cancel, yes, no, answers "text" (an input box), chooses "file" (a file dialog)
 // Looking closer
-//   document (what changed in it since last told), show FILE, lock FILE (can another write it?), all CONTROL, clipboard
+//   document (what changed in it since last told), entry ITEM (what it says), show FILE, lock FILE (can another write it?), all CONTROL, clipboard
 // What code does: calls.cpp. In memory only: tests/support/headless/machine_verbs.cpp
 #pragma once
 

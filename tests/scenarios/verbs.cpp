@@ -217,6 +217,13 @@ std::map<std::string, Verb> PersonVerbs() {
                             Shows::Nothing)},
       {"tick", OnFocused([](User& user, int id, const std::string& text) { user.Ticks(id, text); }, Shows::Nothing)},
       {"menu", OnControl([](User& user, int id, const std::string&) { user.ChoosesMenu(id); })},
+      {"entry",
+       [](Story& story, const std::string& rest) {
+         const Form& form = *Hands::OpenForms().back();
+         const int item = Names::ControlOf(rest);
+         const std::string text = form.MenuText(item);
+         story.Say('"' + text.substr(0, text.find('\t')) + (form.MenuEnabled(item) ? "\"" : "\", greyed"));
+       }},
       {"close", [](Story& story, const std::string&) { story.Person().ClosesWindow(); }},
       {"key", PressKey},
       {"drag", Dragging(false)},

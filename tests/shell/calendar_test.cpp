@@ -2,6 +2,7 @@
 #include "shell/calendar.h"
 
 #include <gtest/gtest.h>
+
 #include "support/rows.h"
 
 namespace {

@@ -200,7 +200,8 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
     if (!topmost && mark.first == "focus") state.Marks.insert(mark);  // it waits there
   }
   for (const int item : Names::MenuItems(form_id)) {
-    if (!form.MenuEnabled(item)) state.Marks.emplace("greyed", item);
+    // What an entry says that the program words itself, an act asks for.
+    if (!form.MenuEnabled(item) && form.MenuText(item).empty()) state.Marks.emplace("greyed", item);
     if (form.MenuChecked(item)) state.Marks.emplace("checked", item);
   }
   return state;
