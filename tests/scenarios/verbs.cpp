@@ -206,7 +206,7 @@ std::map<std::string, Verb> PersonVerbs() {
       {"viewer", StartViewer},
       {"shutdown",
        [](Story&, const std::string&) {
-         Hands::ShutDown(*Hands::OpenForms().back());
+         Hands::ShutDown(*Hands::OpenForms().front());  // dialogs have no say
          Hands::Settle();
        }},
       {"type", OnFocused([](User& user, int id, const std::string& text) { user.Types(id, text); }, Shows::Text)},
