@@ -133,7 +133,8 @@ void SetRecords(RecordTable<Record>& table, const std::vector<Record>& records) 
   const int count = static_cast<int>(records.size());
   table.GrowFor(count, 0);
   table.SetCount(count);
-  for (int number = 1; number <= count; ++number) table[number] = records[static_cast<std::size_t>(number - 1)];
+  for (int number = 1; number <= count; ++number)
+    table.Writable(number) = records[static_cast<std::size_t>(number - 1)];
 }
 
 void MakeDefinitions() {
@@ -176,8 +177,8 @@ void MakeLinks(Dice& dice) {
   }
   for (std::size_t at = 1; at < order.size(); ++at) {
     const auto earlier = [&] { return order[static_cast<std::size_t>(dice.Below(static_cast<int>(at + 9) / 10))]; };
-    if (dice.Percent(85)) things[order[at]].XREF1 = earlier();
-    if (dice.Percent(25)) things[order[at]].XREF2 = earlier();
+    if (dice.Percent(85)) things.Writable(order[at]).XREF1 = earlier();
+    if (dice.Percent(25)) things.Writable(order[at]).XREF2 = earlier();
   }
 }
 
