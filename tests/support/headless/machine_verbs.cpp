@@ -10,6 +10,7 @@
 
 #include "platform/headless/machine.h"
 #include "scenarios/story.h"
+#include "viewer/page_text.h"
 
 namespace {
 
@@ -71,7 +72,7 @@ std::map<std::string, Verb> MachineVerbs() {
       {"printed",
        [](Story& story, const std::string&) {
          for (const Page& page : Machine::PrintedPages()) {
-           const auto rows = RowsOfPage(page);
+           const auto rows = RowsOf(page);
            story.Say(std::to_string(rows.size()) + " rows: " + rows.at(1) + " ... " + rows.back());
          }
        }},
