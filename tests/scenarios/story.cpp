@@ -127,7 +127,7 @@ void Story::Step() {
   const std::size_t open = Hands::OpenForms().size();
   Do(Expanded(now_->Text));
   const bool stays = leaves && Hands::OpenForms().size() >= open && !Hands::OpenForms().back()->Closed();
-  if (stays) Say("stays");
+  if (stays) Sees.Note("stays");
   Sees.LookAround();
 }
 
@@ -234,7 +234,7 @@ void Story::FormCame(Form& form) {
   while (!form.Closed() && next_ < acts_.size()) Step();
   const std::string name = Names::OfForm(Hands::TemplateOf(form));
   if (!form.Closed()) Fail(name + " was left open");
-  if (!Leaves(*now_)) Say(name + " closes");
+  if (!Leaves(*now_) && Sees.Knows(form)) Say(name + " closes");
   Sees.Forget(form);
 }
 

@@ -189,7 +189,7 @@ void Recorder::LookAt(const Form& form) {
   if (known) ForeseeAct(before);
   const State now = StateOf(form, before);
   if (!known) say_(Names::OfForm(now.Form) + " opens: " + now.Caption);
-  if (known && before.Caption != now.Caption) Pack("caption " + Quoted(now.Caption));
+  if (known && before.Caption != now.Caption) Note("caption " + Quoted(now.Caption));
   Tell(before, now);
   forms_[&form] = now;
   if (!known) opened_[now.Form] = now;
@@ -253,9 +253,9 @@ void Recorder::Tell(const State& before, const State& now) {
     const auto old = before.Controls.find(id);
     for (const std::string& news : NewsOf(old == before.Controls.end() ? Aspects() : old->second, told)) add(id, news);
   }
-  for (const auto& [news, ids] : lines) Pack(NamesOf(now.Form, ids) + news);
+  for (const auto& [news, ids] : lines) Note(NamesOf(now.Form, ids) + news);
   TellMarks(before, now);
-  Pack("");
+  Note("");
 }
 
 void Recorder::TellMarks(const State& before, const State& now) {
@@ -268,12 +268,11 @@ void Recorder::TellMarks(const State& before, const State& now) {
   }
   for (const auto& [mark, ids] : lines) {
     const std::string gone = ids.second.empty() ? "" : "not " + NamesOf(now.Form, ids.second);
-    Pack(mark + ": " + NamesOf(now.Form, ids.first) + (ids.first.empty() || gone.empty() ? "" : ", ") + gone);
+    Note(mark + ": " + NamesOf(now.Form, ids.first) + (ids.first.empty() || gone.empty() ? "" : ", ") + gone);
   }
 }
 
-// Short news share a line; none says what has been gathered.
-void Recorder::Pack(const std::string& raw) {
+void Recorder::Note(const std::string& raw) {
   const std::string news = plain_(raw);
   constexpr std::size_t kWidth = 114;
   if (!packed_.empty() && (news.empty() || packed_.size() + news.size() > kWidth)) say_(std::exchange(packed_, ""));
@@ -290,5 +289,6 @@ void Recorder::LookAround() {
     return gone;
   });
   if (!open.empty() && !open.back()->Closed()) LookAt(*open.back());
+  Note("");
   foreseen_ = {};
 }

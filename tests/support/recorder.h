@@ -24,6 +24,7 @@ class Recorder {
   void LookAtDocument();
   void Forget(const Form& form) { forms_.erase(&form); }
   bool Knows(const Form& form) const { return forms_.contains(&form); }
+  void Note(const std::string& raw);  // short news, which share a line; none says what was gathered
   void NoteFolder(const std::string& name) { folders_.push_back(name); }
 
   // What a person does to a control is no news: it gets the focus, and this text when there is one, marked or not.
@@ -47,7 +48,6 @@ class Recorder {
   void ForeseeAct(State& before) const;
   void Tell(const State& before, const State& now);
   void TellMarks(const State& before, const State& now);
-  void Pack(const std::string& raw);
 
   Say say_;
   Plain plain_;
