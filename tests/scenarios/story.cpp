@@ -7,7 +7,6 @@
 #include <filesystem>
 
 #include "document/document.h"
-#include "platform/locale.h"
 #include "platform/program.h"
 #include "platform/runtime_error.h"
 #include "shell/messages.h"
@@ -26,13 +25,7 @@ void ReplaceAll(std::string& text, const std::string& from, const std::string& t
 
 // What is another thing on each machine, as stories have it.
 std::vector<std::pair<std::string, std::string>> Stand() {
-  const std::chrono::year_month_day today = Today();
-  return {{TestFiles::Folder(), "{folder}"},
-          {ShortDate(static_cast<int>(today.year()), static_cast<unsigned>(today.month()),
-                     static_cast<unsigned>(today.day())),
-           "{today}"},
-          {"Version " FILER_VERSION, "Version {version}"},
-          {"\r\n", "{n}"}};
+  return {{TestFiles::Folder(), "{folder}"}, {"Version " FILER_VERSION, "Version {version}"}, {"\r\n", "{n}"}};
 }
 
 // As stories have it: what is the machine's own by its name, what is no plain character as {E9}.
