@@ -39,13 +39,13 @@ bool StoreOption(StartOptions& options, const std::string& keyword, std::string_
   return true;
 }
 
-// Reads the assignments from the first "/" on; false when one of them is not valid.
+// Reads the assignments, each from its "/" on; false when one of them is not valid.
 bool ParseAssignments(StartOptions& options, std::string_view rest) {
   bool valid = true;
-  for (auto slash = rest.find('/'); slash != std::string_view::npos; slash = rest.find('/')) {
+  while (!rest.empty()) {
     const auto equals = rest.find('=');
-    if (equals == std::string_view::npos || equals < slash) return false;
-    const std::string keyword = UpperCase(rest.substr(slash + 1, equals - slash - 1));
+    if (equals == std::string_view::npos) return false;
+    const std::string keyword = UpperCase(rest.substr(1, equals - 1));
     const auto next = std::min(rest.find('/', equals), rest.size());
     const std::string_view value = TrimRight(rest.substr(equals + 1, next - equals - 1));
     if (!StoreOption(options, keyword, value)) valid = false;

@@ -73,8 +73,6 @@ void ReportView::Show(const Place& place) {
   if (place.Line >= cut_.HeadRows) cut_.Top = std::clamp(cut_.Top, place.Line - rows + 1, place.Line);
   if (place.Column >= cut_.LeftColumns) cut_.Left = std::clamp(cut_.Left, place.Column - columns + 1, place.Column);
   // No Clamp: behind the longest line there is room for the caret.
-  cut_.Top = std::max<Index>(cut_.HeadRows, cut_.Top);
-  cut_.Left = std::max<Index>(cut_.LeftColumns, cut_.Left);
 }
 
 // How far the lines in view reach, for the End key.

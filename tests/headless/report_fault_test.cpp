@@ -1,10 +1,11 @@
-// Reports on a disk that is full at every place in turn.
+// Reports on a disk that fails at each call in turn.
 #include <algorithm>
 
 #include "document/file_handles.h"
 #include "mainwindow/main_form.h"
 #include "platform/files.h"
 #include "platform/headless/machine.h"
+#include "platform/program.h"
 #include "resource.h"
 #include "support/fresh_test.h"
 
@@ -12,34 +13,35 @@ namespace {
 
 constexpr unsigned long kDiskIsFull = 112;
 
-using ReportFaultTest = FreshTest;
-
-// It is said, the viewer stays away, and the next report is whole.
-TEST_F(ReportFaultTest, SaysThatAFileCouldNotBeWritten) {
-  Machine::PutRealFile("Home.FIL", FILER_SOURCE_DIR "/tests/scenarios/given/Home.FIL");
+// Wherever the disk is full: it is said, the viewer stays away, and the next report is whole.
+TEST_F(FreshTest, AReportThatCannotBeWrittenIsSaid) {
+  TestFiles::Put("Home.FIL", Lines({"LARKSPUR V5.0 FILER DATA", "[THINGS]", "*1; NAME=Shed", "NOTE=old", "[END]"}));
+  Machine::PutFile("C:\\LARKVIEW.EXE", "");
+  const std::string former_folder = ProgramFolder();
+  Machine::SetProgramFolder("C:");
   MainForm form("Home.FIL");
   form.Show();
-  const auto reports = [this](int failing_call, const std::string& says, Icon icon) {
-    user.UsesForm(IDD_ReportForm, [=, this] {
-      if (failing_call != 0) Machine::FailFileCall(failing_call, kDiskIsFull, false);
+  const auto report = [this](const std::string& name, int nth) {
+    user.UsesForm(IDD_ReportForm, [&] {
+      user.Types(IDC_PrintFileBox, name);
+      if (nth > 0) Machine::FailFileCall(1 + nth, kDiskIsFull, false);
       user.Clicks(IDC_OKButton);
     });
-    user.Reads(says, icon);
+    if (nth > 0) user.Reads("Failed to write file due to error # 61: Disk full", Icon::Exclamation);
     user.ChoosesMenu(IDC_AddressRepItem);
-    EXPECT_FALSE(Files::IsOpen(kPrintFileHandle)) << failing_call;
+    EXPECT_FALSE(Files::IsOpen(kPrintFileHandle)) << nth;
+    Machine::ClearFaults();
   };
-  const std::string no_viewer =
-      "Sorry, I failed to start the LARKVIEW.EXE program that is provided with Larkspur due to error 53: File not found";
-  reports(0, no_viewer, Icon::Critical);
-  const std::string whole = TestFiles::Get("Report.PRN").value_or("");
-  const int lines = static_cast<int>(std::count(whole.begin(), whole.end(), '\n'));
-  EXPECT_GT(lines, 10);
-  for (int nth = 1; nth <= lines + 1; ++nth) {  // behind the opening: the lines, the closing
-    reports(1 + nth, "Failed to write file due to error # 61: Disk full", Icon::Exclamation);
-  }
-  Machine::ClearFaults();
-  reports(0, no_viewer, Icon::Critical);
+  report("Whole.PRN", 0);
+  const std::string whole = TestFiles::Get("Whole.PRN").value();
+  EXPECT_EQ(Machine::StartedPrograms().size(), 1U);
+  const auto lines = static_cast<int>(std::count(whole.begin(), whole.end(), '\n'));
+  for (int nth = 1; nth <= lines + 1; ++nth) report("Report.PRN", nth);  // the opening, the lines, the closing
+  EXPECT_TRUE(Machine::StartedPrograms().empty());
+  report("Report.PRN", 0);
   EXPECT_EQ(TestFiles::Get("Report.PRN"), whole);
+  EXPECT_EQ(Machine::StartedPrograms().size(), 1U);
+  Machine::SetProgramFolder(former_folder);
 }
 
 }  // namespace

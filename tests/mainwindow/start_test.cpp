@@ -1,79 +1,22 @@
-// What the program reads at its start: the command line, file names and the settings file.
+// What the program reads at its start: the command line, file names and the settings file; and its address titles.
+#include <algorithm>
+
+#include "document/copies.h"
 #include "document/document.h"
+#include "mainwindow/address_titles.h"
 #include "mainwindow/command_line.h"
 #include "mainwindow/file_names.h"
 #include "mainwindow/settings.h"
 #include "platform/program.h"
 #include "support/fresh_test.h"
+#include "support/rows.h"
 
 namespace {
 
-class CommandLineTest : public FreshTest {};
-
-TEST_F(CommandLineTest, TakesFileAndKeywords) {
-  struct Row {
-    const char* Text;
-    const char* File;
-    const char* Thing;
-    const char* Folder;
-    const char* Settings;
-  };
-  const Row rows[] = {
-      {R"(C:\Data\Home.FIL /PERSON=Shed /DIR=C:\Data)", R"(C:\Data\Home.FIL)", "Shed", R"(C:\Data)", ""},
-      {R"(Home file.FIL)", "Home file.FIL", "", "", ""},
-      {R"(say "Home file.FIL" now "x")", "Home file.FIL", "", "", ""},
-      {R"("Home.FIL)", "Home.FIL", "", "", ""},
-      {R"("Home.FIL"  /person= Red Barn  /InIDir=C:\Ini)", "Home.FIL", " Red Barn", "", R"(C:\Ini)"},
-      {R"(/DIR="C:\My Data"/INIDIR="D:\)", "", "", R"(C:\My Data)", R"(D:\)"},
-      {R"(/PERSON="/DIR=x)", "", "", "x", ""},  // too short for its quote to go at once
-      {R"(/PERSON=a "Red Barn" b)", "", "Red Barn", "", ""},
-      {R"(/PERSON=a=b)", "", "a=b", "", ""},
-      {R"(/PERSON="")", "", "", "", ""},
-      {R"(/DIR=")", "", "", "\"", ""},
-      {R"(/DIR="")", "", "", "", ""},
-      {R"(/PERSON=A/PERSON=B)", "", "B", "", ""},
-  };
-  for (const Row& row : rows) {
-    const StartOptions options = ParseCommandLine(row.Text);
-    EXPECT_EQ(options.StartFile, row.File) << row.Text;
-    EXPECT_EQ(options.StartThing, row.Thing) << row.Text;
-    EXPECT_EQ(options.WorkingFolder, row.Folder) << row.Text;
-    EXPECT_EQ(options.SettingsFolder, row.Settings) << row.Text;
-  }
-}
-
-TEST_F(CommandLineTest, IgnoresFileAndThingWhenAParameterIsWrong) {
-  for (const char* text : {R"(Home.FIL /DIR=C:\A /PERSON=Shed /DIR C:\Data)", R"(Home.FIL /DIR=C:\A /WHO=Shed)",
-                           R"(Home.FIL /WHO=1 /PERSON=Shed /DIR=C:\A)", R"(Home.FIL /PERSON =Shed /DIR=C:\A)",
-                           R"(Home.FIL /DIR=C:\A /)"}) {
-    user.Reads("Invalid command line parameters are ignored.", Icon::Exclamation);
-    const StartOptions options = ParseCommandLine(text);
-    EXPECT_EQ(options.StartFile, "") << text;
-    EXPECT_EQ(options.StartThing, "") << text;
-    EXPECT_EQ(options.WorkingFolder, R"(C:\A)") << text;
-  }
-  // A "/" ends the file name, so that this is an assignment without "=".
-  user.Reads("Invalid command line parameters are ignored.", Icon::Exclamation);
-  EXPECT_EQ(ParseCommandLine("C:/Data/Home.FIL").StartFile, "");
-}
-
-TEST_F(CommandLineTest, JoinsFoldersAndNames) {
-  EXPECT_EQ(Global::FullFileName(R"(C:\Data)", ""), "");
-  EXPECT_EQ(Global::FullFileName(R"(C:\Data)", "Home.FIL"), R"(C:\Data\Home.FIL)");
-  EXPECT_EQ(Global::FullFileName(R"(C:\)", R"(sub\Home.FIL)"), R"(C:\sub\Home.FIL)");
-  EXPECT_EQ(Global::FullFileName(R"(C:\Data)", R"(\Home.FIL)"), R"(\Home.FIL)");
-  EXPECT_EQ(Global::FullFileName(R"(C:\Data)", "Home:FIL"), "Home:FIL");
-  EXPECT_EQ(Global::FullFileName("", "Home.FIL"), InFolder("Home.FIL"));
-  EXPECT_EQ(FolderOf(R"(C:\Data\Home.FIL)"), R"(C:\Data)");
-  EXPECT_EQ(FolderOf(R"(C:\Home.FIL)"), R"(C:\)");
-  EXPECT_EQ(FolderOf("C:Home.FIL"), "C:");
-  EXPECT_EQ(FolderOf(R"(\Home.FIL)"), R"(\)");
-  EXPECT_EQ(FolderOf("Home.FIL"), "");
-}
-
-class SettingsTest : public FreshTest {
+class StartTest : public FreshTest {
  protected:
-  // The list after loading a settings file of these lines: "count: name, name".
+  void Says(const std::string& text) { user.Reads(text, Icon::Exclamation); }
+  // The list after loading a settings file: "count: name, name".
   static std::string Loaded(const std::string& bytes) {
     TestFiles::Put("Torvane.INI", bytes);
     LoadSettings();
@@ -86,47 +29,97 @@ class SettingsTest : public FreshTest {
   }
 };
 
-TEST_F(SettingsTest, ReadsTheList) {
-  LoadSettings();  // there is no file
-  EXPECT_EQ(ListText(), "0:");
-  EXPECT_EQ(Loaded(Lines({"torvane V1 ini of old", "", "free; line", "[top10files]", "*1; NAME=C:\\A.FIL", "'comment",
-                          "*; name= B~;+", "  C.FIL"})),
-            "2: <C:\\A.FIL> < B;C.FIL>");
-  EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "*3; NAME=C:\\X.FIL"})), "3: <> <> <C:\\X.FIL>");
-  EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "*3; NAME=C", "*1; NAME=A"})), "1: <A>");
-  EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "*1; NAME=A", "*12; NAME=L", "*2; NAME=B", "[x]"})),
-            "1: <A>");
-  EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "NAME=A", "[TOP10FILES]", "*2;NAME=B"})), "2: <A> <B>");
-  EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI"})), "0:");
-  EXPECT_EQ(Loaded(Lines({"TORVANE V5.01 INI", "[TOP10FILES]", "NAME=A", "[TOP10FILES]", "*11;NAME=B", "*1;NAME=C"})),
-            "0:");
-  EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI", ";note", "[TOP10FILES]", "*1; NAME=A"})), "1: <A>");
-  EXPECT_EQ(Loaded(Lines({"TORVANE INI V05", "[TOP10FILES]", "NAME=A"})), "1: <A>");
-  EXPECT_EQ(Loaded("TORVANE V5.0 INI V9.0\r\n;[TOP10FILES];NAME=A"), "1: <A>");
+// The file, the thing, the working folder and the settings folder; "!" for parameters that are not valid.
+TEST_F(StartTest, CommandLinesNameFileAndKeywords) {
+  for (const auto& [text, read] : Rows(R"T(
+C:\Data\Home.FIL /PERSON=Shed /DIR=C:\Data => C:\Data\Home.FIL,Shed,C:\Data, | Home file.FIL => Home file.FIL,,,
+say "Home file.FIL" now "x" => Home file.FIL,,, | "Home.FIL => Home.FIL,,, | /PERSON="/DIR=x => ,,x,
+"Home.FIL"  /person= Red Barn  /InIDir=C:\Ini => Home.FIL, Red Barn,,C:\Ini | /PERSON=A/PERSON=B => ,B,,
+/DIR="C:\My Data"/INIDIR="D:\ => ,,C:\My Data,D:\ | /PERSON=a "Red Barn" b => ,Red Barn,, | /PERSON=a=b => ,a=b,,
+/PERSON="" => ,,, | /DIR=" => ,,", | /DIR="" => ,,, | Home.FIL /DIR=C:\A /PERSON=Shed /DIR C:\Data => !,,C:\A,
+Home.FIL /DIR=C:\A /WHO=Shed => !,,C:\A, | Home.FIL /WHO=1 /PERSON=Shed /DIR=C:\A => !,,C:\A,
+Home.FIL /PERSON =Shed /DIR=C:\A => !,,C:\A, | Home.FIL /DIR=C:\A / => !,,C:\A, | C:/Data/Home.FIL => !,,,)T")) {
+    const bool valid = !read.starts_with('!');
+    if (!valid) Says("Invalid command line parameters are ignored.");
+    const StartOptions options = ParseCommandLine(text);
+    EXPECT_EQ((valid ? "" : "!") + options.StartFile + "," + options.StartThing + "," + options.WorkingFolder + "," +
+                  options.SettingsFolder,
+              read)
+        << text;
+  }
 }
 
-TEST_F(SettingsTest, SaysWhatIsWrongWithTheFile) {
-  for (const char* header :
-       {"TORVANE V6.0 INI", "TORVANE V5.5 INI", "TORVANE V0.9 INI", "TORVANE V.95 INI", "TORVANE I V5.0",
-        "TORVANE INI V5", "TORVANE INI V5 ", "TORVANE 5.0 INI", "TORVANE V5.0", "LARKSPUR V5.0 INI", ""}) {
-    user.Reads("Failed to load TORVANE.INI due to invalid format or version.", Icon::Exclamation);
-    EXPECT_EQ(Loaded(Lines({header, "[TOP10FILES]", "*1; NAME=A"})), "0:") << header;
+TEST_F(StartTest, FoldersAndNamesAreJoined) {
+  for (const auto& [given, full] : Rows(R"T(C:\Data, =>  | C:\Data,Home.FIL => C:\Data\Home.FIL
+C:\,sub\Home.FIL => C:\sub\Home.FIL | C:\Data,\Home.FIL => \Home.FIL | C:\Data,Home:FIL => Home:FIL)T")) {
+    const auto [folder, name] = Halves(given, ',');
+    EXPECT_EQ(Global::FullFileName(folder, name), full);
   }
-  user.Reads("Failed to load TORVANE.INI due to invalid format or version.", Icon::Exclamation);
+  EXPECT_EQ(Global::FullFileName("", "Home.FIL"), InFolder("Home.FIL"));
+  for (const auto& [name, folder] : Rows(R"T(C:\Data\Home.FIL => C:\Data | C:\Home.FIL => C:\ | C:Home.FIL => C:
+\Home.FIL => \ | C:/a.b/Home => C:/a.b | Home.FIL => )T")) {
+    EXPECT_EQ(FolderOf(name), folder);
+  }
+}
+
+TEST_F(StartTest, CopiesAndPhotosHaveTheirPlaces) {
+  for (const auto& [name, backup] : Rows(R"T(C:\a\Home.FIL => C:\a\Home.BAK | C:\a.b\Home => C:\a.b\Home.BAK
+C:/a.b/Home => C:/a.b/Home.BAK | C:\a.b.c => C:\a.b.BAK)T")) {
+    EXPECT_EQ(BackupName(name), backup);
+    EXPECT_EQ(SavingName(name, 1), name + ".saving");
+    EXPECT_EQ(SavingName(name, 2), name + ".saving2");
+  }
+  const std::string folder = "C:\\" + std::string(243, 'f') + "\\";
+  EXPECT_EQ(SavingName(folder + "Home1.FIL", 1), folder + "Ho.saving");
+  EXPECT_EQ(SavingName(folder + "H.FIL", 12), folder + "ing12");
+  EXPECT_TRUE(SameFile("c:/Data\\home.fil", "C:\\DATA/Home.FIL"));
+  EXPECT_FALSE(SameFile("C:\\Data\\Home.FIL", "C:\\Data\\Home2.FIL"));
+  for (const auto& [given, places] : Rows(R"T(a.jpg, => C:\W\a.jpg
+p\a.jpg,C:\D\x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg | p/a.jpg,C:/D/x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg
+E:\o\p\a.jpg, => E:\o\p\a.jpg | E:\o/p\a.jpg,C:\x.FIL => E:\o\p\a.jpg;C:\a.jpg;C:\p\a.jpg;C:\o\p\a.jpg
+\p\a.jpg,C:\x.FIL => \p\a.jpg;C:\a.jpg;C:\p\a.jpg | \\s\a.jpg,C:\x.FIL => \\s\a.jpg;C:\a.jpg;C:\s\a.jpg
+E:a.jpg,C:\x.FIL => E:a.jpg;C:\a.jpg)T")) {
+    const auto [name, data_file] = Halves(given, ',');
+    std::string found;
+    for (const std::string& place : PhotoPlaces(name, data_file, "C:\\W")) found += (found.empty() ? "" : ";") + place;
+    EXPECT_EQ(found, places) << given;
+  }
+}
+
+TEST_F(StartTest, SettingsHoldAList) {
+  LoadSettings();  // there is no file
+  EXPECT_EQ(ListText(), "0:");
+  for (const auto& [given, told] : Rows(R"T(
+torvane V1 ini of old//free; line/[top10files]/*1; NAME=C:\A.FIL/'comment/*; name= B~;+/  C.FIL => 2: <C:\A.FIL> < B;C.FIL>
+TORVANE V5.0 INI/[TOP10FILES]/*3; NAME=C:\X.FIL => 3: <> <> <C:\X.FIL> | TORVANE V5.0 INI => 0:
+TORVANE V5.0 INI/[TOP10FILES]/*3; NAME=C/*1; NAME=A => 1: <A> | TORVANE INI V05/[TOP10FILES]/NAME=A => 1: <A>
+TORVANE V5.0 INI/[TOP10FILES]/*1; NAME=A/*10; NAME=J/*2; NAME=B/*11; NAME=L/*3; NAME=C/[x] => 2: <A> <B>
+TORVANE V5.0 INI/[TOP10FILES]/NAME=A/[TOP10FILES]/*2;NAME=B => 2: <A> <B>
+TORVANE V5.01 INI/[TOP10FILES]/NAME=A/[TOP10FILES]/*11;NAME=B/*1;NAME=C => 0:
+TORVANE V5.0 INI/;note/[TOP10FILES]/*1; NAME=A => 1: <A> | TORVANE V5.0 INI V9.0/;[TOP10FILES];NAME=A => 1: <A>
+TORVANE V6.0 INI => ! | TORVANE V5.5 INI => ! | TORVANE V0.9 INI => ! | TORVANE V.95 INI => ! | TORVANE I V5.0 => !
+TORVANE INI V5 => ! | TORVANE INI V5  => ! | TORVANE 5.0 INI => ! | TORVANE V5.0 => ! | LARKSPUR V5.0 INI => ! |  => !)T")) {
+    const bool valid = told != "!";
+    if (!valid) Says("Failed to load TORVANE.INI due to invalid format or version.");
+    std::string bytes = given + (valid ? "\n" : "/[TOP10FILES]/NAME=A\n");
+    for (auto at = bytes.find_first_of("/\n"); at < bytes.size(); at = bytes.find_first_of("/\n", at + 2)) {
+      bytes.replace(at, 1, "\r\n");
+    }
+    EXPECT_EQ(Loaded(bytes), valid ? told : "0:") << given;
+  }
+  Says("Failed to load TORVANE.INI due to invalid format or version.");
   EXPECT_EQ(Loaded(""), "0:");
-
-  user.Reads("FOLKLIST.INI file contains invalid field name for Top10Files: Title", Icon::Exclamation);
-  EXPECT_EQ(Loaded(Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "*1; NAME=A", "*2; Title=B", "*3; NAME=C"})), "1: <A>");
-
+  const std::string list = Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "*1; NAME=A"});
+  Says("FOLKLIST.INI file contains invalid field name for Top10Files: Title");
+  EXPECT_EQ(Loaded(list + Lines({"*2; Title=B", "*3; NAME=C"})), "1: <A>");
   user.Reads("TORVANE.INI contains invalid record type: [Windows]", Icon::Critical);
-  EXPECT_THROW(Loaded(Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "*1; NAME=A", "[Windows]"})), ProgramEnded);
-
+  EXPECT_THROW(Loaded(list + "[Windows]\r\n"), ProgramEnded);
   TestFiles::HoldByOther("Torvane.INI", true);
   LoadSettings();  // silent: the list is a convenience
   EXPECT_EQ(ListText(), "0:");
 }
 
-TEST_F(SettingsTest, WritesTheList) {
+TEST_F(StartTest, SettingsAreWritten) {
   SaveSettings();
   EXPECT_EQ(TestFiles::Get("Torvane.INI"), "TORVANE V5.0 INI\r\n");
   TheRecentFiles.Count = 3;
@@ -137,45 +130,48 @@ TEST_F(SettingsTest, WritesTheList) {
             Lines({"TORVANE V5.0 INI", "[TOP10FILES]", R"(*1; NAME=C:\A~;+.FIL~+)", "*2; NAME=", "*3; NAME=c~d"}));
   LoadSettings();
   EXPECT_EQ(ListText(), R"(3: <C:\A;+.FIL+> <> <cd>)");
-
   TestFiles::SetReadOnly("Torvane.INI", true);
-  user.Reads("Failed to save optional info to Torvane.INI due to error # 75: Path/File access error",
-             Icon::Exclamation);
+  Says("Failed to save optional info to Torvane.INI due to error # 75: Path/File access error");
   SaveSettings();
-  EXPECT_EQ(TheRecentFiles.Count, 3);
-}
 
-TEST_F(SettingsTest, DoublesTheSeparatorBehindItsOwnFolder) {
+  // Behind its own folder the separator is doubled.
   TheStart.SettingsFolder = InFolder("ini");
-  EXPECT_EQ(SettingsFileName(), InFolder(R"(ini\\Torvane.INI)"));
-  user.Reads(
-      "Failed to save optional info to " + InFolder(R"(ini\\Torvane.INI)") + " due to error # 76: Path not found",
-      Icon::Exclamation);
+  Says("Failed to save optional info to " + InFolder(R"(ini\\Torvane.INI)") + " due to error # 76: Path not found");
+  TheRecentFiles = {};
   RememberRecentFile("A");
-  EXPECT_EQ(TheRecentFiles.Count, 1);
   TestFiles::MakeFolder("ini");
   TheStart.SettingsFolder += "\\";
+  EXPECT_EQ(SettingsFileName(), InFolder(R"(ini\\Torvane.INI)"));
   SaveSettings();
   EXPECT_EQ(TestFiles::Get(R"(ini\Torvane.INI)"), Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "*1; NAME=A"}));
 }
 
-TEST_F(SettingsTest, MovesASavedFileToTheTop) {
-  for (const char* name : {"A", "B", "C", "D", "E"}) RememberRecentFile(name);
-  EXPECT_EQ(ListText(), "5: <E> <D> <C> <B> <A>");
-  RememberRecentFile("b");
-  EXPECT_EQ(ListText(), "5: <b> <E> <D> <C> <A>");
-  RememberRecentFile("B");  // stands at the top already: nothing moves, but the file is written
-  EXPECT_EQ(ListText(), "5: <b> <E> <D> <C> <A>");
-  for (const char* name : {"F", "G", "H", "I", "J", "K"}) RememberRecentFile(name);
-  EXPECT_EQ(ListText(), "10: <K> <J> <I> <H> <G> <F> <b> <E> <D> <C>");
-  RememberRecentFile("c");
-  EXPECT_EQ(ListText(), "10: <c> <K> <J> <I> <H> <G> <F> <b> <E> <D>");
+// What is saved one after the other, and the list then.
+TEST_F(StartTest, SavedFilesMoveToTheTop) {
+  for (const auto& [names, list] : Rows(R"(ABCDE => 5: <E> <D> <C> <B> <A>
+b => 5: <b> <E> <D> <C> <A> | B => 5: <b> <E> <D> <C> <A> | a => 5: <a> <b> <E> <D> <C>
+FGHIJK => 10: <K> <J> <I> <H> <G> <F> <a> <b> <E> <D> | d => 10: <d> <K> <J> <I> <H> <G> <F> <a> <b> <E>)")) {
+    for (const char name : names) RememberRecentFile(std::string(1, name));
+    EXPECT_EQ(ListText(), list);
+  }
   TheRecentFiles[1] = TheRecentFiles[4] = "twice";
   RememberRecentFile("TWICE");  // the last place of a name counts
-  EXPECT_EQ(ListText(), "10: <TWICE> <twice> <K> <J> <H> <G> <F> <b> <E> <D>");
-  const auto written = TestFiles::Get("Torvane.INI");
-  ASSERT_TRUE(written.has_value());
-  EXPECT_EQ(written->substr(0, 48), Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "*1; NAME=TWICE"}));
+  EXPECT_EQ(ListText(), "10: <TWICE> <twice> <K> <J> <H> <G> <F> <a> <b> <E>");
+  TheRecentFiles = {};
+  LoadSettings();
+  EXPECT_EQ(ListText(), "10: <TWICE> <twice> <K> <J> <H> <G> <F> <a> <b> <E>");
+}
+
+TEST_F(StartTest, AddressTitlesAreStandard) {
+  Global::FillAddressTitles();
+  std::string titles;
+  for (const std::string& title : Global::StandardTitles) titles += title + "/";
+  EXPECT_EQ(titles,
+            "Name/Home Phone/Business Phone/Mobile Phone/1st E-Mail address/2nd E-Mail address/Street line 1/"
+            "Street line 2/City/Province/State/Nation/Postal Code/Note/Picture Filename/Birth Year/Birth Month/"
+            "Birth Day/Gender/");
+  EXPECT_EQ(Global::FieldTitles, Global::StandardTitles);
+  EXPECT_EQ(Global::ShownTitles, Global::StandardTitles);
 }
 
 }  // namespace

@@ -1,13 +1,53 @@
-// The item list and the item values report, and the lines that all reports are made of.
+// The reports, and the lines that all of them are made of. Most are compared with the golden files beside this one,
+// which a run with FILER_UPDATE=1 writes anew.
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <iterator>
+
 #include "document/document.h"
+#include "document/file_handles.h"
+#include "document/reader.h"
+#include "platform/files.h"
+#include "reports/hierarchy_report.h"
 #include "reports/item_list_report.h"
 #include "reports/item_values_report.h"
 #include "reports/print_file.h"
-#include "reports/reports_test.h"
+#include "support/fresh_test.h"
+#include "support/rows.h"
 
 namespace {
 
-class ReportWritersTest : public ReportsTest {};
+class ReportWritersTest : public FreshTest {
+ protected:
+  // The bytes of a file that lies with the program's sources.
+  static std::string SourceFile(const std::string& name) {
+    std::ifstream file(FILER_SOURCE_DIR "/" + name, std::ios::binary);
+    EXPECT_TRUE(file) << name;
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  static void Load(const std::string& name) {
+    MakeNew();  // the file that was loaded before is locked
+    TheDocument = {};
+    TestFiles::Put("Source.FIL", SourceFile(name));
+    ASSERT_TRUE(LoadFilerFile(InFolder("Source.FIL")));
+  }
+  // What a writer writes into the print file.
+  static std::string Written(const std::function<void()>& write) {
+    Files::Open(kPrintFileHandle, InFolder("Report.PRN"), Files::Mode::Output);
+    EXPECT_TRUE(WritePrintFile(write));
+    EXPECT_FALSE(Files::IsOpen(kPrintFileHandle));
+    return TestFiles::Get("Report.PRN").value_or("no file");
+  }
+  static void ExpectGolden(const std::string& name, const std::function<void()>& write) {
+    const std::string written = Written(write);
+    const std::string golden = "tests/reports/golden/" + name;
+    if (std::getenv("FILER_UPDATE") != nullptr) {
+      std::ofstream(FILER_SOURCE_DIR "/" + golden, std::ios::binary) << written;
+    }
+    EXPECT_EQ(written, SourceFile(golden)) << name;
+  }
+};
 
 TEST_F(ReportWritersTest, LinesAreComposedOfTextsNumbersAndColumns) {
   EXPECT_EQ(Written([] {
@@ -19,80 +59,59 @@ TEST_F(ReportWritersTest, LinesAreComposedOfTextsNumbersAndColumns) {
             Lines({"", "a-5 7b", " 1   name", " 999 name", " 1000name", " 10000", "     name", "xy", " z"}));
 }
 
+// The width and the text, and its lines parted by "/".
 TEST_F(ReportWritersTest, TextsAreWrappedAtBlanks) {
   const std::string wide(75, 'w');
-  const struct {
-    std::string Text;
-    int Width;
-    std::vector<std::string> Expected;
-  } kRows[] = {
-      {"", 75, {" "}},
-      {wide.substr(1), 75, {" " + wide.substr(1)}},
-      {wide, 75, {" " + wide, " "}},
-      {wide + "x", 75, {" " + wide, " x"}},
-      {"one two", 4, {" one", " two"}},
-      {"one two", 7, {" one", " two"}},
-      {"one two", 8, {" one two"}},
-      {"one  two", 5, {" one", " two"}},
-      {" longword", 5, {" ", " longw", " ord"}},
-      {"end   ", 5, {" end", "  "}},
-      {" aa bb", 5, {"  aa", " bb"}},
-  };
-  for (const auto& row : kRows) {
-    EXPECT_EQ(Written([&] { WriteWrapped(row.Text, row.Width); }), Lines(row.Expected)) << row.Text << row.Width;
+  for (const auto& [given, lines] :
+       Rows("75  =>  /\n75 " + wide.substr(1) + " =>  " + wide.substr(1) + "/\n75 " + wide + " =>  " + wide +
+            "/ /\n75 " + wide + "x =>  " + wide +
+            "/ x/\n4 one two =>  one/ two/\n7 one two =>  one/ two/\n8 one two =>  one two/\n" +
+            "5 one  two =>  one/ two/\n5  longword =>  / longw/ ord/\n5 end    =>  end/  /\n5  aa bb =>   aa/ bb/")) {
+    const auto [width, text] = Halves(given, ' ');
+    std::string written = Written([&, most = std::stoi(width), all = text] { WriteWrapped(all, most); });
+    for (auto at = written.find("\r\n"); at != std::string::npos; at = written.find("\r\n"))
+      written.replace(at, 2, "/");
+    EXPECT_EQ(written, lines) << given;
   }
 }
 
-TEST_F(ReportWritersTest, ItemLists) {
+TEST_F(ReportWritersTest, AreAsTheyWere) {
   EXPECT_EQ(Written([] { WriteItemListReport(0); }), "");
-  LoadSource("samples/Household.FIL");
+  Load("samples/Household.FIL");
   ExpectGolden("HouseholdList.PRN", [] { WriteItemListReport(0); });
   ExpectGolden("HouseholdOnLoan.PRN", [] { WriteItemListReport(CategoryBit(32) | CategoryBit(1)); });
-  LoadSource("tests/reports/golden/Nasty.FIL");
+  ExpectGolden("HouseholdValues.PRN", [] { WriteItemValuesReport(0, {1, 2, 5}); });
+  ExpectGolden("HouseholdHierarchy.PRN", [] { WriteHierarchyReport(24); });
+  Load("tests/reports/golden/Nasty.FIL");
+  ExpectGolden("NastyValues.PRN", [] { WriteItemValuesReport(0, {1, 2, 3, 5}); });
+  ExpectGolden("NastyRooms.PRN", [] { WriteItemValuesReport(CategoryBit(2), {3}); });
+  ExpectGolden("NastyHierarchy.PRN", [] { WriteHierarchyReport(1); });
   TheDocument.Things[5].Values[3].Text = ":a colon first";
   TheDocument.Things[5].Values[9].Text = "no colon";
   ExpectGolden("NastyList.PRN", [] { WriteItemListReport(0); });
 }
 
-// Category 32 is told by all bits from the sign bit's half on.
-TEST_F(ReportWritersTest, ClassificationsAtTheSignBit) {
-  TheDocument.Things.SetCount(3);
-  TheDocument.Things[1].CATBITMAP = CategoryBit(15);
-  TheDocument.Things[2].CATBITMAP = CategoryBit(16);
-  TheDocument.Things[3].CATBITMAP = CategoryBit(16) | CategoryBit(17);
-  TheDocument.CategoryNames[15] = "Fifteen";
-  TheDocument.CategoryNames[16] = "Sixteen";
-  TheDocument.CategoryNames[32] = "Last";
-  EXPECT_EQ(
-      Written([] { WriteItemListReport(0); }),
-      Lines({"LARKSPUR V1.0 REPORT T=2,G=0", "", "Larkspur Object List report", "", "", " Classification: Fifteen", "",
-             "", " Classification: Sixteen, Last", "", "", " Classification: Sixteen, , Last"}));
+// Category 32 is told by all bits from the sign bit's half on; a sum may have no end, and a largest number be negative.
+TEST_F(ReportWritersTest, GoToExtremes) {
+  Load("tests/reports/golden/Extreme.FIL");
+  // Whoever asks for one report is not asked the same once for each thing.
+  for (int report = 0; report < 2; ++report) {
+    user.Answers("Are you sure that you want to use an interest rate greater than 100%?", Answer::No, Icon::None,
+                 Buttons::YesNo);
+  }
+  ExpectGolden("ExtremeList.PRN", [] { WriteItemListReport(0); });
+  ExpectGolden("ExtremeValues.PRN", [] { WriteItemValuesReport(0, {1, 2}); });
 }
 
-TEST_F(ReportWritersTest, ItemValues) {
-  LoadSource("samples/Household.FIL");
-  ExpectGolden("HouseholdValues.PRN", [] { WriteItemValuesReport(0, {1, 2, 5}); });
-  LoadSource("tests/reports/golden/Nasty.FIL");
-  ExpectGolden("NastyValues.PRN", [] { WriteItemValuesReport(0, {1, 2, 3, 5}); });
-  ExpectGolden("NastyRooms.PRN", [] { WriteItemValuesReport(CategoryBit(2), {3}); });
-  TheDocument = {};
-  TheDocument.Things.SetCount(1);
-  TheDocument.Things[1].Values[0].Text = "N:-5";
-  TheDocument.Fields.SetCount(1);
-  TheDocument.Fields[1] = {"N", "N", "INTEGER"};
-  const std::string negative = Written([] { WriteItemValuesReport(0, {1}); });
-  EXPECT_NE(negative.find("Maximum                          -5\r\n"), std::string::npos) << negative;
-}
-
-// Whoever asks for one report is not asked the same once for each thing.
-TEST_F(ReportWritersTest, HighInterestIsAskedAboutOnceAReport) {
-  TheDocument.Things.SetCount(3);
-  TheDocument.Formulas.SetCount(1);
-  TheDocument.Formulas[1] = {"RATE", "Rate", "INTEREST", "", "2*2"};
-  user.Answers("Are you sure that you want to use an interest rate greater than 100%?", Answer::No, Icon::None,
-               Buttons::YesNo);
-  const std::string report = Written([] { WriteItemListReport(0); });
-  EXPECT_NE(report.find("\r\n\r\n\r\n RATE: 0.00%\r\n\r\n\r\n RATE: 0.00%\r\n"), std::string::npos) << report;
+// Families with loops and links to nothing, from every member; and from numbers that are none, which write nothing.
+TEST_F(ReportWritersTest, HierarchiesEnd) {
+  Load("tests/reports/golden/Family.FIL");
+  const std::string nines(79, '9');
+  TheDocument.Things[5].NAME = "_" + nines + " 34";
+  TheDocument.Things[9].NAME = "  " + nines + "__34";
+  ExpectGolden("FamilyHierarchies.PRN", [] {
+    for (int top = -1; top <= TheDocument.Things.Count() + 1; ++top) WriteHierarchyReport(top);
+  });
 }
 
 }  // namespace

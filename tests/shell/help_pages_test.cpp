@@ -22,24 +22,19 @@ std::string ReadPage(const std::string& name) {
   return text;
 }
 
-// What stands between two marks from a place on, which moves behind it; nothing when there is no more.
-std::string Between(const std::string& text, const std::string& before, const std::string& after, std::size_t& at) {
-  const std::size_t first = text.find(before, at);
-  const std::size_t end = first == std::string::npos ? first : text.find(after, first + before.size());
-  at = end;
-  if (end == std::string::npos) return {};
-  return text.substr(first + before.size(), end - first - before.size());
+// Everything that stands between two marks.
+std::vector<std::string> Between(const std::string& text, const std::string& before, const std::string& after) {
+  std::vector<std::string> pieces;
+  for (std::size_t at = text.find(before), end = 0; at != std::string::npos; at = text.find(before, end)) {
+    end = text.find(after, at += before.size());
+    pieces.push_back(text.substr(at, end - at));
+  }
+  return pieces;
 }
 
 // The text of a piece of a page: without tags, entities as characters.
-std::string Plain(const std::string& piece) {
-  std::string text;
-  bool in_tag = false;
-  for (const char each : piece) {
-    if (each == '<') in_tag = true;
-    if (!in_tag) text += each;
-    if (each == '>') in_tag = false;
-  }
+std::string Plain(std::string text) {
+  for (const std::string& tag : Between(text, "<", ">")) text.erase(text.find("<" + tag), tag.size() + 2);
   const std::pair<std::string, std::string> entities[] = {{"&lt;", "<"}, {"&gt;", ">"}, {"&amp;", "&"}};
   for (const auto& [entity, character] : entities) {
     for (auto at = text.find(entity); at != std::string::npos; at = text.find(entity, at + 1)) {
@@ -49,63 +44,48 @@ std::string Plain(const std::string& piece) {
   return text;
 }
 
-// The rows of all tables of a class, headings left out.
-std::vector<std::vector<std::string>> RowsOf(const std::string& page, const std::string& table_class) {
+// The rows of all tables of a class with that many columns, headings left out.
+std::vector<std::vector<std::string>> RowsOf(const std::string& table_class, std::size_t columns) {
   std::vector<std::vector<std::string>> rows;
-  std::size_t table_at = 0;
-  for (;;) {
-    const std::string table = Between(page, "<table class=\"" + table_class + "\">", "</table>", table_at);
-    if (table_at == std::string::npos) return rows;
-    for (std::size_t row_at = 0;;) {
-      const std::string row = Between(table, "<tr>", "</tr>", row_at);
-      if (row_at == std::string::npos) break;
-      std::vector<std::string> cells;
-      for (std::size_t cell_at = 0;;) {
-        const std::string cell = Between(row, "<td>", "</td>", cell_at);
-        if (cell_at == std::string::npos) break;
-        cells.push_back(Plain(cell));
-      }
-      if (!cells.empty()) rows.push_back(cells);
+  const std::string page = ReadPage("Larkspur_Formulas.htm");
+  for (const std::string& table : Between(page, "<table class=\"" + table_class + "\">", "</table>")) {
+    for (const std::string& row : Between(table, "<tr>", "</tr>")) {
+      std::vector<std::string> cells = Between(row, "<td>", "</td>");
+      for (std::string& cell : cells) cell = Plain(cell);
+      EXPECT_TRUE(cells.empty() || cells.size() == columns) << row;
+      if (cells.size() == columns) rows.push_back(cells);
     }
   }
+  return rows;
 }
 
 class HelpPagesTest : public FreshTest {};
 
 TEST_F(HelpPagesTest, CalculationsAndFormulasComeOutAsTheySay) {
   std::array<FieldValueSlot, kFieldValues> slots{};
-  slots[0].Text = "PRICE:12.50";
-  slots[1].Text = "QTY:4";
-  slots[2].Text = "CHANCE:55%";
-  slots[3].Text = "WEIGHT:0.75";
-  const auto rows = RowsOf(ReadPage("Larkspur_Formulas.htm"), "checked");
+  const char* const values[] = {"PRICE:12.50", "QTY:4", "CHANCE:55%", "WEIGHT:0.75"};
+  for (std::size_t slot = 0; slot < std::size(values); ++slot) slots[slot].Text = values[slot];
+  const auto rows = RowsOf("checked", 4);
   EXPECT_GT(rows.size(), 40U);
   for (const auto& row : rows) {
-    SCOPED_TRACE(row[0]);
-    ASSERT_EQ(row.size(), 4U);
     std::string expression = Global::ExpandFieldReferences(row[0], slots);
-    ASSERT_FALSE(expression.empty());
     const std::string result = Global::EvaluateExpression(expression, StorageType(row[1]), true);
-    EXPECT_EQ(result, row[2]);
-    EXPECT_EQ(FormatValue(result, row[1], ""), row[3]);
+    EXPECT_EQ(result, row[2]) << row[0];
+    EXPECT_EQ(FormatValue(result, row[1], ""), row[3]) << row[0];
   }
 }
 
 TEST_F(HelpPagesTest, FormatsShowWhatTheySay) {
-  const auto rows = RowsOf(ReadPage("Larkspur_Formulas.htm"), "checked-formats");
+  const auto rows = RowsOf("checked-formats", 3);
   EXPECT_GT(rows.size(), 8U);
-  for (const auto& row : rows) {
-    ASSERT_EQ(row.size(), 3U);
-    EXPECT_EQ(FormatByTemplate(row[0], row[1], '.'), row[2]) << row[0] << " under " << row[1];
-  }
+  for (const auto& row : rows) EXPECT_EQ(FormatByTemplate(row[0], row[1], '.'), row[2]) << row[1];
 }
 
 TEST_F(HelpPagesTest, TheDataFileLoadsAndIsSavedAsItStands) {
-  std::size_t at = 0;
-  const std::string shown =
-      Plain(Between(ReadPage("Larkspur_DataFile.htm"), "<pre id=\"example-file\">", "</pre>", at));
+  const auto examples = Between(ReadPage("Larkspur_DataFile.htm"), "<pre id=\"example-file\">", "</pre>");
+  ASSERT_EQ(examples.size(), 1U);
   std::string bytes;
-  for (const char each : shown) bytes += each == '\n' ? std::string("\r\n") : std::string(1, each);
+  for (const char each : Plain(examples[0])) bytes += each == '\n' ? std::string("\r\n") : std::string(1, each);
   TestFiles::Put("Example.FIL", bytes);
   MakeNew();
   ASSERT_TRUE(LoadFilerFile(InFolder("Example.FIL")));

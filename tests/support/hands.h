@@ -44,8 +44,8 @@ void Choose(Form& form, int item);
 void Press(Form& form, const KeyPress& key);
 void PressControl(Form& form, char letter);
 void Drag(Surface& surface, Cell from, Cell to, bool shift);
-void DoubleClick(Surface& surface, Cell at);
-void TurnWheel(Surface& surface, int notches, bool shift, bool control);
+void DoubleClick(Control& control, Cell at);  // a surface at a cell, or a picture
+void TurnWheel(Control& control, int notches, bool shift, bool control_key);
 void PageBar(Surface& surface, Surface::Bar bar, int pages);
 void Close(Form& form);
 void ShutDown(Form& form);  // the system asks whether it may

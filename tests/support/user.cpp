@@ -149,11 +149,16 @@ void User::Drags(int id, Cell from, Cell to, bool shift) {
 }
 
 void User::DoubleClicks(int id, Cell at) {
-  ActOn<Surface>(id, [at](Surface& surface) { Hands::DoubleClick(surface, at); });
+  if (Control* control = Reach<Surface, Picture>(id)) Hands::DoubleClick(*control, at);
+  Hands::Settle();
 }
 
+// Over a drop-down the wheel does not move the focus there.
 void User::TurnsWheel(int id, int notches, bool shift, bool control) {
-  ActOn<Surface>(id, [=](Surface& surface) { Hands::TurnWheel(surface, notches, shift, control); });
+  Control* over = Find(id);
+  if (dynamic_cast<ListControl*>(over) == nullptr) over = Reach<Surface>(id);
+  if (over != nullptr) Hands::TurnWheel(*over, notches, shift, control);
+  Hands::Settle();
 }
 
 void User::PagesBar(int id, Surface::Bar bar, int pages) {

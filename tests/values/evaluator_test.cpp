@@ -1,158 +1,143 @@
-// Formulas: their language, and what comes of every odd way to write one.
+// Formulas: what comes of every odd way to write one, in the stored form of each type. The examples of the help page
+// (tests/shell/help_pages_test.cpp) are not repeated here.
 #include "values/evaluator.h"
 
 #include <algorithm>
+#include <map>
 
+#include "platform/program.h"
 #include "support/fresh_test.h"
+#include "support/rows.h"
+#include "values/number_store.h"
 
 namespace {
 
 class EvaluatorTest : public FreshTest {
  protected:
-  static std::string Value(std::string expression, const std::string& type = "DOUBLE", bool quiet = true) {
-    return Global::CalculateExpression(expression, type, '.', quiet);
+  static std::string Value(std::string expression, const std::string& type = "DOUBLE", bool quiet = true,
+                           char separator = '.') {
+    return Global::CalculateExpression(expression, type, separator, quiet);
   }
+  void Says(const std::string& text) { user.Reads(text, Icon::Exclamation); }
 };
 
-TEST_F(EvaluatorTest, Computes) {
-  struct Row {
-    const char* Expression;
-    const char* Result;
-  };
-  const Row rows[] = {
-      {"2 + 3 * 4", "14"},
-      {"(2 + 3) * 4", "20"},
-      {"10 - 4 - 3", "3"},
-      {"8 / 2 / 2", "2"},
-      {"2 - 3 + 4", "3"},
-      {"8 / 2 * 3", "12"},
-      {"-3 * -2", "6"},
-      {"5 - -3", "8"},
-      {"-+3 + 1", "1"},  // "-+3" is one operand, and reads as 0
-      {"5 * -2", "-10"},
-      {"-(-3)", "-3"},
-      {"((1 + 2) * (3 + 4))", "21"},
-      {"1/3*3", "0.999999999999999"},
-      {"", "0"},
-      {"   ", "0"},
-      {"7", "7"},
-      {"x", "?"},
-      {"?", "?"},
-      {"12abc", "12"},
-      {"5+", "5"},
-      {"*5", "0"},
-      {"2 + 3)", "?"},
-      {"(2+3", "3"},
-      {"2(3)", "23"},
-      {")(", "0"},
-      {"1+2)(", "?"},
-      {"()", ""},
-      {"200 * 5%", "10"},
-      {"50%", "0.5"},
-      {"(5%)", "0"},
-      {"(5%+10%)*200", "?"},
-      {"10%%", "0.001"},
-      {"1.5E-7 * 2", "3E-07"},
-      {"1E+20", "21"},
-      {"100000000000*1000000000", "21"},
-      {"1e-2", "-1"},
-      {"1,000 + 1", "2"},
-      {"5/0", "?"},
-      {"0/0", "?"},
-      {"1E308*10", "?"},
-  };
-  for (const Row& row : rows) EXPECT_EQ(Value(row.Expression), row.Result) << row.Expression;
-  EXPECT_EQ(Value("50% * 12.50", "DOLLAR"), "6.25");
-  EXPECT_EQ(Value("0.55", "ODDS"), "55%");
-  EXPECT_EQ(Value("", "DOLLAR"), "0");
-  EXPECT_EQ(Value("300*300", "INTEGER"), "?");
+TEST_F(EvaluatorTest, ComputesAndStores) {
+  // "-+3" is one operand, and reads as 0.
+  const std::map<std::string, const char*> tables = {{"DOUBLE", R"(
+2 - 3 + 4 => 3 | 8 / 2 * 3 => 12 | 5 - -3 => 8 | 5 * -2 => -10 | -+3 + 1 => 1 | ((1 + 2) * (3 + 4)) => 21
+ => 0 |     => 0 | 7 => 7 | 9 => 9 | x => ? | ? => ? | : => ? | / => ? | 12abc => 12 | *5 => 0 | )( => 0
+1+2)( => ? | () =>  | 50% => 0.5 | (5%) => 0 | 10%% => 0.001 | 1e-2 => -1 | 1,000 + 1 => 2 | 5/0 => ? | 0/0 => ?
+1E308*10 => ? | 1.5E-7 * 2 => 3E-07 | 1E+20 => 21 | 1e20 => 1E+20 | 100000000000*1000000000 => 21 | 1e999 => ?
+.5 => 0.5 | -3 => -3 | -0 => 0 | 0.00000015 => 1.5E-07 | 123456789012345.6 => 123456789012346)"},
+                                                     {"byte", "255 => 255 | 255.5 => ? | 256 => ? | -1 => ?"},
+                                                     {"INTEGER", R"(
+abc => 0 | 12abc => 12 | 1,000 => 1 | -2.5 => -2 | 32767.4 => 32767 | 32768 => ? | -32768.5 => -32768 | 300*300 => ?)"},
+                                                     {"LONG", "2147483647 => 2147483647 | -2147483649 => ?"},
+                                                     {"SINGLE", R"(
+0.1 => 0.1 | 16777217 => 1.677722E+07 | 3.4028235E38 => 3.402823E+38 | 3.4028236E38 => ?)"},
+                                                     {"DOLLAR", R"(
+ => 0 | 12.5 => 12.50 | -0.05 => -0.05 | 1234567 => 1234567.00 | 21474836.47 => 21474836.47 | 21474836.48 => ?
+-21474836.48 => -21474836.48 | -21474836.49 => ? | 30,000,000 => 30.00)"},
+                                                     {"ODDS", "0.5 => 50% | 1 => 100% | 1.5 => 100% | -0.1 => 100%"},
+                                                     {"ODDSPM", "-1 => -100% | -1.2 => 100%"},
+                                                     {"INTRATE", "0.035 => 3.5% | -0.05 => 0 | 0*1 => 0% | 1 => 100%"}};
+  for (const auto& [type, rows] : tables) {
+    for (const auto& [expression, result] : Rows(rows)) EXPECT_EQ(Value(expression, type), result) << expression;
+  }
+  EXPECT_EQ(Value("1,5 * 3", "DOUBLE", false, ','), "4,5");
+  EXPECT_EQ(Value("12,345", "DOLLAR", false, ','), "12,34");
+  EXPECT_THROW(Value("11", "INTEREST"), ProgramEnded);
+  EXPECT_THROW(Value("11", ""), ProgramEnded);
 }
 
-TEST_F(EvaluatorTest, SaysWhichOperationFailed) {
-  user.Reads("Failed to calculate expression 5/0 due to error # 11: Division by zero", Icon::Exclamation);
-  EXPECT_EQ(Value("1 + 5 / 0", "DOUBLE", false), "?");
-  user.Reads("Failed to calculate expression 1E308*10 due to error # 6: Overflow", Icon::Exclamation);
-  EXPECT_EQ(Value("1E308 * 10", "DOUBLE", false), "?");
-  user.Reads("Failed to convert percentage 1e999% due to error # 6: Overflow", Icon::Exclamation);
-  EXPECT_EQ(Value("1e999%", "DOUBLE", false), "?");
+// The type and the expression, the result and what is said.
+TEST_F(EvaluatorTest, SaysWhatFailedAndWhatIsReplaced) {
+  for (const auto& [given, told] : Rows(R"(
+DOUBLE 1 + 5 / 0 => ? Failed to calculate expression 5/0 due to error # 11: Division by zero
+DOUBLE 1E308 * 10 => ? Failed to calculate expression 1E308*10 due to error # 6: Overflow
+DOUBLE 1e999% => ? Failed to convert percentage 1e999% due to error # 6: Overflow
+DOUBLE 1,5x * 2 => ? Failed to calculate expression 1,5x*2 due to error # 13: Type mismatch
+ODDS abc => ? Failed to store number abc due to error # 13: Type mismatch
+BYTE 256 => ? Failed to store number 256 due to error # 6: Overflow
+ODDS 1,5 => 100% Invalid odds value 150% is replaced with 100%.  (For odds, please type numbers followed by a percent sign or type a fractional amount.)
+ODDSPM -1,2 => 100% Invalid odds value -120% is replaced with 100%.  (Type a positive or negative number followed by a percent sign or type a fractional amount.)
+INTRATE -0,05 => 0 Invalid interest value -5% is replaced with 0.  (For interest, type a positive numbers followed by a percent sign or type a fractional amount.))")) {
+    const auto [type, expression] = Halves(given, ' ');
+    const auto [result, said] = Halves(told, ' ');
+    Says(said);
+    EXPECT_EQ(Value(expression, type, false, ','), result) << expression;
+  }
   EXPECT_EQ(Value("2 + 3)", "DOUBLE", false), "?");  // without a word
+  Says("Failed to round your number to pennies due to error # 6");
+  Says("Failed to store number 30000000 due to error # 6: Overflow");
+  std::string text = "30000000";
+  EXPECT_FALSE(Global::StoreNumberByType(text, "DOLLAR", '.', false));
+  EXPECT_EQ(text, "");
+  EXPECT_TRUE(Global::StoreNumberByType(text, "INTEGER", '.', false));
+  EXPECT_EQ(text, "0");
+}
 
-  std::string expression = "1,5x * 2";
-  user.Reads("Failed to calculate expression 1,5x*2 due to error # 13: Type mismatch", Icon::Exclamation);
-  EXPECT_EQ(Global::CalculateExpression(expression, "DOUBLE", ',', false), "?");
-  expression = "1,5 * 3";
-  EXPECT_EQ(Global::CalculateExpression(expression, "DOUBLE", ',', false), "4,5");
+TEST_F(EvaluatorTest, AsksAboutHighInterestEvenWhenQuiet) {
+  const auto asked = [this](Answer answer, const std::string& expression) {
+    user.Answers("Are you sure that you want to use an interest rate greater than 100%?", answer, Icon::None,
+                 Buttons::YesNo);
+    return Value(expression, "INTRATE");
+  };
+  EXPECT_EQ(asked(Answer::Yes, "1.5"), "150%");
+  {
+    const Global::InterestQuestionOnce once;
+    EXPECT_EQ(asked(Answer::No, "1.5"), "0");
+    const Global::InterestQuestionOnce within;
+    EXPECT_EQ(Value("2.5", "INTRATE"), "0");  // the answer holds
+  }
+  EXPECT_EQ(asked(Answer::Yes, "2.5"), "250%");
 }
 
 TEST_F(EvaluatorTest, ExpandsReferences) {
   TheDocument.Things.SetCount(1);
   auto& slots = TheDocument.Things[1].Values;
-  slots[0].Text = ":nothing";
-  slots[2].Text = "PRICE:12.50";
-  slots[3].Text = "QTY:";
-  slots[4].Text = "TIME:10:30";
-  slots[5].Text = "LOOP:[loop]1";
-  slots[6].Text = "PRICE:99";
-  const auto expanded = [](const char* text) { return Global::ExpandFieldReferences(text, 1); };
-  EXPECT_EQ(expanded("  [price] * 2 + [PRICE] "), "12.50 * 2 + 12.50");
-  EXPECT_EQ(expanded("[TIME]"), "10:30");
-  EXPECT_EQ(expanded("[PRICE] + [QTY]"), "");   // an empty value
-  EXPECT_EQ(expanded("[PRICE] + [WHAT]"), "");  // a missing one
-  EXPECT_EQ(expanded("[]"), "");
-  EXPECT_EQ(expanded("[PRICE"), "[PRICE");
-  EXPECT_EQ(expanded("]price["), "]PRICE[");
-  EXPECT_EQ(expanded("abc"), "ABC");
-  EXPECT_EQ(expanded("[LOOP]"), "");  // not for ever
-  slots[7].Text = "TWO:[two][two]";   // nor up to the end of the memory
-  EXPECT_EQ(expanded("[TWO]"), "");
-  slots[8].Text = "A:1";
-  const auto times = [](int count) {
-    std::string text;
-    for (; count > 0; --count) text += "[a]";
-    return text;
-  };
-  EXPECT_EQ(expanded(times(1000).c_str()), std::string(1000, '1'));
-  EXPECT_EQ(expanded(times(1001).c_str()), "");
-
-  EXPECT_EQ(FormulaResult({"F", "", "DOLLAR", "", "[PRICE]*2"}, slots), "25.00");
-  EXPECT_EQ(FormulaResult({"F", "", "", "", "[PRICE]*2"}, slots), "25");
-  EXPECT_EQ(FormulaResult({"F", "", "CALC", "", "[PRICE]*2"}, slots), "?");
-  EXPECT_EQ(FormulaResult({"F", "", "CALC", "", "[QTY]*2"}, slots), "");
-  std::string expression = "[PRICE";
-  EXPECT_EQ(Global::EvaluateExpression(expression, "DOUBLE", true), "0");
+  const char* const texts[] = {":nothing",     "",         "PRICE:12.50",    "QTY:", "TIME:10:30",
+                               "LOOP:[loop]1", "PRICE:99", "TWO:[two][two]", "A:1"};
+  for (std::size_t slot = 0; slot < std::size(texts); ++slot) slots[slot].Text = texts[slot];
+  const auto expanded = [](const std::string& text) { return Global::ExpandFieldReferences(text, 1); };
+  // Empty where a value is empty or missing, and where there is no end.
+  for (const auto& [text, result] : Rows(R"(  [price] * 2 + [PRICE]  => 12.50 * 2 + 12.50
+[TIME] => 10:30 | [PRICE] + [QTY] =>  | [PRICE] + [WHAT] =>  | [] =>  | [PRICE => [PRICE | ]price[ => ]PRICE[
+abc => ABC | [LOOP] =>  | [TWO] => )")) {
+    EXPECT_EQ(expanded(text), result) << text;
+  }
+  std::string many;
+  for (int time = 0; time < 1000; ++time) many += "[a]";
+  EXPECT_EQ(expanded(many), std::string(1000, '1'));
+  EXPECT_EQ(expanded(many + "[a]"), "");
+  for (const auto& [formula, result] :
+       Rows("DOLLAR [PRICE]*2 => 25.00 |  [PRICE]*2 => 25 | CALC [PRICE]*2 => ? | CALC [QTY]*2 => ")) {
+    const auto [type, expression] = Halves(formula, ' ');
+    EXPECT_EQ(FormulaResult({"F", "", type, "", expression}, slots), result);
+  }
 }
 
 TEST_F(EvaluatorTest, FindsOperations) {
-  int first = 0;
-  int last = 0;
+  int first = 0, last = 0;
   char sign = 0;
   EXPECT_TRUE(Global::FindOperation("1+-2*3-4", "*/", first, last, sign));
-  EXPECT_EQ(first, 3);
-  EXPECT_EQ(last, 6);
-  EXPECT_EQ(sign, '*');
-  EXPECT_TRUE(Global::FindOperation("1-2", "+-", first, last, sign));
-  EXPECT_EQ(last, 3);
+  EXPECT_TRUE(first == 3 && last == 6 && sign == '*');
   EXPECT_FALSE(Global::FindOperation("-3", "+-", first, last, sign));
   EXPECT_EQ(Global::NextOperator("1E-5-2", 1, sign), 5);
-  EXPECT_EQ(Global::NextOperator("1E+5", 1, sign), 3);
-  EXPECT_EQ(Global::NextOperator("15", 1, sign), 0);
-  EXPECT_EQ(Global::LastPositionOf("abcab", "ab"), 4);
-  EXPECT_EQ(Global::LastPositionOf("abc", "x"), 0);
+  EXPECT_EQ(Global::LastPositionOf("abcab", "ab") + 10 * Global::LastPositionOf("abc", "x"), 4);
 }
 
 TEST_F(EvaluatorTest, EndsOnLongExpressions) {
-  std::string sum = "1";
-  std::string product = "1";
+  std::string sum = "1", product = "1";
   for (int term = 0; term < 5000; ++term) {
     sum += "+1";
     product += "*1+0";
   }
   EXPECT_EQ(Value(sum), "5001");
   EXPECT_EQ(Value(product), "1");
-  std::string nested(40001, '(');
-  nested[20000] = '2';
-  std::fill(nested.begin() + 20001, nested.end(), ')');
-  EXPECT_EQ(Value(nested), "2");
+  std::string nested(20000, '(');
+  nested += "2";
+  EXPECT_EQ(Value(nested.append(20000, ')')), "2");
 }
 
 }  // namespace

@@ -9,85 +9,52 @@ namespace {
 
 using namespace std::string_literals;
 
-struct HeaderRow {
-  std::string Line;
-  bool IsReport;
-  Index Titles, Headings, Left;
-  bool Grid;
-};
-
-class HeaderRows : public testing::TestWithParam<HeaderRow> {};
-
-TEST_P(HeaderRows, AreRead) {
-  const HeaderRow& row = GetParam();
-  const ReportHeader header = ParseReportHeader(row.Line);
-  EXPECT_EQ(header.IsReport, row.IsReport);
-  EXPECT_EQ(header.Titles, row.Titles);
-  EXPECT_EQ(header.Headings, row.Headings);
-  EXPECT_EQ(header.Left, row.Left);
-  EXPECT_EQ(header.Grid, row.Grid);
+// The header's T, H, L and G; how many title lines and head lines there are; the widest line's columns; the lines.
+std::string Described(const ReportText& text) {
+  const ReportHeader& header = text.Header();
+  std::string described = header.IsReport ? "" : "plain";
+  for (const Index value : {header.Titles, header.Headings, header.Left, Index{header.Grid}}) {
+    if (header.IsReport) described += std::to_string(value) + " ";
+  }
+  for (const Index value : {text.TitleLines(), text.HeadLines(), text.Widest()}) {
+    described += "/" + std::to_string(value);
+  }
+  for (Index line = 0; line < text.Count(); ++line) described += "|" + std::string(text.Line(line));
+  return described;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rows, HeaderRows,
-    testing::Values(HeaderRow{"LARKSPUR V1.0 REPORT T=2,H=2,L=31,G=0", true, 2, 2, 31, false},
-                    HeaderRow{"LARKSPUR V1.0 REPORT T=2", true, 2, 0, 0, false},
-                    HeaderRow{"LARKSPUR V1.0 REPORT", true, 0, 0, 0, false},
-                    HeaderRow{"LARKSPUR V1.0 REPORT  G=1, l=5,X=7,H=1", true, 0, 1, 5, true},
-                    HeaderRow{"LARKSPUR V1.0 REPORT T=-3,H=99999999999999999999,L=x,G=2,=,T", true, 0, 32767, 0, false},
-                    HeaderRow{"LARKSPUR V1.0 REPORT T=-99999999999999999999,L=", true, 0, 0, 0, false},
-                    HeaderRow{"LARKSPUR V1.0 REPORTS T=2", false, 0, 0, 0, false},
-                    HeaderRow{"LARKSPUR V5.0 FILER DATA", false, 0, 0, 0, false},
-                    HeaderRow{" LARKSPUR V1.0 REPORT T=2", false, 0, 0, 0, false},
-                    HeaderRow{"", false, 0, 0, 0, false}));
-
-struct LinesRow {
-  std::string Bytes;
-  std::vector<std::string> Lines;
-  Index Widest;
-};
-
-class LinesRows : public testing::TestWithParam<LinesRow> {};
-
-TEST_P(LinesRows, AreFound) {
-  const ReportText text(GetParam().Bytes);
-  std::vector<std::string> lines;
-  for (Index line = 0; line < text.Count(); ++line) lines.emplace_back(text.Line(line));
-  EXPECT_EQ(lines, GetParam().Lines);
-  EXPECT_EQ(text.Widest(), GetParam().Widest);
+TEST(ReportTextTest, HasHeaderHeadAndLines) {
+  const std::string report = "LARKSPUR V1.0 REPORT";
+  const std::pair<std::string, std::string> rows[] = {
+      {report + " T=2,H=2,L=31,G=0", "2 2 31 0 /0/0/0"},
+      {report + " T=2\r\n\r\ntitle\r\n", "2 0 0 0 /2/2/5||title"},
+      {report, "0 0 0 0 /0/0/0"},
+      {report + "  G=1, l=5,X=7,H=1", "0 1 5 1 /0/0/0"},
+      {report + " T=-3,H=99999999999999999999,L=x,G=2,=,T", "0 32767 0 0 /0/0/0"},
+      {report + " T=-99999999999999999999,L=,H=32768", "0 32767 0 0 /0/0/0"},
+      {report + "S T=2", "plain/0/0/25|" + report + "S T=2"},
+      {" " + report, "plain/0/0/21| " + report},
+      {"LARKSPUR V5.0 FILER DATA", "plain/0/0/24|LARKSPUR V5.0 FILER DATA"},
+      {"LARKSPUR V1.0", "plain/0/0/13|LARKSPUR V1.0"},
+      // Titles and headings with the empty lines between.
+      {report + " T=2,H=2\n\nTitle\n \nKEY\nHead\nthing\n", "2 2 0 0 /2/5/5||Title| |KEY|Head|thing"},
+      {report + " T=2,H=2\n\nTitle\nKEY\nHead\nthing\n", "2 2 0 0 /2/4/5||Title|KEY|Head|thing"},
+      {report + " T=2\n\nTitle\n\nthing\n", "2 0 0 0 /2/2/5||Title||thing"},
+      {report + " H=1\nHead\nthing\n", "0 1 0 0 /0/1/5|Head|thing"},
+      {report + " T=2,H=2\n\nTitle\n\n\n", "2 2 0 0 /2/4/5||Title||"},
+      {report + " T=2,H=2\n\n", "2 2 0 0 /1/1/0|"},
+      // Each end of a line, and tabs up to the next eighth column.
+      {"", "plain/0/0/0"},
+      {"one", "plain/0/0/3|one"},
+      {"one\r\nthree\r\n", "plain/0/0/5|one|three"},
+      {"a\nbb\rccc\r\r\n\n\rd\r", "plain/0/0/3|a|bb|ccc||||d"},
+      {"\r\n\r\n", "plain/0/0/0||"},
+      {"\r\rx", "plain/0/0/1|||x"},
+      {"a\tb\t\r\n12345678\tc\n", "plain/0/0/17|a       b       |12345678        c"},
+      {"nul\0here\n"s, "plain/0/0/8|nul\0here"s},
+  };
+  for (const auto& [bytes, described] : rows) EXPECT_EQ(Described(ReportText(bytes)), described) << bytes;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, LinesRows,
-    testing::Values(LinesRow{"", {}, 0}, LinesRow{"one", {"one"}, 3}, LinesRow{"one\r\nthree\r\n", {"one", "three"}, 5},
-                    LinesRow{"a\nbb\rccc\r\r\n\n\rd\r", {"a", "bb", "ccc", "", "", "", "d"}, 3},
-                    LinesRow{"\r\n\r\n", {"", ""}, 0}, LinesRow{"\r\rx", {"", "", "x"}, 1},
-                    LinesRow{"a\tb\t\r\n12345678\tc\n", {"a       b       ", "12345678        c"}, 17},
-                    LinesRow{"nul\0here\n"s, {"nul\0here"s}, 8},
-                    LinesRow{"LARKSPUR V1.0 REPORT T=2\r\n\r\ntitle\r\n", {"", "title"}, 5},
-                    LinesRow{"LARKSPUR V1.0 REPORT T=2", {}, 0}));
-
-struct HeadRow {
-  std::string Header;
-  std::string Rest;
-  Index Titles, Head;
-};
-
-class HeadRows : public testing::TestWithParam<HeadRow> {};
-
-TEST_P(HeadRows, AreTitlesAndHeadingsWithTheEmptyLinesBetween) {
-  const ReportText text("LARKSPUR V1.0 REPORT " + GetParam().Header + "\r\n" + GetParam().Rest);
-  EXPECT_EQ(text.TitleLines(), GetParam().Titles);
-  EXPECT_EQ(text.HeadLines(), GetParam().Head);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, HeadRows,
-                         testing::Values(HeadRow{"T=2,H=2", "\nTitle\n\nKEY\nHead\nthing\n", 2, 5},
-                                         HeadRow{"T=2,H=2", "\nTitle\nKEY\nHead\nthing\n", 2, 4},
-                                         HeadRow{"T=2", "\nTitle\n\nthing\n", 2, 2},
-                                         HeadRow{"H=1", "Head\nthing\n", 0, 1},
-                                         HeadRow{"T=2,H=2", "\nTitle\n\n\n", 2, 4}, HeadRow{"T=2,H=2", "\n", 1, 1},
-                                         HeadRow{"T=300,H=300", "", 0, 0}));
 
 TEST(ReportTextTest, PlacesAndOffsetsAgree) {
   const ReportText text("LARKSPUR V1.0 REPORT T=2\r\n\r\ntitle\r\nbody");
@@ -99,24 +66,26 @@ TEST(ReportTextTest, PlacesAndOffsetsAgree) {
   EXPECT_EQ(text.OffsetOf({3, 0}), text.Body().size());
 }
 
+// The places of all hits, forward or backward; what is found twice would not end.
+std::string Hits(const ReportText& text, const std::string& sought, bool forward) {
+  const Finder finder(sought);
+  std::string places;
+  for (auto place = forward ? finder.Next(text, {}) : finder.Previous(text, {text.Count(), 0}); place;
+       place = forward ? finder.Next(text, {place->Line, place->Column + finder.Length()})
+                       : finder.Previous(text, *place)) {
+    const std::string told = std::to_string(place->Line) + "," + std::to_string(place->Column) + " ";
+    places.insert(forward ? places.size() : 0, told);
+  }
+  return places + std::to_string(finder.CountIn(text.Body()));
+}
+
 TEST(FinderTest, FindsForwardAndBackwardWithoutOverlap) {
   const ReportText text("aaaa Shed\r\nnone\r\nSHED a\r\ncaf\xE9 CAF\xC9");
-  const auto all = [&text](const Finder& finder, bool forward) {
-    std::vector<Place> places;
-    auto place = forward ? finder.Next(text, {}) : finder.Previous(text, {text.Count(), 0});
-    for (; place; place = forward ? finder.Next(text, {place->Line, place->Column + finder.Length()})
-                                  : finder.Previous(text, *place)) {
-      places.insert(forward ? places.end() : places.begin(), *place);
-    }
-    return places;
-  };
-  const std::vector<std::pair<std::string, std::vector<Place>>> rows = {
-      {"shed", {{0, 5}, {2, 0}}}, {"aa", {{0, 0}, {0, 2}}}, {"CAF\xE9", {{3, 0}, {3, 5}}}, {"missing", {}}, {"", {}}};
-  for (const auto& [sought, places] : rows) {
-    const Finder finder(sought);
-    EXPECT_EQ(all(finder, true), places) << sought;
-    EXPECT_EQ(all(finder, false), places) << sought;
-    EXPECT_EQ(finder.CountIn(text.Body()), places.size()) << sought;
+  const std::pair<std::string, std::string> rows[] = {
+      {"shed", "0,5 2,0 2"}, {"aa", "0,0 0,2 2"}, {"CAF\xE9", "3,0 3,5 2"}, {"missing", "0"}, {"", "0"}};
+  for (const auto& [sought, hits] : rows) {
+    EXPECT_EQ(Hits(text, sought, true), hits) << sought;
+    EXPECT_EQ(Hits(text, sought, false), hits) << sought;
   }
   EXPECT_EQ(Finder("aa").Next(text, {0, 1}), (Place{0, 2}));
 }

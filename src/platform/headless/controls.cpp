@@ -22,6 +22,11 @@ void TextBox::SetTextLimit(int characters) { PeerOf().TextLimit = characters; }
 // What a person types replaces everything anyway.
 void TextBox::SelectAll() { PeerOf().MarkAll(); }
 
+void TextBox::SelectText(int first, int last) {
+  PeerOf().MarkFirst = first;
+  PeerOf().MarkLast = last;
+}
+
 void Button::SetBackColor(::BackColor color) { PeerOf().Back = color; }
 ::BackColor Button::BackColor() const { return PeerOf().Back; }
 

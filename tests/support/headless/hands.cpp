@@ -122,13 +122,19 @@ void Hands::Drag(Surface& surface, Cell from, Cell to, bool shift) {
   if (from != to) Raise(surface.Mouse, MousePress{MousePress::Act::Drag, to, shift});
 }
 
-void Hands::DoubleClick(Surface& surface, Cell at) {
+void Hands::DoubleClick(Control& control, Cell at) {
+  if (const auto* picture = dynamic_cast<Picture*>(&control)) return Raise(picture->DoubleClick);
+  const auto& surface = dynamic_cast<Surface&>(control);
   Raise(surface.Mouse, MousePress{MousePress::Act::Press, at});
   Raise(surface.Mouse, MousePress{MousePress::Act::DoubleClick, at});
 }
 
-void Hands::TurnWheel(Surface& surface, int notches, bool shift, bool control) {
-  Raise(surface.Wheel, WheelTurn{control ? notches : notches * kCellsOfANotch, shift, control});
+void Hands::TurnWheel(Control& control, int notches, bool shift, bool control_key) {
+  if (const auto* surface = dynamic_cast<Surface*>(&control)) {
+    Raise(surface->Wheel, WheelTurn{control_key ? notches : notches * kCellsOfANotch, shift, control_key});
+  } else {
+    control.PeerOf().TurnWheel(notches);
+  }
 }
 
 void Hands::PageBar(Surface& surface, Surface::Bar bar, int pages) {

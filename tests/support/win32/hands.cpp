@@ -183,15 +183,17 @@ void Hands::Drag(Surface& surface, Cell from, Cell to, bool shift) {
   surface.PeerOf().Send(WM_LBUTTONUP, 0, Inside(surface, to));
 }
 
-void Hands::DoubleClick(Surface& surface, Cell at) {
+void Hands::DoubleClick(Control& control, Cell at) {
+  const auto* surface = dynamic_cast<Surface*>(&control);
+  const LPARAM place = surface == nullptr ? MAKELPARAM(1, 1) : Inside(*surface, at);
   for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
-    surface.PeerOf().Send(message, MK_LBUTTON, Inside(surface, at));
+    control.PeerOf().Send(message, MK_LBUTTON, place);
   }
 }
 
-void Hands::TurnWheel(Surface& surface, int notches, bool shift, bool control) {
-  const int keys = (shift ? MK_SHIFT : 0) | (control ? MK_CONTROL : 0);
-  surface.PeerOf().Send(WM_MOUSEWHEEL, MAKEWPARAM(keys, -notches * WHEEL_DELTA), 0);
+void Hands::TurnWheel(Control& control, int notches, bool shift, bool control_key) {
+  const int keys = (shift ? MK_SHIFT : 0) | (control_key ? MK_CONTROL : 0);
+  PostMessageA(control.PeerOf().Window, WM_MOUSEWHEEL, MAKEWPARAM(keys, -notches * WHEEL_DELTA), 0);
 }
 
 void Hands::PageBar(Surface& surface, Surface::Bar bar, int pages) {
