@@ -7,7 +7,6 @@
 #include <filesystem>
 
 #include "document/document.h"
-#include "platform/locale.h"
 #include "platform/program.h"
 #include "platform/runtime_error.h"
 #include "shell/messages.h"
@@ -26,13 +25,7 @@ void ReplaceAll(std::string& text, const std::string& from, const std::string& t
 
 // What is another thing on each machine, as stories have it.
 std::vector<std::pair<std::string, std::string>> Stand() {
-  const std::chrono::year_month_day today = Today();
-  return {{TestFiles::Folder(), "{folder}"},
-          {ShortDate(static_cast<int>(today.year()), static_cast<unsigned>(today.month()),
-                     static_cast<unsigned>(today.day())),
-           "{today}"},
-          {"Version " FILER_VERSION, "Version {version}"},
-          {"\r\n", "{n}"}};
+  return {{TestFiles::Folder(), "{folder}"}, {"Version " FILER_VERSION, "Version {version}"}, {"\r\n", "{n}"}};
 }
 
 // As stories have it: what is the machine's own by its name, what is no plain character as {E9}.
@@ -127,7 +120,7 @@ void Story::Step() {
   const std::size_t open = Hands::OpenForms().size();
   Do(Expanded(now_->Text));
   const bool stays = leaves && Hands::OpenForms().size() >= open && !Hands::OpenForms().back()->Closed();
-  if (stays) Say("stays");
+  if (stays) Sees.Note("stays");
   Sees.LookAround();
 }
 
@@ -234,7 +227,7 @@ void Story::FormCame(Form& form) {
   while (!form.Closed() && next_ < acts_.size()) Step();
   const std::string name = Names::OfForm(Hands::TemplateOf(form));
   if (!form.Closed()) Fail(name + " was left open");
-  if (!Leaves(*now_)) Say(name + " closes");
+  if (!Leaves(*now_) && Sees.Knows(form)) Say(name + " closes");
   Sees.Forget(form);
 }
 

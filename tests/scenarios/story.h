@@ -15,7 +15,7 @@
 //   home, empty                       the main window shows Home.FIL, or a new document; untold
 // A person's acts, on the topmost window; CONTROL is a name of resource.h, of a row LetterLabel[S], CategoryNameBox[2]
 //   start COMMANDLINE, viewer COMMANDLINE, shutdown (the system asks), leave (unasked)
-//   type CONTROL "text", click CONTROL, focus CONTROL, pick CONTROL "entry", pick-at CONTROL 0, tick CONTROL "entry"
+//   type CONTROL "text", click CONTROL, focus CONTROL, pick CONTROL "entry", tick CONTROL "entry"
 //   menu ITEM, close, key Enter (Escape, Down, PageDown, Help, ..., with Shift+ or Ctrl+ on a surface; Ctrl+A, Ctrl+C)
 //   drag SURFACE 1,2 3,4 (column, row; from 0), shift-drag SURFACE 1,2 3,4, double-click SURFACE 1,2
 //   wheel SURFACE 3, shift-wheel SURFACE 3, ctrl-wheel SURFACE 1, page-down SURFACE 2, page-across SURFACE -1
@@ -24,7 +24,8 @@
 // Standing before the act whose questions they answer; a plain OK box needs none
 //   ok, cancel, yes, no, answers "text" (an input box), chooses "file" (a file dialog)
 // Looking closer
-//   document (what changed in it since last told), entry ITEM (what it says), show FILE, lock FILE (can another write it?), all CONTROL, clipboard
+//   document (what changed in it since last told), entry ITEM (what it says), show FILE, clipboard,
+//   lock FILE (can another write it?)
 // What code does: calls.cpp. In memory only: tests/support/headless/machine_verbs.cpp
 #pragma once
 

@@ -213,8 +213,6 @@ std::map<std::string, Verb> PersonVerbs() {
       {"click", Click},
       {"focus", OnFocused([](User& user, int id, const std::string&) { user.MovesTo(id); }, Shows::Marked)},
       {"pick", OnFocused([](User& user, int id, const std::string& text) { user.Picks(id, text); }, Shows::MarkedText)},
-      {"pick-at", OnFocused([](User& user, int id, const std::string& text) { user.PicksAt(id, std::stoi(text)); },
-                            Shows::Nothing)},
       {"tick", OnFocused([](User& user, int id, const std::string& text) { user.Ticks(id, text); }, Shows::Nothing)},
       {"menu", OnControl([](User& user, int id, const std::string&) { user.ChoosesMenu(id); })},
       {"entry",
@@ -237,8 +235,6 @@ std::map<std::string, Verb> PersonVerbs() {
       {"document", [](Story& story, const std::string&) { story.Sees.LookAtDocument(); }},
       {"show", ShowFile},
       {"lock", TellLock},
-      {"all", [](Story& story,
-                 const std::string& rest) { story.Sees.TellAll(*Hands::OpenForms().back(), Target(story, rest).Id); }},
       {"clipboard", [](Story& story, const std::string&) { story.Say('"' + ClipboardText() + '"'); }},
   };
 }

@@ -5,11 +5,12 @@
 //   starts ERROR               starting a program fails so, 0 gives no process; "starts" alone: it does not
 //   program-folder FOLDER      where the program lies; today YEAR MONTH DAY
 //   registry KEY "text"        the default value of a key of the user's; registry-value KEY NAME TEXT; unregister KEY
-//   printer FIRST LAST [SHEETS], printer cancels, no-printer; printed: tells the pages
+//   printer FIRST LAST [SHEETS [HEIGHT]], printer cancels, no-printer; printed: tells the pages
 #include <sstream>
 
 #include "platform/headless/machine.h"
 #include "scenarios/story.h"
+#include "viewer/page_text.h"
 
 namespace {
 
@@ -31,9 +32,10 @@ void SetRegistry(Story&, const std::string& rest) {
 
 void SetPrinter(Story&, const std::string& rest) {
   Machine::Printer printer;
-  const auto [first, last, sheets] = Read<int, int, std::size_t>(rest);
+  const auto [first, last, sheets, height] = Read<int, int, std::size_t, double>(rest);
   if (rest != "cancels") printer.Chosen = PrintRange{first, last};
   if (sheets != 0) printer.PaperLeft = sheets;
+  if (height != 0) printer.Paper.Height = height;
   Machine::SetPrinter(printer);
 }
 
@@ -71,7 +73,7 @@ std::map<std::string, Verb> MachineVerbs() {
       {"printed",
        [](Story& story, const std::string&) {
          for (const Page& page : Machine::PrintedPages()) {
-           const auto rows = RowsOfPage(page);
+           const auto rows = RowsOf(page);
            story.Say(std::to_string(rows.size()) + " rows: " + rows.at(1) + " ... " + rows.back());
          }
        }},
