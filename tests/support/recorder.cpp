@@ -73,15 +73,21 @@ std::string PageNews(const Texts& before, const Texts& now) {
   return news;
 }
 
+std::string NameOf(int form, int id) {
+  const auto& names = Names::Of(form).Controls;
+  const auto found = names.find(id);
+  return found == names.end() ? std::to_string(id) : found->second;
+}
+
 // "LetterLabel[A-Z]" for neighbours of a row.
 std::string NamesOf(int form, const std::vector<int>& ids) {
   std::string line;
   for (std::size_t at = 0; at < ids.size(); ++at) {
-    const std::string name = Names::OfControl(form, ids[at]), row = name.substr(0, name.find('[') + 1);
+    const std::string name = NameOf(form, ids[at]), row = name.substr(0, name.find('[') + 1);
     std::string last;
     while (!row.empty() && at + 1 < ids.size() && ids[at + 1] == ids[at] + 1 &&
-           Names::OfControl(form, ids[at + 1]).starts_with(row)) {
-      last = "-" + Names::OfControl(form, ids[++at]).substr(row.size());
+           NameOf(form, ids[at + 1]).starts_with(row)) {
+      last = "-" + NameOf(form, ids[++at]).substr(row.size());
     }
     line += (line.empty() ? "" : ", ") + (last.empty() ? name : name.substr(0, name.size() - 1) + last);
   }
@@ -102,7 +108,9 @@ std::string BlankText(const Form& form, const Control& control) {
   const bool has_text =
       dynamic_cast<const Label*>(&control) != nullptr || dynamic_cast<const Button*>(&control) != nullptr ||
       dynamic_cast<const OptionButton*>(&control) != nullptr || dynamic_cast<const Frame*>(&control) != nullptr;
-  return has_text ? Names::Caption(Hands::TemplateOf(form), control.Id()) : "";
+  const auto& texts = Names::Of(Hands::TemplateOf(form)).Texts;
+  const auto found = texts.find(control.Id());
+  return !has_text || found == texts.end() ? "" : found->second;
 }
 
 // What is in a list or on a surface.
@@ -154,7 +162,7 @@ Recorder::State Recorder::BlankOf(const Form& form) {
 Recorder::State Recorder::StateOf(const Form& form, const State& before) {
   State state;
   state.Form = Hands::TemplateOf(form);
-  state.Caption = form.Caption().empty() ? Names::Caption(state.Form, 0) : form.Caption();
+  state.Caption = form.Caption().empty() ? Names::Of(state.Form).Caption : form.Caption();
   const bool topmost = Hands::OpenForms().back() == &form;
   for (const auto& [id, control] : Hands::ControlsOf(form)) {
     const Hands::Sight sight = Hands::LookAt(*control);
@@ -166,7 +174,7 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
     const std::string text = sight.Text.empty() ? BlankText(form, *control) : sight.Text;
     if (!text.empty()) told[""] = Quoted(text);
     const bool marked = topmost && sight.Focused && sight.Mark.first != sight.Mark.second;
-    if (marked && !Names::HasLines(state.Form, id)) told[""] += MarkIn(sight);
+    if (marked && !Names::Of(state.Form).Lines.contains(id)) told[""] += MarkIn(sight);
     if (!control->ToolTip().empty()) told[" tip"] = Quoted(control->ToolTip());
     SeeInside(*control, sight, told);
     for (const std::string& mark : MarksOf(*control, sight)) state.Marks.emplace(mark, id);
@@ -175,7 +183,7 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
   for (const auto& mark : before.Marks) {
     if (!topmost && mark.first == "focus") state.Marks.insert(mark);  // it waits there
   }
-  for (const int item : Names::MenuItems(state.Form)) {
+  for (const int item : Names::Of(state.Form).MenuItems) {
     // What an entry says that the program words itself, an act asks for.
     if (!form.MenuEnabled(item) && form.MenuText(item).empty()) state.Marks.emplace("greyed", item);
     if (form.MenuChecked(item)) state.Marks.emplace("checked", item);
@@ -189,7 +197,7 @@ void Recorder::LookAt(const Form& form) {
   State before = known ? forms_.at(&form) : opened == opened_.end() ? BlankOf(form) : opened->second;
   if (known) ForeseeAct(before);
   const State now = StateOf(form, before);
-  if (!known) say_(Names::OfForm(now.Form) + " opens: " + now.Caption);
+  if (!known) say_(Names::Of(now.Form).Name + " opens: " + now.Caption);
   if (known && before.Caption != now.Caption) Note("caption " + Quoted(now.Caption));
   Tell(before, now);
   forms_[&form] = now;
@@ -286,7 +294,7 @@ void Recorder::LookAround() {
   const auto open = Hands::OpenForms();
   std::erase_if(forms_, [&](const auto& known) {
     const bool gone = std::find(open.begin(), open.end(), known.first) == open.end();
-    if (gone) say_(Names::OfForm(known.second.Form) + " closes");
+    if (gone) say_(Names::Of(known.second.Form).Name + " closes");
     return gone;
   });
   if (!open.empty() && !open.back()->Closed()) LookAt(*open.back());
