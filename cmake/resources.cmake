@@ -4,8 +4,8 @@ set(packaging_dir ${PROJECT_SOURCE_DIR}/packaging)
 
 # Compiles templates into the target, or into every executable that links it when it is a library.
 function(add_templates target)
-  set_source_files_properties(${ARGN} TARGET_DIRECTORY ${target}
-                              PROPERTIES OBJECT_DEPENDS "${PROJECT_SOURCE_DIR}/src/resource.h;${PROJECT_SOURCE_DIR}/src/viewer/viewer_ids.h")
+  file(GLOB ids CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/resource.h ${PROJECT_SOURCE_DIR}/src/*/*_ids.h)
+  set_source_files_properties(${ARGN} TARGET_DIRECTORY ${target} PROPERTIES OBJECT_DEPENDS "${ids}")
   get_target_property(type ${target} TYPE)
   if(type STREQUAL "EXECUTABLE")
     target_sources(${target} PRIVATE ${ARGN})

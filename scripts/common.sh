@@ -97,6 +97,22 @@ start_wine() {
   fi
 }
 
+# Writes dialogs in a font whose letters are those that users see: in Wine's stand-in for Tahoma, the J is a bar. For
+# prefixes in which pictures are made, after start_wine.
+use_picture_font() {
+  local name fonts=/usr/share/fonts/truetype/liberation
+  local key='HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes'
+  if [[ -e $WINEPREFIX/.picture-font ]]; then return; fi
+  install_missing fonts-liberation
+  ln -sf "$fonts"/LiberationSans-*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+  for name in 'MS Shell Dlg' 'MS Shell Dlg 2' Tahoma; do
+    "$wine" reg add "$key" /v "$name" /d 'Liberation Sans' /f </dev/null >/dev/null
+  done
+  "$wineserver" -k || true
+  "$wineserver" -w
+  touch "$WINEPREFIX/.picture-font"
+}
+
 # Ends every program in the prefix, and its server.
 stop_wine() {
   if [[ -n ${wineserver:-} ]]; then

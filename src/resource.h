@@ -1,4 +1,5 @@
-// The ids of dialog templates, controls, menu entries and icons: one list for code and templates.
+// The ids of dialog templates, controls, menu entries and icons: one list for code and templates. Those that only one
+// form needs may stand beside it, in a *_ids.h.
 // A control's id is IDC_ and its name; forms share the ids of controls of the same name.
 #pragma once
 
@@ -30,8 +31,9 @@
 #define IDC_CatList 1004
 #define IDC_PhotoPic 1005
 #define IDC_CategoryFilterLabel 1006
-#define IDC_HintLabel 1008
 #define IDC_AllLabel 1007
+#define IDC_HintLabel 1008
+#define IDC_HiddenPic 1009
 
 #define IDC_NewButton 1020
 #define IDC_OpenButton 1021
@@ -66,6 +68,7 @@
 #define IDC_PhotoItem 1213
 #define IDC_DataItem 1214
 #define IDC_DefCatItem 1215
+#define IDC_RemovePhotoItem 1216
 #define IDC_AllNamesItem 1220
 #define IDC_StartingLetterItem 1221
 #define IDC_AllCategoryItem 1222
@@ -118,17 +121,12 @@
 #define IDC_InsertDateItem 1436
 #define IDC_HelpItem 1437
 
-// PickListForm
-#define IDC_PickList 1440
-
-// DatePickForm: IDC_DayButton is the sheet's upper left corner, + 41 its lower right one.
-#define IDC_MonthCombo 1450
-#define IDC_YearBox 1451
-#define IDC_TodayButton 1452
-#define IDC_DateLabel 1453
+// DatePickForm and PreviewForm
 #define IDC_PreviousButton 1454
 #define IDC_NextButton 1455
-#define IDC_DayButton 1460
+
+// PickListForm
+#define IDC_PickList 1440
 
 // AboutForm
 #define IDC_ProgramTitleLabel 1550

@@ -6,7 +6,6 @@
 #include "document/pick_list_form.h"
 #include "platform/locale.h"
 #include "platform/program.h"
-#include "resource.h"
 #include "shell/date_pick_form.h"
 #include "shell/help.h"
 #include "shell/messages.h"
@@ -37,36 +36,24 @@ int PickFormula(const std::string& caption) {
 
 }  // namespace
 
-struct FactForm::Command {
-  int Item;
-  void (FactForm::*Handler)();
-};
-
-std::span<const FactForm::Command> FactForm::Commands() {
-  static constexpr Command kCommands[] = {
-      {IDC_AddFieldItem, &FactForm::AddFieldItem_Click},
-      {IDC_AddFormulaItem, &FactForm::AddFormulaItem_Click},
-      {IDC_ChangeFieldItem, &FactForm::ChangeFieldItem_Click},
-      {IDC_ChangeFormulaItem, &FactForm::ChangeFormulaItem_Click},
-      {IDC_DeleteFieldItem, &FactForm::DeleteFieldItem_Click},
-      {IDC_DeleteFormulaItem, &FactForm::DeleteFormulaItem_Click},
+std::span<const Command<FactForm>> FactForm::Commands() {
+  using F = FactForm;
+  static constexpr Command<F> kCommands[] = {
+      {IDC_AddFieldItem, &F::AddFieldButton, &F::AddFieldItem_Click},
+      {IDC_AddFormulaItem, nullptr, &F::AddFormulaItem_Click},
+      {IDC_ChangeFieldItem, nullptr, &F::ChangeFieldItem_Click},
+      {IDC_ChangeFormulaItem, nullptr, &F::ChangeFormulaItem_Click},
+      {IDC_DeleteFieldItem, nullptr, &F::DeleteFieldItem_Click},
+      {IDC_DeleteFormulaItem, nullptr, &F::DeleteFormulaItem_Click},
+      {IDC_InsertDateItem, nullptr, &F::InsertDateItem_Click, nullptr, nullptr, false},
+      {IDC_HelpItem, nullptr, &F::HelpItem_Click, nullptr, nullptr, false},
   };
   return kCommands;
 }
 
-FactForm::FactForm()
-    : Form(IDD_FactForm),
-      CaptionLabel(*this, IDC_CaptionLabel),
-      FieldNameCombo(*this, IDC_FieldNameCombo),
-      AddFieldButton(*this, IDC_AddFieldButton),
-      DataLabel(*this, IDC_DataLabel),
-      DataBox(*this, IDC_DataBox),
-      FormulaList(*this, IDC_FormulaList),
-      OKButton(*this, IDC_OKButton),
-      CancelButton(*this, IDC_CancelButton) {
-  MenuClick = [this](int id) { RunCommand(id); };
+FactForm::FactForm() : Form(IDD_FactForm) {
+  commands_.Before = [this](bool stores) { return !stores || EndEdit(); };
   FieldNameCombo.Click = [this] { FieldNameCombo_Click(); };
-  AddFieldButton.Click = [this] { RunCommand(IDC_AddFieldItem); };
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
   HelpKey = Global::HelpOn(HelpPages::kFactForm);
@@ -160,14 +147,6 @@ void FactForm::OKButton_Click() {
   Close();
 }
 
-void FactForm::RunCommand(int id) {
-  if (id == IDC_InsertDateItem) InsertDateItem_Click();
-  if (id == IDC_HelpItem) Global::ShowHelpPage(HelpPages::kFiler);
-  for (const Command& command : Commands()) {
-    if (command.Item == id && EndEdit()) (this->*command.Handler)();
-  }
-}
-
 void FactForm::DefineField(int number) {
   FieldDefForm form(number, working_);
   form.ShowModal();
@@ -243,6 +222,7 @@ void FactForm::DeleteFieldItem_Click() {
   if (number == field_) field_ = 0;
   if (number < field_) --field_;
   ShowDefinitions();
+  FieldNameCombo.SetFocus();
 }
 
 void FactForm::DeleteFormulaItem_Click() {
@@ -265,7 +245,10 @@ void FactForm::InsertDateItem_Click() {
   if (!text.empty() && text.back() != ' ') text += ' ';
   text +=
       ShortDate(static_cast<int>(date.year()), static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
+  const int end = static_cast<int>(text.size());
   DataBox.SetText(text);
-  // Not a second time: the whole text would be marked, and the next key would delete it.
-  if (!DataBox.HasFocus()) DataBox.SetFocus();
+  DataBox.SetFocus();
+  DataBox.SelectText(end, end);  // what is typed next goes on there
 }
+
+void FactForm::HelpItem_Click() { Global::ShowHelpPage(HelpPages::kFiler); }

@@ -9,6 +9,8 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
+#include "resource.h"
+#include "shell/commands.h"
 #include "values/definitions.h"
 #include "values/number_store.h"
 
@@ -17,24 +19,22 @@ class FactForm : public Form {
   FactForm();
 
  private:
-  struct Command;
-  static std::span<const Command> Commands();
+  static std::span<const Command<FactForm>> Commands();
 
-  Label CaptionLabel;
-  DropDownList FieldNameCombo;
-  Button AddFieldButton;
-  Label DataLabel;
-  TextBox DataBox;
-  ListBox FormulaList;
-  Button OKButton;
-  Button CancelButton;
+  Label CaptionLabel{*this, IDC_CaptionLabel};
+  DropDownList FieldNameCombo{*this, IDC_FieldNameCombo};
+  Button AddFieldButton{*this, IDC_AddFieldButton};
+  Label DataLabel{*this, IDC_DataLabel};
+  TextBox DataBox{*this, IDC_DataBox};
+  ListBox FormulaList{*this, IDC_FormulaList};
+  Button OKButton{*this, IDC_OKButton};
+  Button CancelButton{*this, IDC_CancelButton};
 
   void Form_Load() override;
   void FieldNameCombo_Click();
   void OKButton_Click();
 
-  // The menus: what is being edited is stored before one of these runs.
-  void RunCommand(int id);
+  // The menus
   void AddFieldItem_Click();
   void AddFormulaItem_Click();
   void ChangeFieldItem_Click();
@@ -42,6 +42,7 @@ class FactForm : public Form {
   void DeleteFieldItem_Click();
   void DeleteFormulaItem_Click();
   void InsertDateItem_Click();
+  void HelpItem_Click();
   void DefineField(int number);
   void DefineFormula(int number);
 
@@ -52,6 +53,7 @@ class FactForm : public Form {
   void ShowValue();
   void ShowFormulas();
 
+  CommandTable<FactForm> commands_{*this, Commands()};
   FieldSlots working_;
   int field_ = 0;      // the field whose value is in the box, 0 for none
   std::string shown_;  // what the box was filled with: any other text was typed

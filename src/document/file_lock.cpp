@@ -7,19 +7,24 @@
 #include "platform/runtime_error.h"
 #include "shell/messages.h"
 
-void TakeFileLock(const std::string& file_name) {
-  if (!TheDocument.Writable) return;
+void RetakeFileLock(const std::string& file_name) {
+  if (!TheDocument.Writable || file_name.empty()) return;
   try {
     Files::Open(kLockHandle, file_name, Files::Mode::Lock);
     TheDocument.LockHeld = true;
   } catch (const RuntimeError&) {
-    Global::Say(
-        "I have loaded the plan file, but I cannot lock it for writing.  If you make changes, you must save to a "
-        "different file.",
-        Icon::Exclamation);
-    TheDocument.Writable = false;
     TheDocument.LockHeld = false;
   }
+}
+
+void TakeFileLock(const std::string& file_name) {
+  RetakeFileLock(file_name);
+  if (!TheDocument.Writable || TheDocument.LockHeld) return;
+  Global::Say(
+      "I have loaded the plan file, but I cannot lock it for writing.  If you make changes, you must save to a "
+      "different file.",
+      Icon::Exclamation);
+  TheDocument.Writable = false;
 }
 
 void ReleaseFileLock() {

@@ -2,6 +2,7 @@
 #include "document/reader.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "document/document.h"
 #include "document/file_handles.h"
@@ -16,9 +17,6 @@
 #include "values/numbers.h"
 
 namespace {
-
-// A file is locked for writing as soon as it was loaded.
-constexpr bool kLockAfterLoad = true;
 
 // Follows the record numbers of one section and resets each record before it is filled for the first
 // time, so that nothing of an older document shows through a gap in the numbering. Records above `last_used` were
@@ -189,10 +187,10 @@ std::string ReadThings() {
 }
 
 // True when the first line is a header that this program reads.
-bool AcceptsHeader() {
+bool AcceptsHeader(int handle) {
   std::string upper;
   try {
-    upper = UpperCase(Files::ReadLine(kDataFileHandle));
+    upper = UpperCase(Files::ReadLine(handle));
   } catch (const RuntimeError&) {
     return false;  // an empty file, or one that the disk does not give back
   }
@@ -223,9 +221,15 @@ std::string ReadSection(const std::string& head) {
 
 enum class Extent { Nothing, Part, Whole };
 
+// The record syntax is read from a file as long as this lives.
+struct SegmentsOf {
+  explicit SegmentsOf(int handle) { StartSegments(handle); }
+  ~SegmentsOf() { StartSegments(0); }
+};
+
 // Reads every section down to "[END]" or to the first fault.
 Extent ReadSections() {
-  StartSegments(kDataFileHandle);
+  const SegmentsOf segments(kDataFileHandle);
   std::string segment = ReadToSectionHead(false);
   if (segment.empty()) {
     Global::Say("Data file contains no record definitions.", Icon::Exclamation);
@@ -238,35 +242,42 @@ Extent ReadSections() {
   return Extent::Part;
 }
 
-// However the reading ends, the file does not stay open: its handle would be missing for the next one.
-struct DataFileCloser {
-  ~DataFileCloser() {
-    StartSegments(0);
-    Files::Close(kDataFileHandle);
-  }
-};
+Extent ReadDataFile() {
+  if (AcceptsHeader(kDataFileHandle)) return ReadSections();
+  Global::Say("Failed to load Filer data file due to invalid format or version.", Icon::Exclamation);
+  return Extent::Nothing;
+}
 
 }  // namespace
 
-bool LoadFilerFile(const std::string& path) {
+bool LoadFilerFile(const std::string& path, bool lock_after_load) {
+  std::optional<Files::OpenFile> file;
   try {
-    Files::Open(kDataFileHandle, path, Files::Mode::Input);
+    file.emplace(kDataFileHandle, path, Files::Mode::Input);
   } catch (const RuntimeError& error) {
     Global::Say("Failed to open file " + path + Global::DueToError(error), Icon::Exclamation);
     return false;
   }
-  Extent extent = Extent::Part;
-  {
-    const DataFileCloser closer;
-    if (!AcceptsHeader()) {
-      Global::Say("Failed to load Filer data file due to invalid format or version.", Icon::Exclamation);
-      return false;
-    }
-    extent = ReadSections();
-  }
+  const Extent extent = ReadDataFile();
+  file.reset();
   if (extent == Extent::Part) {
     Global::Say("The file was not completely loaded.  Some information will be missing.", Icon::Exclamation);
   }
-  if (extent == Extent::Whole && kLockAfterLoad) TakeFileLock(path);
+  if (extent == Extent::Whole && lock_after_load) TakeFileLock(path);
   return extent == Extent::Whole;
+}
+
+bool IsWholeFile(const std::string& path) {
+  try {
+    const Files::OpenFile file(kProbeHandle, path, Files::Mode::Input);
+    if (!AcceptsHeader(kProbeHandle)) return false;
+    const SegmentsOf segments(kProbeHandle);
+    std::string head;
+    do {
+      head = UpperCase(ReadToSectionHead(true));
+    } while (!head.empty() && head != "[END]");
+    return !head.empty();
+  } catch (const RuntimeError&) {
+    return false;
+  }
 }

@@ -18,6 +18,9 @@
 #include <string>
 
 // Reads a file into the document, which MakeNew has cleared. True when all of it was read, down to
-// "[END]"; the file is then locked for writing. Otherwise the reason was shown, and what was read up to
-// there stays in the document. An unknown section head or a record number past 32767 ends the program.
-bool LoadFilerFile(const std::string& path);
+// "[END]"; the file is then locked for writing, unless it is not to be. Otherwise the reason was shown, and what was
+// read up to there stays in the document. An unknown section head or a record number past 32767 ends the program.
+bool LoadFilerFile(const std::string& path, bool lock_after_load = true);
+
+// True for a file with a header that this program reads and an "[END]". Says nothing, and leaves the document alone.
+bool IsWholeFile(const std::string& path);

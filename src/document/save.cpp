@@ -2,7 +2,9 @@
 #include "document/save.h"
 
 #include <algorithm>
+#include <optional>
 
+#include "document/copies.h"
 #include "document/document.h"
 #include "document/file_handles.h"
 #include "document/file_lock.h"
@@ -18,69 +20,22 @@
 
 namespace {
 
-// Where the file-name part of a full name begins.
-std::size_t NameStart(const std::string& full) { return full.find_last_of("\\:") + 1; }
-
-// The position of the "." before a full name's type, or npos.
-std::size_t TypeDot(const std::string& full) {
-  const auto dot = full.rfind('.');
-  return dot != std::string::npos && dot >= NameStart(full) ? dot : std::string::npos;
-}
-
-std::string BackupName(const std::string& target) {
-  const auto dot = TypeDot(target);
-  return dot == std::string::npos ? target + ".BAK" : target.substr(0, dot + 1) + "BAK";
-}
-
-bool SameName(const std::string& one, const std::string& other) { return UpperCase(one) == UpperCase(other); }
-
-// A name beside the target that no file has.
-std::string FreeNameBeside(const std::string& target) {
-  std::string name = target + ".saving";
-  for (int number = 2; Files::Exists(name); ++number) name = target + ".saving" + std::to_string(number);
-  return name;
-}
-
-void EraseQuietly(const std::string& name) {
-  try {
-    Files::Erase(name);
-  } catch (const RuntimeError&) {
-    // It is in nobody's way: its name is no document's.
-  }
-}
-
-void RenameQuietly(const std::string& from, const std::string& to) {
-  try {
-    Files::Rename(from, to);
-  } catch (const RuntimeError&) {
-    // It is whole under either name.
-  }
-}
-
-void CloseQuietly(int handle) {
-  try {
-    Files::Close(handle);
-  } catch (const RuntimeError&) {
-    // The failure that led here has been reported.
-  }
-}
-
 // Writes the document whole to a new file and onto the disk itself; false when that failed, which was
 // said, and the file is gone again.
 bool WriteNewFile(const std::string& name) {
+  std::optional<Files::OpenFile> file;
   try {
-    Files::Open(kDataFileHandle, name, Files::Mode::Output);
+    file.emplace(kDataFileHandle, name, Files::Mode::Output);
   } catch (const RuntimeError& error) {
     Global::Say("Failed to open file" + Global::DueToError(error), Icon::Exclamation);
     return false;
   }
   try {
     SaveFilerFile(kDataFileHandle);
-    Files::Flush(kDataFileHandle);
-    Files::Close(kDataFileHandle);
+    file->Finish();
     return true;
   } catch (const RuntimeError& error) {
-    CloseQuietly(kDataFileHandle);
+    file.reset();
     EraseQuietly(name);
     Global::Say("Failed to write file" + Global::DueToError(error), Icon::Exclamation);
     return false;
@@ -102,7 +57,7 @@ Presence TestPresence(const std::string& target) {
 }
 
 bool MayReplace(const std::string& target, bool overwrite_confirmed) {
-  if (!SameName(target, TheDocument.FileName)) {
+  if (!SameFile(target, Global::FullFileName(TheStart.WorkingFolder, TheDocument.FileName))) {
     return overwrite_confirmed ||
            Global::Ask("You are about to overwrite an existing file.  Continue?", Buttons::OkCancel);
   }
@@ -137,26 +92,14 @@ bool MakeBackup(const std::string& target) {
   }
 }
 
-// Replaces a file that is its own backup: it steps aside only until the new one stands in its place.
-void ReplaceBackup(const std::string& target, const std::string& written) {
-  const std::string aside = FreeNameBeside(target);
-  Files::Rename(target, aside);
-  try {
-    Files::Rename(written, target);
-  } catch (const RuntimeError&) {
-    RenameQuietly(aside, target);
-    throw;
-  }
-  EraseQuietly(aside);
-}
-
-// Puts the written file in the target's place; false when that failed, which was said.
+// Puts the written file in the target's place; false when that failed, which was said. A file that is its own backup is
+// replaced in one step.
 bool PutInPlace(const std::string& target, const std::string& written, bool replaces) {
-  const bool is_backup = SameName(BackupName(target), target);
+  const bool is_backup = SameFile(BackupName(target), target);
   if (replaces && !is_backup && !MakeBackup(target)) return false;
   try {
     if (replaces && is_backup) {
-      ReplaceBackup(target, written);
+      Files::Replace(written, target);
     } else {
       Files::Rename(written, target);
     }
@@ -173,7 +116,7 @@ bool WriteTarget(const std::string& target, bool overwrite_confirmed) {
   if (presence == Presence::Unknown) return false;
   const bool replaces = presence == Presence::There;
   if (replaces && !MayReplace(target, overwrite_confirmed)) return false;
-  const std::string written = FreeNameBeside(target);
+  const std::string written = FreeSavingName(target);
   if (!WriteNewFile(written)) return false;
   if (PutInPlace(target, written, replaces)) return true;
   EraseQuietly(written);
@@ -188,7 +131,7 @@ std::string ProposedFileName() {
   bool matched = false;
   for (int position = 1; position <= TheRecentFiles.Count; ++position) {
     const std::string& full = TheRecentFiles[position];
-    const std::string name = UpperCase(std::string_view(full).substr(NameStart(full)));
+    const std::string name = UpperCase(NameWithoutFolder(full));
     const auto mark = name.find("FILER");
     if (mark == std::string::npos || name.size() < mark + 8) continue;
     number = LeadingInt16(std::string_view(name).substr(mark + 5, 3));
@@ -221,9 +164,10 @@ void SaveDocument(const Event& written) {
   ReleaseFileLock();
   if (!WriteTarget(target, request.OverwriteConfirmed)) {
     // A name from the command line stands without its folder.
-    if (!document.FileName.empty()) TakeFileLock(Global::FullFileName(TheStart.WorkingFolder, document.FileName));
+    RetakeFileLock(Global::FullFileName(TheStart.WorkingFolder, document.FileName));
     return;
   }
+  EraseLeftovers(target);
   document.FileName = target;
   document.ShownFileName = target;
   TakeFileLock(target);
@@ -231,21 +175,4 @@ void SaveDocument(const Event& written) {
   if (written) written();
   Global::Say("The Larkspur Filer file was saved.", Icon::Information);
   RememberRecentFile(target);
-}
-
-void WriteRescueCopy() {
-  const std::string full = Global::FullFileName(TheStart.WorkingFolder, TheDocument.FileName);
-  const std::string folder = full.empty() ? TheStart.WorkingFolder : FolderOf(full);
-  std::string name = Global::FullFileName(folder, "Rescue.FIL");
-  for (int number = 2; Files::Exists(name); ++number) {
-    name = Global::FullFileName(folder, "Rescue" + std::to_string(number) + ".FIL");
-  }
-  try {
-    Files::Open(kRescueHandle, name, Files::Mode::Output);
-    SaveFilerFile(kRescueHandle);
-    Files::Flush(kRescueHandle);
-    Files::Close(kRescueHandle);
-  } catch (const RuntimeError&) {
-    CloseQuietly(kRescueHandle);
-  }
 }

@@ -14,8 +14,3 @@ void SaveDocument(const Event& written = {});
 // The name offered for a document that has none: "Filer" and the number behind the highest one among the
 // recent files.
 std::string ProposedFileName();
-
-// Writes the document beside its file (a new one: into the working folder) as "Rescue.FIL", or the first
-// of "Rescue2.FIL", "Rescue3.FIL", ... that is free. For what is about to be discarded without a question;
-// says nothing, whether or not it succeeds.
-void WriteRescueCopy();

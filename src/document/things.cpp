@@ -6,6 +6,7 @@
 
 #include "document/document.h"
 #include "platform/locale.h"
+#include "shell/messages.h"
 #include "values/numbers.h"
 
 namespace {
@@ -72,6 +73,17 @@ int InsertThing(std::string_view name) {
   // A link that a damaged file left at the last number stays there: it points at nothing in any case.
   RenumberLinks([place](int link) { return link >= place && link < kLastRecord ? link + 1 : link; });
   return place;
+}
+
+int AddThing(std::string_view name) {
+  const int record = InsertThing(name);
+  if (record == 0) {
+    Global::Say("A file can hold at most 32767 things.  The thing was not added.", Icon::Exclamation);
+    return 0;
+  }
+  TheDocument.CurrentThing = record;
+  TheDocument.Modified = true;
+  return record;
 }
 
 void DeleteThing(int record) {

@@ -14,6 +14,10 @@ bool HasNameOfOther(std::string_view name, int record);
 // new number follows them. Returns the new record number; 0 when the table holds 32767 things already.
 int InsertThing(std::string_view name);
 
+// Does so for the user: the thing becomes the current one and the document is changed. Says when the table is full; 0
+// then.
+int AddThing(std::string_view name);
+
 // Deletes a thing. Links to it become 0, the things behind it move down by one, and every link above its
 // number follows them.
 void DeleteThing(int record);

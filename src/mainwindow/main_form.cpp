@@ -6,6 +6,7 @@
 
 #include "document/document.h"
 #include "document/names.h"
+#include "document/rescue.h"
 #include "document/things.h"
 #include "mainwindow/address_titles.h"
 #include "mainwindow/command_line.h"
@@ -14,70 +15,41 @@
 #include "resource.h"
 #include "shell/messages.h"
 
-// A menu entry and the button of the same command.
-struct MainForm::Command {
-  int Item;
-  Button MainForm::*ItsButton;
-  void (MainForm::*Handler)();
-};
-
-std::span<const MainForm::Command> MainForm::Commands() {
-  static constexpr Command kCommands[] = {
-      {IDC_NewItem, &MainForm::NewButton, &MainForm::NewItem_Click},
-      {IDC_OpenItem, &MainForm::OpenButton, &MainForm::OpenItem_Click},
-      {IDC_SaveItem, &MainForm::SaveButton, &MainForm::SaveItem_Click},
-      {IDC_ExitItem, &MainForm::ExitButton, &MainForm::ExitItem_Click},
-      {IDC_AddPersonItem, &MainForm::AddPersonButton, &MainForm::AddPersonItem_Click},
-      {IDC_DeletePersonItem, &MainForm::DeleteButton, &MainForm::DeletePersonItem_Click},
-      {IDC_RenameItem, nullptr, &MainForm::RenameItem_Click},
-      {IDC_PhotoItem, &MainForm::PhotoButton, &MainForm::PhotoButton_Click},
-      {IDC_DataItem, &MainForm::DataButton, &MainForm::DataButton_Click},
-      {IDC_DefCatItem, &MainForm::DefCatButton, &MainForm::DefCatButton_Click},
-      {IDC_AllNamesItem, nullptr, &MainForm::AllNamesItem_Click},
-      {IDC_StartingLetterItem, nullptr, &MainForm::StartingLetterItem_Click},
-      {IDC_AllCategoryItem, nullptr, &MainForm::AllCategoryItem_Click},
-      {IDC_SelCategoryItem, nullptr, &MainForm::SelCategoryItem_Click},
-      {IDC_GivenNameItem, nullptr, &MainForm::GivenNameItem_Click},
-      {IDC_SurnameOrderItem, nullptr, &MainForm::SurnameOrderItem_Click},
-      {IDC_AddressRepItem, nullptr, &MainForm::AddressRepItem_Click},
-      {IDC_ItemValuesItem, nullptr, &MainForm::ItemValuesItem_Click},
-      {IDC_DescendantItem, nullptr, &MainForm::DescendantItem_Click},
-      {IDC_ManualItem, &MainForm::HelpButton, &MainForm::ManualItem_Click},
-      {IDC_FilerHelpItem, nullptr, &MainForm::FilerHelpItem_Click},
-      {IDC_AboutItem, nullptr, &MainForm::AboutItem_Click},
+std::span<const Command<MainForm>> MainForm::Commands() {
+  using F = MainForm;
+  // What does not store leaves the current thing alone, or does so when it comes to that.
+  constexpr auto kNotStoring = [](int item, void (F::*handler)(), Button F::*button = nullptr) {
+    return Command<F>{item, button, handler, nullptr, nullptr, false};
+  };
+  static constexpr Command<F> kCommands[] = {
+      {IDC_NewItem, &F::NewButton, &F::NewItem_Click},
+      {IDC_OpenItem, nullptr, &F::OpenItem_Click},
+      {IDC_SaveItem, &F::SaveButton, &F::SaveItem_Click},
+      {IDC_ExitItem, nullptr, &F::ExitItem_Click},
+      {IDC_AddPersonItem, &F::AddPersonButton, &F::AddPersonItem_Click},
+      kNotStoring(IDC_DeletePersonItem, &F::DeletePersonItem_Click, &F::DeleteButton),
+      {IDC_RenameItem, nullptr, &F::RenameItem_Click},
+      {IDC_PhotoItem, &F::PhotoButton, &F::PhotoButton_Click},
+      {IDC_RemovePhotoItem, nullptr, &F::RemovePhotoItem_Click},
+      {IDC_DataItem, &F::DataButton, &F::DataButton_Click},
+      {IDC_DefCatItem, &F::DefCatButton, &F::DefCatButton_Click},
+      kNotStoring(IDC_AllNamesItem, &F::AllNamesItem_Click),
+      kNotStoring(IDC_StartingLetterItem, &F::StartingLetterItem_Click),
+      kNotStoring(IDC_AllCategoryItem, &F::AllCategoryItem_Click),
+      kNotStoring(IDC_SelCategoryItem, &F::SelCategoryItem_Click),
+      kNotStoring(IDC_GivenNameItem, &F::GivenNameItem_Click),
+      kNotStoring(IDC_SurnameOrderItem, &F::SurnameOrderItem_Click),
+      kNotStoring(IDC_AddressRepItem, &F::AddressRepItem_Click),
+      kNotStoring(IDC_ItemValuesItem, &F::ItemValuesItem_Click),
+      kNotStoring(IDC_DescendantItem, &F::DescendantItem_Click),
+      kNotStoring(IDC_ManualItem, &F::ManualItem_Click, &F::HelpButton),
+      kNotStoring(IDC_FilerHelpItem, &F::FilerHelpItem_Click),
+      kNotStoring(IDC_AboutItem, &F::AboutItem_Click),
   };
   return kCommands;
 }
 
-MainForm::MainForm(std::string command_line)
-    : Form(IDD_MainForm),
-      NewButton(*this, IDC_NewButton),
-      OpenButton(*this, IDC_OpenButton),
-      SaveButton(*this, IDC_SaveButton),
-      AddPersonButton(*this, IDC_AddPersonButton),
-      DeleteButton(*this, IDC_DeleteButton),
-      HelpButton(*this, IDC_HelpButton),
-      ExitButton(*this, IDC_ExitButton),
-      AllLabel(*this, IDC_AllLabel),
-      PersonCombo(*this, IDC_PersonCombo),
-      CategoryFilterLabel(*this, IDC_CategoryFilterLabel),
-      HintLabel(*this, IDC_HintLabel),
-      NoteBox(*this, IDC_NoteBox),
-      FatherLabel(*this, IDC_FatherLabel),
-      MotherLabel(*this, IDC_MotherLabel),
-      FatherCombo(*this, IDC_FatherCombo),
-      MotherCombo(*this, IDC_MotherCombo),
-      PhotoLabel(*this, IDC_PhotoLabel),
-      PhotoPic(*this, IDC_PhotoPic),
-      PhotoButton(*this, IDC_PhotoButton),
-      DataButton(*this, IDC_DataButton),
-      CatLabel(*this, IDC_CatLabel),
-      CatList(*this, IDC_CatList),
-      DefCatButton(*this, IDC_DefCatButton),
-      command_line_(std::move(command_line)) {
-  for (int index = 0; index < kLetters; ++index) {
-    LetterLabel[static_cast<std::size_t>(index)] = std::make_unique<Label>(*this, IDC_LetterLabel + index);
-  }
+MainForm::MainForm(std::string command_line) : Form(IDD_MainForm), command_line_(std::move(command_line)) {
   WireEvents();
 }
 
@@ -92,41 +64,33 @@ Event MainForm::On(void (MainForm::*handler)()) {
 }
 
 void MainForm::WireEvents() {
-  for (const Command& command : Commands()) {
-    if (command.ItsButton != nullptr) (this->*command.ItsButton).Click = On(command.Handler);
-  }
-  OpenButton.Click = On(&MainForm::OpenButton_Click);
-  ExitButton.Click = On(&MainForm::ExitButton_Click);
-  MenuClick = [this](int id) { RunCommand(id); };
-  EnterKey = On(&MainForm::Enter_Press);
-  EscapeKey = On(&MainForm::Escape_Press);
-  HelpKey = On(&MainForm::ManualItem_Click);
-  AllLabel.Click = On(&MainForm::AllLabel_Click);
-  for (int index = 0; index < kLetters; ++index) {
-    LetterLabel[static_cast<std::size_t>(index)]->Click = [this, index] {
-      LetterLabel_Click(index);
-      RefreshFrame();
-    };
-  }
-  CategoryFilterLabel.Click = On(&MainForm::CategoryFilterLabel_Click);
-  PersonCombo.Click = On(&MainForm::PersonCombo_Click);
-  PersonCombo.Change = [this] { PersonCombo_Change(); };
-  PersonCombo.GotFocus = [this] { PersonCombo_GotFocus(); };
-  PersonCombo.LostFocus = [this] { PersonCombo_LostFocus(); };
+  // A command acts on what the thing list shows, whether or not the focus had to leave the list for it.
+  commands_.Before = [this](bool stores) {
+    Picker.LeaveThingList();
+    if (stores) StoreEdits();
+    return true;
+  };
+  commands_.After = [this] { RefreshFrame(); };
+  OpenButton.Click = [this] { OpenButton_Click(); };
+  ExitButton.Click = [this] { ExitButton_Click(); };
+  EnterKey = [this] { Picker.EnterKey(); };
+  EscapeKey = [this] { Picker.EscapeKey(); };
+  HelpKey = [this] { commands_.Run(IDC_ManualItem); };
+  Picker.StoreEdits = [this] { StoreEdits(); };
+  Picker.Picked = [this] {
+    DisplayThing();
+    TheDocument.PendingEdits = false;
+    RefreshFrame();
+  };
+  Picker.Narrowed = On(&MainForm::Redisplay);
   NoteBox.Change = On(&MainForm::NoteBox_Change);
   NoteBox.LostFocus = [this] { Later(On(&MainForm::NoteBox_LostFocus)); };
   FatherCombo.Click = MotherCombo.Click = On(&MainForm::LinkCombo_Click);
+  PhotoPic.DoubleClick = On(&MainForm::PhotoPic_DoubleClick);
   CatList.ItemCheck = [this](int position) {
     CatList_ItemCheck(position);
     RefreshFrame();
   };
-}
-
-void MainForm::RunCommand(int id) {
-  for (const Command& command : Commands()) {
-    if (command.Item == id) (this->*command.Handler)();
-  }
-  RefreshFrame();
 }
 
 void MainForm::RefreshFrame() {
@@ -140,11 +104,12 @@ void MainForm::RefreshFrame() {
 
 // The note and the lists grow with the window; the photo keeps its corner.
 void MainForm::AnchorControls() {
-  for (Control* control : std::initializer_list<Control*>{&HelpButton, &ExitButton, &CategoryFilterLabel, &PhotoLabel,
-                                                          &PhotoPic, &PhotoButton, &DataButton, &CatLabel}) {
+  for (Control* control :
+       std::initializer_list<Control*>{&HelpButton, &ExitButton, &Picker.CategoryFilterLabel, &PhotoLabel, &PhotoPic,
+                                       &PhotoButton, &DataButton, &CatLabel}) {
     Anchor(*control, kEdgeTop | kEdgeRight);
   }
-  Anchor(PersonCombo, kEdgeLeft | kEdgeTop | kEdgeRight);
+  Anchor(Picker.PersonCombo, kEdgeLeft | kEdgeTop | kEdgeRight);
   Anchor(HintLabel, kEdgeLeft | kEdgeTop | kEdgeRight);
   Anchor(NoteBox, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
   for (Control* control : std::initializer_list<Control*>{&FatherCombo, &MotherCombo}) {
@@ -159,15 +124,17 @@ void MainForm::AnchorControls() {
 void MainForm::Form_Load() {
   TheDocument = {};
   Global::ProgramTitle = "Larkspur Filer";
-  Global::KeepDocument = [this] { KeepDocument(); };
+  Global::KeepDocument = [this] {
+    StoreEdits();
+    if (TheDocument.Modified || Covered()) WriteRescueCopy();
+  };
   Global::FillAddressTitles();
   PhotoButton.SetBackColor(DataButton.BackColor());
+  HiddenPic.SetVisible(false);
   AnchorControls();
   HintLabel.SetText(
       "There are no things yet.\r\n\r\nChoose Edit, Add Thing to add the first one, or File, Open to open a file.");
-  ShowTabs();
   MakeNew();
-  ShowNameOrder();
   TheStart = command_line_.empty() ? StartOptions{} : ParseCommandLine(command_line_);
   LoadSettings();
   TheDocument.Writable = true;
@@ -180,7 +147,7 @@ void MainForm::Form_Load() {
 void MainForm::Form_Activate() {
   if (shown_before_ || dialog_open_) return;
   shown_before_ = true;
-  PersonCombo.SetFocus();
+  Picker.PersonCombo.SetFocus();
   bool show = true;
   if (!TheDocument.DocumentOpen && TheRecentFiles.Count > 0) {
     OpenItem_Click();
@@ -196,10 +163,6 @@ void MainForm::Form_Activate() {
   RefreshFrame();
 }
 
-void MainForm::SayFull() {
-  Global::Say("A file can hold at most 32767 things.  The thing was not added.", Icon::Exclamation);
-}
-
 // Makes the start thing the current one; a name that the document does not know is added to it. False
 // when there is no such thing in the end.
 bool MainForm::ShowStartThing() {
@@ -209,14 +172,7 @@ bool MainForm::ShowStartThing() {
     const std::string name = NormaliseName(TheStart.StartThing);
     if (name.empty()) return false;
     record = FindThing(name);
-    if (record == 0) {
-      record = InsertThing(name);
-      if (record == 0) {
-        SayFull();
-        return false;
-      }
-      TheDocument.Modified = true;
-    }
+    if (record == 0) return AddThing(name) != 0;
   }
   TheDocument.CurrentThing = record;
   return true;
@@ -224,9 +180,12 @@ bool MainForm::ShowStartThing() {
 
 void MainForm::Form_QueryUnload(bool& cancel, UnloadMode mode) {
   if (mode == UnloadMode::Code) return;
-  ExitItem_Click();
   cancel = true;
-  RefreshFrame();
+  if (mode == UnloadMode::WindowsShutdown) {
+    EndSession();
+  } else {
+    commands_.Run(IDC_ExitItem);
+  }
 }
 
 void MainForm::Run() {

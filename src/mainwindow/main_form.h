@@ -1,19 +1,16 @@
 // MainForm, the program's one main window: it owns the document's display and carries out the commands.
 #pragma once
 
-#include <array>
-#include <memory>
 #include <span>
 #include <string>
-#include <vector>
 
 #include "mainwindow/flag_scope.h"
-#include "mainwindow/thing_list.h"
+#include "mainwindow/thing_picker.h"
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
-
-inline constexpr int kLetters = 26;
+#include "resource.h"
+#include "shell/commands.h"
 
 struct ReportRequest;
 
@@ -36,69 +33,46 @@ class MainForm : public Form {
   static void ShowReport(std::string& print_file_name);
 
  private:
-  struct Command;
-  static std::span<const Command> Commands();
-
   // main_form.cpp: start-up, and what holds for all commands
+  static std::span<const Command<MainForm>> Commands();
   void Form_Load() override;
   void Form_Activate() override;
   void Form_QueryUnload(bool& cancel, UnloadMode mode) override;
   Event On(void (MainForm::*handler)());
-  void RunCommand(int id);
   void WireEvents();
   void AnchorControls();
   void RefreshFrame();
   bool ShowStartThing();
-  static void SayFull();
 
   // main_form_file.cpp: the File menu
   void NewItem_Click();
   void OpenItem_Click();
   void SaveItem_Click();
   void ExitItem_Click();
-  void OpenButton_Click() { OpenItem_Click(); }
-  void ExitButton_Click() { ExitItem_Click(); }
+  void OpenButton_Click() { commands_.Run(IDC_OpenItem); }
+  void ExitButton_Click() { commands_.Run(IDC_ExitItem); }
   bool MayAbandon();
-  void KeepUnasked();
+  bool KeepUnasked();
+  bool MayExit();
+  void EndSession();
   bool LoadDocument(const std::string& full_name, const std::string& name);
-
-  // main_form_list.cpp: the View menu, the letter tabs, the thing list
-  void FillThingList(int selected);
-  void FillLinkLists();
-  void ShowTabs();
-  void SetStartingLetter(const std::string& letter);
-  void ClearStartingLetter();
-  void ShowCategoryFilter();
-  void ShowNameOrder();
-  void Redisplay();
-  void LetterLabel_Click(int index);
-  void AllLabel_Click() { AllNamesItem_Click(); }
-  void AllNamesItem_Click();
-  void StartingLetterItem_Click();
-  void AllCategoryItem_Click();
-  void SelCategoryItem_Click() { PickCategory(nullptr); }
-  void CategoryFilterLabel_Click() { PickCategory(&CategoryFilterLabel); }
-  void PickCategory(const Control* below_label);
-  void GivenNameItem_Click() { SetNameOrder(false); }
-  void SurnameOrderItem_Click() { SetNameOrder(true); }
-  void SetNameOrder(bool noun_order);
-  void PersonCombo_Click();
-  void PersonCombo_Change();
-  void PersonCombo_GotFocus();
-  void PersonCombo_LostFocus() { RestoreShownName(); }
-  void Enter_Press();
-  void Escape_Press();
-  void PickThing(int record);
-  void RestoreShownName();
-  Label& TabOf(const std::string& letter);
 
   // main_form_edit.cpp: the Edit menu
   void AddPersonItem_Click();
   void DeletePersonItem_Click();
   void RenameItem_Click();
   void PhotoButton_Click();
+  void RemovePhotoItem_Click();
   void DataButton_Click();
   void DefCatButton_Click();
+
+  // thing_picker.cpp: the View menu
+  void AllNamesItem_Click() { Picker.AllNamesItem_Click(); }
+  void StartingLetterItem_Click() { Picker.StartingLetterItem_Click(); }
+  void AllCategoryItem_Click() { Picker.AllCategoryItem_Click(); }
+  void SelCategoryItem_Click() { Picker.SelCategoryItem_Click(); }
+  void GivenNameItem_Click() { Picker.GivenNameItem_Click(); }
+  void SurnameOrderItem_Click() { Picker.SurnameOrderItem_Click(); }
 
   // main_form_report.cpp: the Report menu
   void AddressRepItem_Click();
@@ -106,41 +80,52 @@ class MainForm : public Form {
   void DescendantItem_Click();
   void MakeReport(int parts, void (*write)(const ReportRequest& request));
 
+  // main_form_help.cpp: the Help menu
+  void ManualItem_Click();
+  void FilerHelpItem_Click();
+  void AboutItem_Click();
+
   // main_form_thing.cpp: the current thing
   ThingRecord* CurrentRecord() const;
   void StoreEdits();
+  void Redisplay();
+  void FillLinkLists();
   void DisplayThing();
   void ShowPhoto(ThingRecord& thing);
+  void PhotoPic_DoubleClick();
   void FillCategoryList();
   void NoteBox_Change();
   void NoteBox_LostFocus();
   void LinkCombo_Click();
   void CatList_ItemCheck(int position);
 
-  // main_form_help.cpp: the Help menu
-  void ManualItem_Click();
-  void FilerHelpItem_Click();
-  void AboutItem_Click();
-  void KeepDocument();
-
-  Button NewButton, OpenButton, SaveButton, AddPersonButton, DeleteButton, HelpButton, ExitButton;
-  Label AllLabel;
-  std::array<std::unique_ptr<Label>, kLetters> LetterLabel;
-  ComboBox PersonCombo;
-  Label CategoryFilterLabel, HintLabel;
-  TextBox NoteBox;
-  Label FatherLabel, MotherLabel;
-  DropDownList FatherCombo, MotherCombo;
-  Label PhotoLabel;
-  Picture PhotoPic;
-  Button PhotoButton, DataButton;
-  Label CatLabel;
-  CheckList CatList;
-  Button DefCatButton;
+  Button NewButton{*this, IDC_NewButton};
+  Button OpenButton{*this, IDC_OpenButton};
+  Button SaveButton{*this, IDC_SaveButton};
+  Button AddPersonButton{*this, IDC_AddPersonButton};
+  Button DeleteButton{*this, IDC_DeleteButton};
+  Button HelpButton{*this, IDC_HelpButton};
+  Button ExitButton{*this, IDC_ExitButton};
+  ThingPicker Picker{*this};
+  Label HintLabel{*this, IDC_HintLabel};
+  TextBox NoteBox{*this, IDC_NoteBox};
+  Label FatherLabel{*this, IDC_FatherLabel};
+  Label MotherLabel{*this, IDC_MotherLabel};
+  DropDownList FatherCombo{*this, IDC_FatherCombo};
+  DropDownList MotherCombo{*this, IDC_MotherCombo};
+  Label PhotoLabel{*this, IDC_PhotoLabel};
+  Picture PhotoPic{*this, IDC_PhotoPic};
+  Picture HiddenPic{*this, IDC_HiddenPic};
+  Button PhotoButton{*this, IDC_PhotoButton};
+  Button DataButton{*this, IDC_DataButton};
+  Label CatLabel{*this, IDC_CatLabel};
+  CheckList CatList{*this, IDC_CatList};
+  Button DefCatButton{*this, IDC_DefCatButton};
 
   std::string command_line_;
-  ThingListView view_;
-  std::string typed_;        // what the user typed into the thing list, without what was offered
+  CommandTable<MainForm> commands_{*this, Commands()};
+  std::string rescue_name_;  // the rescue copy that goes when the Exit question is answered
+  bool asking_to_exit_ = false;
   bool displaying_ = false;  // controls are being filled: their events are no edits
   bool shown_before_ = false;
   bool dialog_open_ = false;

@@ -26,31 +26,18 @@ struct NoRecentFiles {
 }  // namespace
 
 void MainForm::AddPersonItem_Click() {
-  StoreEdits();
   const std::string name = NormaliseName(InputBox("Please type the name for the new object.", Global::ProgramTitle));
   if (name.empty()) return;
   if (FindThing(name) != 0) {
     Global::Say("Sorry, this object is already on file.", Icon::Exclamation);
     return;
   }
-  const int record = InsertThing(name);
-  if (record == 0) {
-    SayFull();
-    return;
-  }
-  TheDocument.CurrentThing = record;
-  TheDocument.Modified = true;
+  if (AddThing(name) == 0) return;
   Redisplay();
   NoteBox.SetFocus();
 }
 
 void MainForm::DeletePersonItem_Click() {
-  // The list offers a name that was begun; the menu leaves it there. Nothing but what is shown whole is deleted.
-  if (!typed_.empty() && CurrentRecord() != nullptr) {
-    RestoreShownName();
-    Global::Say("Nothing was deleted.  Please pick the thing to delete in the list first.", Icon::Exclamation);
-    return;
-  }
   // What was typed belongs to the thing that goes, not to the one that takes its number.
   TheDocument.PendingEdits = false;
   if (CurrentRecord() == nullptr) {
@@ -62,6 +49,12 @@ void MainForm::DeletePersonItem_Click() {
   TheDocument.Modified = true;
   Redisplay();
   RefreshFrame();
+  // Not on the button: the next key would delete the next thing.
+  if (TheDocument.Things.Count() == 0) {
+    AddPersonButton.SetFocus();
+  } else {
+    Picker.PersonCombo.SetFocus();
+  }
   Global::Say("Record deleted.", Icon::Information);
 }
 
@@ -71,7 +64,6 @@ void MainForm::RenameItem_Click() {
     Global::Say("No thing is displayed to rename.", Icon::Exclamation);
     return;
   }
-  StoreEdits();
   const std::string name =
       NormaliseName(InputBox("Please type the new name for " + thing->NAME, Global::ProgramTitle, thing->NAME));
   if (name.empty()) return;
@@ -92,7 +84,6 @@ void MainForm::PhotoButton_Click() {
     Global::Say("First choose or add a thing, then click the button to select a portrait file.", Icon::Exclamation);
     return;
   }
-  StoreEdits();
   FileRequest request;
   request.Mode = FileRequest::Kind::Read;
   request.Folder = TheStart.WorkingFolder;
@@ -109,12 +100,22 @@ void MainForm::PhotoButton_Click() {
   Redisplay();
 }
 
+void MainForm::RemovePhotoItem_Click() {
+  ThingRecord* thing = CurrentRecord();
+  if (thing == nullptr || thing->PICFILENAME.empty()) {
+    Global::Say("No photo is displayed to remove.", Icon::Information);
+    return;
+  }
+  thing->PICFILENAME.clear();
+  TheDocument.Modified = true;
+  Redisplay();
+}
+
 void MainForm::DataButton_Click() {
   if (CurrentRecord() == nullptr) {
     Global::Say("First choose or add a thing, then click the MORE button.", Icon::Exclamation);
     return;
   }
-  StoreEdits();
   FactForm().ShowModal();
   // Renaming and deleting fields change things even when the dialog is cancelled.
   ThingDataChanged = false;
@@ -122,16 +123,11 @@ void MainForm::DataButton_Click() {
 }
 
 void MainForm::DefCatButton_Click() {
-  StoreEdits();
   CatDefForm form;
   form.ShowModal();
   if (!form.Accepted) return;
   TheDocument.Modified = true;
-  if (view_.SelectedCategory != 0 && TheDocument.CategoryNames[view_.SelectedCategory].empty()) {
-    view_.SelectedCategory = 0;
-    view_.CategoryMask = 0;
-  }
-  ShowCategoryFilter();
+  Picker.CategoriesRenamed();
   FillCategoryList();
   Redisplay();
 }

@@ -1,11 +1,16 @@
-// MainForm's File menu: New, Open, Save, Exit.
+// MainForm's File menu: New, Open, Save, Exit, and the end of Windows.
+#include <utility>
+
+#include "document/copies.h"
 #include "document/document.h"
 #include "document/file_lock.h"
 #include "document/reader.h"
+#include "document/rescue.h"
 #include "document/save.h"
 #include "mainwindow/command_line.h"
 #include "mainwindow/main_form.h"
 #include "mainwindow/settings.h"
+#include "platform/files.h"
 #include "platform/program.h"
 #include "shell/file_form.h"
 #include "shell/messages.h"
@@ -14,14 +19,25 @@ namespace {
 
 constexpr const char* kDataFileExtension = "FIL";
 
+// A save that was cut short may have left a file whole beside its name only. Reads it, if the user wants that.
+bool LoadCopyOf(const std::string& full_name) {
+  if (Files::Exists(full_name)) return false;
+  const std::string copy = NewestWholeCopy(full_name);
+  if (copy.empty() || !Global::Ask("A complete copy of this file was found: " + copy +
+                                       ".  Do you want to open it in place of the missing file?",
+                                   Buttons::YesNo, Icon::Exclamation)) {
+    return false;
+  }
+  if (!LoadFilerFile(copy, false)) return false;
+  TheDocument.Modified = true;
+  return true;
+}
+
 }  // namespace
 
 void MainForm::MakeNew() {
   ::MakeNew();
-  view_.SelectedCategory = 0;
-  view_.CategoryMask = 0;
-  ShowCategoryFilter();
-  ClearStartingLetter();
+  Picker.Reset();
   FillCategoryList();
   Redisplay();
 }
@@ -34,32 +50,35 @@ bool MainForm::MayAbandon() {
                                           Buttons::OkCancel, Icon::Information);
 }
 
-// What is discarded without a question is kept in a rescue copy.
-void MainForm::KeepUnasked() {
-  if (!TheDocument.DocumentOpen && TheDocument.Modified) WriteRescueCopy();
+// What is discarded without a question is kept in a rescue copy. False when there is none and the user would rather
+// stay.
+bool MainForm::KeepUnasked() {
+  if (TheDocument.DocumentOpen || !TheDocument.Modified || !WriteRescueCopy().empty()) return true;
+  return Global::Ask(
+      "Your changes are not saved, and a rescue copy of them could not be written to any folder.  Do you want to "
+      "abandon them?",
+      Buttons::OkCancel, Icon::Exclamation, DefaultButton::Last);
 }
 
 void MainForm::NewItem_Click() {
-  StoreEdits();
-  if (!MayAbandon()) return;
-  KeepUnasked();
+  if (!MayAbandon() || !KeepUnasked()) return;
   MakeNew();
+  AddPersonButton.SetFocus();
 }
 
 void MainForm::OpenItem_Click() {
-  StoreEdits();
   if (!MayAbandon()) return;
   FileRequest request;
   request.Mode = FileRequest::Kind::Read;
   request.Folder = TheStart.WorkingFolder;
   request.Pattern = std::string("*.") + kDataFileExtension;
   request.Name = TheRecentFiles.Count > 0 ? TheRecentFiles[1] : TheDocument.FileName;
+  request.MayBeMissing = [](const std::string& name) { return !NewestWholeCopy(name).empty(); };
   {
     const FlagScope scope(dialog_open_);
     FileForm(request).ShowModal();
   }
-  if (request.Name.empty()) return;
-  KeepUnasked();
+  if (request.Name.empty() || !KeepUnasked()) return;
   const bool loaded = LoadDocument(request.Name, request.Name);
   if (loaded && TheDocument.Things.Count() > 0) TheDocument.CurrentThing = 1;
   Redisplay();
@@ -68,7 +87,7 @@ void MainForm::OpenItem_Click() {
 // Clears the document and reads a file into it; `name` is how the document calls the file then.
 bool MainForm::LoadDocument(const std::string& full_name, const std::string& name) {
   MakeNew();
-  const bool loaded = LoadFilerFile(full_name);
+  const bool loaded = LoadFilerFile(full_name) || LoadCopyOf(full_name);
   if (loaded) {
     TheDocument.FileName = name;
     TheDocument.ShownFileName = name;
@@ -79,15 +98,35 @@ bool MainForm::LoadDocument(const std::string& full_name, const std::string& nam
 }
 
 void MainForm::SaveItem_Click() {
-  StoreEdits();
   const FlagScope scope(dialog_open_);
   SaveDocument([this] { RefreshFrame(); });
 }
 
 void MainForm::ExitItem_Click() {
+  RefreshFrame();
+  if (TheDocument.Modified && !MayExit()) return;
+  ReleaseFileLock();
+  EndProgram();
+}
+
+// The answer settles what the end of Windows had asked for as well.
+bool MainForm::MayExit() {
+  const FlagScope asking(asking_to_exit_);
+  const bool exits = Global::Ask("Exit Larkspur Filer without saving your changes?", Buttons::YesNo);
+  SetShutdownReason({});
+  if (!rescue_name_.empty()) EraseQuietly(std::exchange(rescue_name_, {}));
+  return exits;
+}
+
+// Windows is ending, and may do so before the question is answered.
+void MainForm::EndSession() {
   StoreEdits();
   RefreshFrame();
-  if (TheDocument.Modified && !Global::Ask("Exit Larkspur Filer without saving your changes?", Buttons::YesNo)) return;
+  if (TheDocument.Modified || Covered()) {
+    if (rescue_name_.empty()) rescue_name_ = WriteRescueCopy();
+    SetShutdownReason("Larkspur Filer has changes that are not saved.");
+    if (asking_to_exit_ || !MayExit()) return;
+  }
   ReleaseFileLock();
   EndProgram();
 }

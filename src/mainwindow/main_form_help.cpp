@@ -1,6 +1,4 @@
-// MainForm's Help menu, and what becomes of the document when a failure ends the program.
-#include "document/document.h"
-#include "document/save.h"
+// MainForm's Help menu.
 #include "mainwindow/main_form.h"
 #include "shell/about_form.h"
 #include "shell/help.h"
@@ -10,8 +8,3 @@ void MainForm::ManualItem_Click() { Global::ShowHelpPage(HelpPages::kManual); }
 void MainForm::FilerHelpItem_Click() { Global::ShowHelpPage(HelpPages::kFiler); }
 
 void MainForm::AboutItem_Click() { AboutForm("Keeps a list of things, with links, photos and values.").ShowModal(); }
-
-void MainForm::KeepDocument() {
-  StoreEdits();
-  if (TheDocument.Modified) WriteRescueCopy();
-}

@@ -1,11 +1,15 @@
 // MainForm's current thing: its display, and the step that stores what was typed.
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "document/document.h"
 #include "document/text.h"
 #include "mainwindow/command_line.h"
 #include "mainwindow/file_names.h"
 #include "mainwindow/main_form.h"
+#include "platform/files.h"
+#include "shell/launch.h"
 #include "shell/messages.h"
 #include "values/numbers.h"
 
@@ -14,13 +18,23 @@ ThingRecord* MainForm::CurrentRecord() const {
   return things.Holds(TheDocument.CurrentThing) ? &things[TheDocument.CurrentThing] : nullptr;
 }
 
-bool MainForm::ValidateText(std::string& text) {
+namespace {
+
+// A text with each line break turned into "?".
+std::string OneParagraph(const std::string& text) {
   std::string one_paragraph;
   for (std::size_t at = 0; at < text.size(); ++at) {
     const bool is_break = text[at] == '\r' || text[at] == '\n';
     if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n') ++at;
     one_paragraph += is_break ? '?' : text[at];
   }
+  return one_paragraph;
+}
+
+}  // namespace
+
+bool MainForm::ValidateText(std::string& text) {
+  std::string one_paragraph = OneParagraph(text);
   if (one_paragraph == text) return false;
   text = std::move(one_paragraph);
   Global::Say(
@@ -35,16 +49,30 @@ void MainForm::StoreEdits() {
   TheDocument.PendingEdits = false;
   ThingRecord* thing = CurrentRecord();
   if (thing == nullptr) return;
+  // All is stored before anything is said: Windows may end while the box is up.
   std::string note = NoteBox.Text();
-  if (ValidateText(note)) {
-    const FlagScope scope(displaying_);
-    NoteBox.SetText(note);
-  }
-  thing->NOTE = Trim(note);
+  thing->NOTE = Trim(OneParagraph(note));
   // A list without a selection stands for a link that the lists cannot show: it is left as it is.
   if (FatherCombo.Selected() >= 0) thing->XREF1 = static_cast<std::int16_t>(FatherCombo.SelectedData());
   if (MotherCombo.Selected() >= 0) thing->XREF2 = static_cast<std::int16_t>(MotherCombo.SelectedData());
   TheDocument.Modified = true;
+  if (!ValidateText(note)) return;
+  const FlagScope scope(displaying_);
+  NoteBox.SetText(note);
+}
+
+void MainForm::Redisplay() {
+  const FlagScope scope(displaying_);
+  Picker.FillThingList(TheDocument.CurrentThing);
+  FillLinkLists();
+  DisplayThing();
+}
+
+void MainForm::FillLinkLists() {
+  if (AreLinks(FatherCombo.Entries(), Picker.NounOrder())) return;
+  std::vector<ListEntry> links = ListLinks(Picker.NounOrder());
+  FatherCombo.Fill(links);
+  MotherCombo.Fill(std::move(links));
 }
 
 namespace {
@@ -87,9 +115,23 @@ void MainForm::DisplayThing() {
 
 void MainForm::ResetPicBox() { PhotoPic.Clear(); }
 
+namespace {
+
+// The first of a photo's places that has it; where none has, the error is that of the working folder.
+std::string PhotoFile(const std::string& name) {
+  const std::string& folder = TheStart.WorkingFolder;
+  for (const std::string& place : PhotoPlaces(name, Global::FullFileName(folder, TheDocument.FileName), folder)) {
+    if (Files::Exists(place)) return place;
+  }
+  return Global::FullFileName(folder, name);
+}
+
+}  // namespace
+
 void MainForm::ShowPhoto(ThingRecord& thing) {
   try {
-    PhotoPic.Load(Global::FullFileName(TheStart.WorkingFolder, thing.PICFILENAME));
+    HiddenPic.Load(PhotoFile(thing.PICFILENAME));
+    PhotoPic.ShowFrom(HiddenPic);
   } catch (const RuntimeError& error) {
     ResetPicBox();
     thing.PICFILENAME.clear();
@@ -98,6 +140,18 @@ void MainForm::ShowPhoto(ThingRecord& thing) {
                     ". The picture file link will be removed.",
                 Icon::Exclamation);
   }
+}
+
+void MainForm::PhotoPic_DoubleClick() {
+  std::string file = PhotoPic.FileName();
+  if (file.empty()) return;
+  std::string program = file.substr(std::min(file.find_last_of(".\\"), file.size()));
+  if (!APISubs::IsRegistered(program)) {
+    Global::Say("I cannot open the photo " + file + " because no program is registered for files of its type.",
+                Icon::Exclamation);
+    return;
+  }
+  APISubs::LaunchProgram(program, file);
 }
 
 // Entry k is category k, so that the list's positions need no table; unused numbers show no text.

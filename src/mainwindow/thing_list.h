@@ -8,6 +8,8 @@
 #include "document/document.h"
 #include "platform/lists.h"
 
+inline constexpr int kLetters = 26;
+
 // How the user looks at the things.
 struct ThingListView {
   std::string StartingLetter;     // "A".."Z", or empty for all names

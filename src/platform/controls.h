@@ -21,6 +21,7 @@ class TextBox : public Control {
   bool ReadOnly() const;
   void SetTextLimit(int characters);  // for typing only; 0 = none
   void SelectAll();
+  void SelectText(int first, int last);  // marks characters [first, last) and puts the caret behind them
   Event Change;
 };
 
@@ -41,16 +42,21 @@ class OptionButton : public Control {
   Event Click;
 };
 
-// Shows a photo, scaled to the box with its proportions kept and centred.
+// Shows a photo, scaled to the box with its proportions kept and centred. The second click of a double click raises
+// DoubleClick in place of Click.
 class Picture : public Control {
  public:
   Picture(Form& owner, int id) : Control(owner, id, Kind::Picture) {}
   // Shows the picture in a file. Throws 53, 76, 75 or 70 when it cannot be read and 481 when it is no
-  // picture the system knows; the box is then empty. The file is not held open.
+  // picture the system knows; the box is then empty. The file is not held open. Decoding may take a second, with a
+  // wait cursor; when the box holds that file already, of the same size and time of change, nothing is read.
   void Load(const std::string& name);
+  void ShowFrom(const Picture& other);  // shows what another box holds, without decoding it again
   void Clear();
   bool Empty() const;
+  std::string FileName() const;  // as it was given to Load, also to that of the other box; empty for an empty box
   Event Click;
+  Event DoubleClick;
 };
 
 // A titled border around other controls. It owns none of them.

@@ -4,6 +4,7 @@
 // or a folder, 76 no such folder, 61 disk full, ...).
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -47,6 +48,21 @@ void Flush(int handle);
 // happens when the handle is not open.
 void Close(int handle);
 
+// Opens a file as Open does and closes it on every way out.
+class OpenFile {
+ public:
+  OpenFile(int handle, const std::string& name, Mode mode);
+  ~OpenFile();  // drops what the disk refuses
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+  // Forces what was written onto the disk itself and closes the file; throws what the disk refuses.
+  void Finish();
+
+ private:
+  int handle_;
+};
+
 // Closes every handle, dropping failures: for the end of the program.
 void CloseAll();
 
@@ -55,6 +71,13 @@ void Erase(const std::string& name);
 
 // Renames a file; the new name must be free (error 58).
 void Rename(const std::string& from, const std::string& to);
+
+// Renames a file in one step over another one, which need not be there: at every instant one of the two stands whole
+// under that name. Error 75 when the other one is read-only.
+void Replace(const std::string& from, const std::string& to);
+
+// When a file was last written, for comparing with another one's time; 0 when the system does not say.
+std::uint64_t ChangedAt(const std::string& name);
 
 // Tells whether a file of that name is there; false also where the system will not say.
 bool Exists(const std::string& name);

@@ -36,8 +36,12 @@ class Form {
   // Makes ShowModal place the form below a control of another form instead of centring it.
   void PlaceBelow(const Control& control);
 
-  // Runs Form_Load and shows the form; returns at once. For the main window, once.
+  // Runs Form_Load and shows the form; returns at once. For the main window, once. What Form_Load throws comes out
+  // here; the form is then closed.
   void Show();
+
+  // True while another form stands above this one.
+  bool Covered() const;
 
   // Runs the program's events until the form is closed. What a handler throws comes out here; the
   // form is still there then, and the call may be made again.
@@ -54,11 +58,16 @@ class Form {
   // swallow that click.
   void Later(Event event);
 
+  // What Windows shows, in plain ASCII, while the form keeps it from ending; empty for nothing.
+  void SetShutdownReason(std::string_view reason);
+
   // Menu entries, by id. Separators and unknown ids are left alone.
   void SetMenuEnabled(int id, bool enabled);
   bool MenuEnabled(int id) const;
   void SetMenuChecked(int id, bool checked);
   bool MenuChecked(int id) const;
+  void SetMenuText(int id, std::string_view text);  // "&" and tab as in a template; the template's own comes first
+  std::string MenuText(int id) const;               // as set last, empty before
 
   // The entry or accelerator was chosen; only enabled entries are told of.
   std::function<void(int id)> MenuClick;

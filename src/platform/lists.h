@@ -37,14 +37,16 @@ class ListBox : public ListControl {
   Event DoubleClick;
 };
 
-// A drop-down whose text is always one of its entries, or nothing.
+// A drop-down whose text is always one of its entries, or nothing. The mouse wheel scrolls its open list; closed it
+// stays as it is under the wheel, also with the focus: whoever scrolls past it would change it unawares.
 class DropDownList : public ListControl {
  public:
   DropDownList(Form& owner, int id) : ListControl(owner, id, Kind::DropDownList) {}
 };
 
 // A drop-down with an edit field: Text may be anything. Change is raised when the edit text was
-// typed or set from code, not when an entry was selected (that is Click).
+// typed or set from code, not when an entry was selected (that is Click). The mouse wheel scrolls its open list and
+// selects the next entry of a closed one that has the focus; without the focus nothing happens.
 class ComboBox : public ListControl {
  public:
   ComboBox(Form& owner, int id) : ListControl(owner, id, Kind::ComboBox) {}

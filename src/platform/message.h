@@ -7,10 +7,12 @@
 enum class Icon { None, Information, Exclamation, Critical };
 enum class Buttons { Ok, OkCancel, YesNo };
 enum class Answer { Ok, Cancel, Yes, No };
+enum class DefaultButton { First, Last };  // the one that Enter presses
 
-// Shows a message box and returns the button pressed. The first button is the default. Closing an
-// OK/Cancel box answers Cancel; a Yes/No box must be answered. Never fails.
-Answer MsgBox(std::string_view text, std::string_view caption, Buttons buttons = Buttons::Ok, Icon icon = Icon::None);
+// Shows a message box and returns the button pressed. Closing an OK/Cancel box answers Cancel; a Yes/No box must be
+// answered. Never fails.
+Answer MsgBox(std::string_view text, std::string_view caption, Buttons buttons = Buttons::Ok, Icon icon = Icon::None,
+              DefaultButton default_button = DefaultButton::First);
 
 // Asks for one line of text. Returns it as typed, or empty text when the user cancelled.
 std::string InputBox(std::string_view prompt, std::string_view caption, std::string_view offered = "");

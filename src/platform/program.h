@@ -14,6 +14,11 @@ std::string ProgramFolder();
 // The process's current folder, in the same form. The program never changes it.
 std::string CurrentFolder();
 
+// The user's folders for documents and for what is needed for a moment only, in the same form; empty when the system
+// names none.
+std::string DocumentsFolder();
+std::string TemporaryFolder();
+
 // The value of an environment variable; nothing when it is not defined.
 std::optional<std::string> EnvironmentValue(const std::string& name);
 

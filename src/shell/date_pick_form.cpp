@@ -7,6 +7,7 @@
 
 #include "platform/program.h"
 #include "resource.h"
+#include "shell/date_pick_ids.h"
 #include "shell/help.h"
 #include "shell/messages.h"
 

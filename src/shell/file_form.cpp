@@ -82,7 +82,9 @@ void FileForm::BrowseButton_Click() {
 
 void FileForm::OKButton_Click() {
   const std::string name = Global::FullFileName(request_.Folder, Trim(NameBox.Text()));
-  if (request_.Mode == FileRequest::Kind::Read && !name.empty() && !CanBeOpened(name)) {
+  const bool must_open = request_.Mode == FileRequest::Kind::Read && !name.empty();
+  const bool passes = request_.MayBeMissing && !Files::Exists(name) && request_.MayBeMissing(name);
+  if (must_open && !passes && !CanBeOpened(name)) {
     NameBox.SetFocus();
     return;
   }
@@ -100,7 +102,7 @@ void OpenForm::ShowModal() {
   choice.PatternTitle = PatternTitle(request_.Pattern);
   const std::string full = Global::FullFileName(request_.Folder, request_.Name);
   choice.Folder = FolderOf(full).empty() ? request_.Folder : FolderOf(full);
-  choice.Name = full.substr(full.find_last_of("\\:") + 1);
+  choice.Name = NameWithoutFolder(full);
   request_.OverwriteConfirmed = false;
   do {
     request_.Name = ChooseFile(choice);

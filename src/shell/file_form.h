@@ -2,6 +2,7 @@
 // system's own file dialog.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/controls.h"
@@ -16,6 +17,8 @@ struct FileRequest {
   std::string Pattern;              // "*.FIL"
   std::string Name;                 // in: the name offered; out: the full name chosen, empty when cancelled
   bool OverwriteConfirmed = false;  // out: the user has agreed to overwrite the chosen file
+  // Read: whether FileForm is to let a full name through that no file has; empty: none.
+  std::function<bool(const std::string& name)> MayBeMissing;
 };
 
 class FileForm : public Form {

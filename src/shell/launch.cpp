@@ -11,12 +11,26 @@
 
 namespace {
 
-// The command registered for a file type, as it stands in the registry; empty when there is none.
-std::string RegisteredCommand(const std::string& type) {
+// The command registered for a file type, as it stands in the registry; empty when there is none. `read` gives the
+// default value of a key.
+template <typename Read>
+std::string RegisteredCommand(const std::string& type, Read read) {
   const std::string classes = "SOFTWARE\\Classes\\";
-  const std::string class_name = APISubs::ReadRegistryText(classes + type, "");
+  const std::string class_name = read(classes + type);
   if (class_name.empty()) return {};
-  return std::string(Trim(APISubs::ReadRegistryText(classes + class_name + "\\shell\\open\\command", "")));
+  return std::string(Trim(read(classes + class_name + "\\shell\\open\\command")));
+}
+
+// As ReadRegistryText where it succeeds; empty otherwise.
+std::string ReadQuietly(const std::string& key_name) {
+  for (const RegistryRoot root : {RegistryRoot::CurrentUser, RegistryRoot::LocalMachine}) {
+    const RegistryKey key(root, key_name);
+    const std::optional<RegistryValue> value = key.Query("");
+    if (!value) continue;
+    const bool is_text = value->Type == kRegistryText || value->Type == kRegistryExpandableText;
+    return is_text ? key.ReadText("", value->Size).value_or("") : std::string();
+  }
+  return {};
 }
 
 // The program's path out of a registered command, whose own arguments are dropped.
@@ -68,7 +82,8 @@ std::int16_t Start(const std::string& command_line) {
 std::int16_t APISubs::LaunchProgram(std::string& program, std::string& argument) {
   std::string hint;
   if (program.starts_with('.')) {
-    const std::string command = RegisteredCommand(program);
+    const std::string command =
+        RegisteredCommand(program, [](const std::string& key) { return ReadRegistryText(key, ""); });
     if (command.empty()) return kNotRegistered;
     hint = "Check your registry settings for " + program + "<<" + command + ">>.";
     program = ProgramOf(command);
@@ -81,6 +96,8 @@ std::int16_t APISubs::LaunchProgram(std::string& program, std::string& argument)
   QuoteBlanks(program);
   return Start(argument.empty() ? program : program + " " + argument);
 }
+
+bool APISubs::IsRegistered(const std::string& type) { return !RegisteredCommand(type, ReadQuietly).empty(); }
 
 std::string APISubs::ReadRegistryText(const std::string& key, const std::string& name) {
   const RegistryKey user(RegistryRoot::CurrentUser, key);

@@ -19,6 +19,9 @@ inline constexpr std::int16_t kStartFailed = -3;
 // command line holds in the end. Says what went wrong, but not always that nothing is registered.
 std::int16_t LaunchProgram(std::string& program, std::string& argument);
 
+// True when a program is registered for a file type, such as LaunchProgram looks for. Says nothing, and ends nothing.
+bool IsRegistered(const std::string& type);
+
 // The text of a value of a key below the user's root or, where that has no such value, below the machine's; the
 // empty name is the key's default value. Empty when there is no such key, which is said. Ends the program when
 // the key is there and the value is not.

@@ -25,8 +25,8 @@ void Say(std::string_view text, Icon icon) {
 
 int MessagesSaid() { return messages_said; }
 
-bool Ask(std::string_view question, Buttons buttons, Icon icon) {
-  const Answer answer = MsgBox(question, ProgramTitle, buttons, icon);
+bool Ask(std::string_view question, Buttons buttons, Icon icon, DefaultButton default_button) {
+  const Answer answer = MsgBox(question, ProgramTitle, buttons, icon, default_button);
   return answer == Answer::Yes || answer == Answer::Ok;
 }
 
@@ -37,10 +37,15 @@ void SayAndEnd(std::string_view text) {
 }
 
 void RunForm(Form& form, const Event& start) {
-  bool started = false;
+  try {
+    start();
+  } catch (const std::exception& error) {
+    const char* const what =
+        form.Closed() ? "The program could not be started: " : "The command could not be completed: ";
+    Say(what + std::string(error.what()), Icon::Exclamation);
+  }
   while (!form.Closed()) {
     try {
-      if (!std::exchange(started, true)) start();
       form.RunUntilClosed();
     } catch (const std::exception& error) {
       Say(std::string("The command could not be completed: ") + error.what(), Icon::Exclamation);

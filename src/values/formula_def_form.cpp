@@ -75,7 +75,11 @@ void FormulaDefForm::FixedOption_Click() { TemplateBox.SetEnabled(true); }
 
 void FormulaDefForm::InsertButton_Click() {
   if (FieldNameCombo.Selected() < 0) return;
-  FormulaBox.SetText(AppendReference(FormulaBox.Text(), FieldNameCombo.Text()));
+  const std::string text = AppendReference(FormulaBox.Text(), FieldNameCombo.Text());
+  const int end = static_cast<int>(text.size());
+  FormulaBox.SetText(text);
+  FormulaBox.SetFocus();
+  FormulaBox.SelectText(end, end);  // what is typed next goes on there
 }
 
 // A type that the list does not offer is kept until another one is picked.

@@ -108,8 +108,9 @@ std::int32_t LeadingInt32(std::string_view text) { return LeadingWhole<std::int3
 int LeadingRecordNumber(std::string_view text) {
   if (int plain = 0; ReadPlain(text, plain)) return std::clamp(plain, 0, kPastLastRecord);
   try {
-    const double rounded = std::nearbyint(LeadingNumber(text));
-    if (rounded < 1) return 0;
+    const double number = LeadingNumber(text);
+    if (number < 1) return 0;
+    const double rounded = std::nearbyint(number);
     return rounded > kLastRecord ? kPastLastRecord : static_cast<int>(rounded);
   } catch (const RuntimeError&) {
     // Too large in either direction: a number below 1 is no record number.

@@ -13,7 +13,7 @@ double LeadingNumber(std::string_view text);
 std::int16_t LeadingInt16(std::string_view text);
 std::int32_t LeadingInt32(std::string_view text);
 
-// The record number a text begins with, halves rounded to even: 0 for none or below 1, and
+// The record number a text begins with: 0 for none or one below 1, others with halves rounded to even, and
 // kPastLastRecord for anything above the last number a record can have.
 inline constexpr int kLastRecord = 32767;
 inline constexpr int kPastLastRecord = kLastRecord + 1;

@@ -204,8 +204,13 @@ std::string NumberOf(std::string_view stored, char separator) {
   double value = 0;
   const auto result = std::from_chars(text.data() + sign, text.data() + text.size(), value);
   const bool digit = sign < text.size() && (text[sign] == '.' || (text[sign] >= '0' && text[sign] <= '9'));
-  if (!digit || result.ec != std::errc() || result.ptr != text.data() + text.size()) return {};
-  return text;
+  if (!digit || result.ptr != text.data() + text.size()) return {};
+  if (result.ec == std::errc()) return text;
+  try {
+    return LeadingNumber(text) == 0 ? "0" : "";  // out of range: too small
+  } catch (const RuntimeError&) {
+    return {};
+  }
 }
 
 }  // namespace

@@ -23,16 +23,8 @@ constexpr std::size_t kNormalZoom = 4;
 
 }  // namespace
 
-// A menu entry and the button of the same command.
-struct ViewerForm::Command {
-  int Item;
-  Button ViewerForm::*ItsButton;
-  void (ViewerForm::*Handler)();
-  bool (ViewerForm::*Enabled)() const = &ViewerForm::Always;
-};
-
-std::span<const ViewerForm::Command> ViewerForm::Commands() {
-  static constexpr Command kCommands[] = {
+std::span<const Command<ViewerForm>> ViewerForm::Commands() {
+  static constexpr Command<ViewerForm> kCommands[] = {
       {IDC_OpenItem, &ViewerForm::OpenButton, &ViewerForm::OpenItem_Click},
       {IDC_ReloadItem, nullptr, &ViewerForm::ReloadItem_Click, &ViewerForm::HasFile},
       {IDC_SaveTextItem, nullptr, &ViewerForm::SaveTextItem_Click, &ViewerForm::HasFile},
@@ -54,30 +46,7 @@ std::span<const ViewerForm::Command> ViewerForm::Commands() {
 }
 
 ViewerForm::ViewerForm(const std::string& command_line)
-    : Form(IDD_ViewerForm),
-      OpenButton(*this, IDC_OpenButton),
-      PrintButton(*this, IDC_PrintButton),
-      PreviewButton(*this, IDC_PreviewButton),
-      FindLabel(*this, IDC_FindLabel),
-      FindBox(*this, IDC_FindBox),
-      FindNextButton(*this, IDC_FindNextButton),
-      FindPreviousButton(*this, IDC_FindPreviousButton),
-      HitLabel(*this, IDC_HitLabel),
-      ReportSurface(*this, IDC_ReportSurface),
-      FileLabel(*this, IDC_FileLabel),
-      LinesLabel(*this, IDC_LinesLabel),
-      ZoomLabel(*this, IDC_ZoomLabel),
-      file_(Global::FullFileName("", FileNameIn(command_line))),
-      zoom_(kNormalZoom) {
-  for (const Command& command : Commands()) {
-    if (command.ItsButton == nullptr) continue;
-    (this->*command.ItsButton).Click = [this, &command] { (this->*command.Handler)(); };
-  }
-  MenuClick = [this](int id) {
-    for (const Command& command : Commands()) {
-      if (command.Item == id) (this->*command.Handler)();
-    }
-  };
+    : Form(IDD_ViewerForm), file_(Global::FullFileName("", FileNameIn(command_line))), zoom_(kNormalZoom) {
   FindBox.Change = [this] { FindBox_Change(); };
   ReportSurface.Resize = [this] { ReportSurface_Resize(); };
   ReportSurface.Scroll = [this](Surface::Bar bar, int position) { ReportSurface_Scroll(bar, position); };
@@ -196,11 +165,7 @@ void ViewerForm::AboutItem_Click() {
 void ViewerForm::Refresh() {
   ShowReport();
   ShowStatus();
-  for (const Command& command : Commands()) {
-    const bool enabled = (this->*command.Enabled)();
-    SetMenuEnabled(command.Item, enabled);
-    if (command.ItsButton != nullptr) (this->*command.ItsButton).SetEnabled(enabled);
-  }
+  commands_.Refresh();
 }
 
 void ViewerForm::ShowReport() {
@@ -231,4 +196,4 @@ Page ViewerForm::Notice() const {
   return page;
 }
 
-std::string ViewerForm::FileTitle() const { return file_.substr(file_.find_last_of("\\:") + 1); }
+std::string ViewerForm::FileTitle() const { return NameWithoutFolder(file_); }

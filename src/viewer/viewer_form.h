@@ -8,7 +8,10 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/surface.h"
+#include "resource.h"
+#include "shell/commands.h"
 #include "viewer/report_view.h"
+#include "viewer/viewer_ids.h"
 
 class ViewerForm : public Form {
  public:
@@ -22,20 +25,18 @@ class ViewerForm : public Form {
   void Run();
 
  private:
-  struct Command;
-
-  Button OpenButton;
-  Button PrintButton;
-  Button PreviewButton;
-  Label FindLabel;
-  TextBox FindBox;
-  Button FindNextButton;
-  Button FindPreviousButton;
-  Label HitLabel;
-  Surface ReportSurface;
-  Label FileLabel;
-  Label LinesLabel;
-  Label ZoomLabel;
+  Button OpenButton{*this, IDC_OpenButton};
+  Button PrintButton{*this, IDC_PrintButton};
+  Button PreviewButton{*this, IDC_PreviewButton};
+  Label FindLabel{*this, IDC_FindLabel};
+  TextBox FindBox{*this, IDC_FindBox};
+  Button FindNextButton{*this, IDC_FindNextButton};
+  Button FindPreviousButton{*this, IDC_FindPreviousButton};
+  Label HitLabel{*this, IDC_HitLabel};
+  Surface ReportSurface{*this, IDC_ReportSurface};
+  Label FileLabel{*this, IDC_FileLabel};
+  Label LinesLabel{*this, IDC_LinesLabel};
+  Label ZoomLabel{*this, IDC_ZoomLabel};
 
   void Form_Load() override;
   void ReportSurface_Resize();
@@ -44,7 +45,7 @@ class ViewerForm : public Form {
   bool FindBox_KeyDown(Key key);
   void EscapeKey_Pressed();
 
-  static std::span<const Command> Commands();
+  static std::span<const Command<ViewerForm>> Commands();
   void CopyItem_Click();
   void SelectAllItem_Click();
   void ZoomInItem_Click() { Zoom(1); }
@@ -58,7 +59,6 @@ class ViewerForm : public Form {
   bool HasFile() const { return !file_.empty(); }
   bool HasLines() const { return view_.Text().Count() > 0; }
   bool HasSelection() const { return view_.HasSelection(); }
-  bool Always() const { return true; }
 
   // viewer_form_file.cpp
   void OpenItem_Click();
@@ -83,6 +83,7 @@ class ViewerForm : public Form {
   std::string file_;  // its full name; empty when none is open
   ReportView view_;
   std::size_t zoom_;
+  CommandTable<ViewerForm> commands_{*this, Commands()};
 };
 
 // The file name that a command line gives: what stands in its quotation marks, if it has any.

@@ -20,12 +20,12 @@ FileChoice ChoiceOf(const std::string& file, bool for_writing) {
 // Lets the user choose a name to write, with a type of .TXT unless they give another one; empty when cancelled.
 std::string ChooseNameToWrite(const std::string& report) {
   FileChoice choice = ChoiceOf(report, true);
-  const std::string title = report.substr(report.find_last_of("\\:") + 1);
+  const std::string title = NameWithoutFolder(report);
   choice.Name = title.substr(0, title.rfind('.')) + ".TXT";
   for (;;) {
     std::string name = ChooseFile(choice);
     if (name.empty()) return name;
-    if (name.find('.', name.find_last_of("\\:") + 1) == std::string::npos) name += ".TXT";
+    if (TypeDot(name) == std::string::npos) name += ".TXT";
     if (!Files::Exists(name) || Global::Ask("File already exists.  Overwrite?", Buttons::YesNo)) return name;
   }
 }

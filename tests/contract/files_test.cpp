@@ -3,12 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "contract/error_of.h"
 #include "platform/line_reader.h"
-#include "platform/runtime_error.h"
 #include "support/files.h"
 
 namespace {
@@ -16,362 +15,211 @@ namespace {
 using Files::Mode;
 using namespace std::string_literals;
 
-constexpr int kNoError = 0;
-
-int ErrorOf(const std::function<void()>& act) {
-  try {
-    act();
-    return kNoError;
-  } catch (const RuntimeError& error) {
-    return error.Number;
-  }
-}
-
-int OpenError(const std::string& name, Mode mode) {
-  return ErrorOf([&] {
-    const int handle = Files::FreeHandle();
-    Files::Open(handle, name, mode);
-    Files::Close(handle);
-  });
-}
-
-std::vector<std::string> LinesOf(const std::string& name) {
-  std::vector<std::string> lines;
-  Files::Open(9, name, Mode::Input);
-  while (!Files::AtEnd(9)) {
-    const std::string_view line = Files::ReadLine(9);
-    Files::AtEnd(9);  // asking leaves the line alone, also where the next block is needed for the answer
-    lines.emplace_back(line);
-  }
-  Files::Close(9);
-  return lines;
-}
-
-class FilesContract : public testing::Test {
+class FilesTest : public testing::Test {
  protected:
   void SetUp() override { TestFiles::Start(); }
   void TearDown() override { TestFiles::Finish(); }
 };
 
-struct LineRow {
-  std::string Bytes;
-  std::vector<std::string> Lines;
-};
-
-class FilesLineRows : public FilesContract, public testing::WithParamInterface<LineRow> {};
-
-TEST_P(FilesLineRows, AreReadToTheExactEnd) {
-  TestFiles::Put("LINES.TXT", GetParam().Bytes);
-  EXPECT_EQ(LinesOf("LINES.TXT"), GetParam().Lines);
-}
-
-const std::size_t kBlock = LineReader::kBlockSize;
-
 std::string Xs(std::size_t count) { return std::string(count, 'x'); }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rows, FilesLineRows,
-    testing::Values(LineRow{"", {}}, LineRow{"one", {"one"}}, LineRow{"one\r\ntwo\r\n", {"one", "two"}},
-                    LineRow{"one\ntwo\rthree", {"one", "two", "three"}}, LineRow{"\r\n", {""}},
-                    LineRow{"\n\r", {"", ""}}, LineRow{"\r\r\n\n", {"", "", ""}}, LineRow{"a\r\n\r\nb", {"a", "", "b"}},
-                    LineRow{"\0a\x1A\r\n\x1A"s, {"\0a\x1A"s, "\x1A"}}, LineRow{" a\t\xE9 \n", {" a\t\xE9 "}}));
-
-INSTANTIATE_TEST_SUITE_P(
-    BlockEdges, FilesLineRows,
-    testing::Values(LineRow{Xs(kBlock - 1) + "\r\nb\r\n", {Xs(kBlock - 1), "b"}},
-                    LineRow{Xs(kBlock - 1) + "\r\n", {Xs(kBlock - 1)}},
-                    LineRow{Xs(kBlock - 1) + "\rb", {Xs(kBlock - 1), "b"}},
-                    LineRow{Xs(kBlock - 1) + "\r", {Xs(kBlock - 1)}},
-                    LineRow{Xs(kBlock - 1) + "\r\n\nb", {Xs(kBlock - 1), "", "b"}},
-                    LineRow{Xs(kBlock - 1) + "\r" + Xs(kBlock) + "\nb", {Xs(kBlock - 1), Xs(kBlock), "b"}},
-                    LineRow{Xs(kBlock) + "\r\nb", {Xs(kBlock), "b"}}, LineRow{Xs(kBlock), {Xs(kBlock)}},
-                    LineRow{Xs(kBlock - 2) + "\r\n", {Xs(kBlock - 2)}},
-                    LineRow{"a\r\n" + Xs(3 * kBlock + 7) + "\nb", {"a", Xs(3 * kBlock + 7), "b"}}));
-
-TEST_F(FilesContract, ReadingPastTheEndFailsAndLeavesTheFileOpen) {
-  TestFiles::Put("A.TXT", "only");
-  Files::Open(1, "A.TXT", Mode::Input);
-  EXPECT_FALSE(Files::AtEnd(1));
-  Files::ReadLine(1);
-  EXPECT_TRUE(Files::AtEnd(1));
-  EXPECT_EQ(ErrorOf([&] { Files::ReadLine(1); }), kInputPastEnd);
-  EXPECT_TRUE(Files::IsOpen(1));
+// The lines of a file, each ended by "|".
+std::string LinesOf(const std::string& name) {
+  std::string lines;
+  Files::Open(9, name, Mode::Input);
+  while (!Files::AtEnd(9)) {
+    const std::string_view line = Files::ReadLine(9);
+    Files::AtEnd(9);  // asking leaves the line alone, also where the next block is needed for the answer
+    lines.append(line).append("|");
+  }
+  EXPECT_EQ(ErrorOf([] { Files::ReadLine(9); }), kInputPastEnd);
+  EXPECT_TRUE(Files::IsOpen(9));
+  Files::Close(9);
+  return lines;
 }
 
-TEST_F(FilesContract, AtEndIsTrueBehindALineEndThatIsSplitOverABlockEdge) {
-  TestFiles::Put("A.TXT", Xs(kBlock - 1) + "\r\n");
-  Files::Open(1, "A.TXT", Mode::Input);
-  Files::ReadLine(1);
-  EXPECT_TRUE(Files::AtEnd(1));
+TEST_F(FilesTest, LinesAreReadToTheExactEndAlsoAtTheEdgesOfBlocks) {
+  const std::size_t block = LineReader::kBlockSize;
+  for (const std::string& first :
+       {""s, "\0a\x1A"s, " a\t\xE9 "s, Xs(block - 2), Xs(block - 1), Xs(block), Xs(3 * block + 7)}) {
+    for (const std::string& rest : {""s, "\n"s, "\r"s, "\r\n"s, "\rb"s, "\nb\r"s, "\r\nb"s, "\n\r"s, "\n\r\n"s,
+                                    "\r\r\n\n"s, "\r\n\nb"s, "\r" + Xs(block) + "\nb"}) {
+      const std::string bytes = first + rest;
+      std::string lines;
+      for (std::size_t at = 0; at < bytes.size(); ++at) {
+        if (bytes.substr(at, 2) != "\r\n") lines += bytes[at] == '\r' || bytes[at] == '\n' ? '|' : bytes[at];
+      }
+      if (!lines.empty() && lines.back() != '|') lines += '|';
+      TestFiles::Put("LINES.TXT", bytes);
+      EXPECT_TRUE(LinesOf("LINES.TXT") == lines) << first.size() << rest;
+      EXPECT_TRUE(Files::ReadAll("LINES.TXT") == bytes) << first.size() << rest;
+    }
+  }
 }
 
-TEST_F(FilesContract, FilesAreReadAtTheSameTimeEachFromItsOwnPlace) {
-  TestFiles::Put("A.TXT", "a1\na2\n");
-  TestFiles::Put("B.TXT", "b1\nb2\n");
-  Files::Open(1, "A.TXT", Mode::Input);
-  Files::Open(255, "A.TXT", Mode::Input);
-  Files::Open(3, "B.TXT", Mode::Input);
-  EXPECT_EQ(Files::ReadLine(1), "a1");
-  EXPECT_EQ(Files::ReadLine(1), "a2");
-  EXPECT_EQ(Files::ReadLine(255), "a1");
-  EXPECT_EQ(Files::ReadLine(3), "b1");
-}
-
-TEST_F(FilesContract, WritesBytesAsTheyStandAndReplacesWhatWasThere) {
-  TestFiles::Put("A.TXT", "a former text, longer than the new one");
-  Files::Open(1, "A.TXT", Mode::Output);
-  Files::WriteLine(1, "one\0\x1A\xE9"s);
-  Files::Write(1, "a\nb");
-  Files::Write(1, "");
-  Files::WriteLine(1, "");
-  Files::Close(1);
-  EXPECT_EQ(TestFiles::Get("A.TXT"), "one\0\x1A\xE9\r\na\nb\r\n"s);
-
-  Files::Open(1, "NEW.TXT", Mode::Output);
-  Files::Close(1);
-  EXPECT_EQ(TestFiles::Get("NEW.TXT"), "");
-}
-
-TEST_F(FilesContract, WritesMoreThanAnyBufferHoldsInOrder) {
+TEST_F(FilesTest, BytesAreWrittenAsTheyStandAndReplaceWhatWasThere) {
+  TestFiles::Put("OUT.TXT", Xs(1U << 20));
   std::string expected;
-  Files::Open(1, "BIG.TXT", Mode::Output);
+  Files::Open(1, "OUT.TXT", Mode::Output);
+  EXPECT_EQ(TestFiles::Get("OUT.TXT"), "");
   for (int number = 0; number < 20000; ++number) {
     const std::string text = "line " + std::to_string(number);
     Files::WriteLine(1, text);
     expected += text + "\r\n";
   }
-  Files::Write(1, Xs(3 * kBlock));
-  Files::WriteLine(1, "end");
-  Files::Close(1);
-  EXPECT_TRUE(TestFiles::Get("BIG.TXT") == expected + Xs(3 * kBlock) + "end\r\n");
-}
-
-TEST_F(FilesContract, FlushedBytesAreThereBeforeTheFileIsClosed) {
-  Files::Open(1, "A.TXT", Mode::Output);
-  Files::WriteLine(1, "kept");
+  for (const std::string& text : {"one\0\x1A\xE9"s, "a\nb"s, ""s, Xs(3 * LineReader::kBlockSize), "end"s}) {
+    Files::Write(1, text);
+    expected += text;
+  }
   Files::Flush(1);
-  EXPECT_EQ(TestFiles::Get("A.TXT"), "kept\r\n");
-  Files::WriteLine(1, "more");
+  EXPECT_TRUE(TestFiles::Get("OUT.TXT") == expected);
+  EXPECT_TRUE(Files::ReadAll("OUT.TXT") == expected);
+  Files::WriteLine(1, "");
   Files::Close(1);
-  EXPECT_EQ(TestFiles::Get("A.TXT"), "kept\r\nmore\r\n");
+  EXPECT_TRUE(TestFiles::Get("OUT.TXT") == expected + "\r\n");
 }
 
-TEST_F(FilesContract, HandleNumbersAreTheCallersUntilClosed) {
-  TestFiles::Put("A.TXT", "a");
-  EXPECT_EQ(Files::FreeHandle(), 1);
+TEST_F(FilesTest, HandlesAreTheCallersAndTakeTheCallsOfTheirModeOnly) {
+  TestFiles::Put("A.TXT", "a1\na2\na3");
   Files::Open(1, "A.TXT", Mode::Input);
-  EXPECT_EQ(Files::FreeHandle(), 2);
-  Files::Open(3, "A.TXT", Mode::Input);
-  EXPECT_EQ(Files::FreeHandle(), 2);
-  Files::Open(2, "A.TXT", Mode::Input);
-  EXPECT_EQ(Files::FreeHandle(), 4);
-  Files::Close(1);
-  EXPECT_EQ(Files::FreeHandle(), 1);
-  EXPECT_FALSE(Files::IsOpen(1));
-  EXPECT_TRUE(Files::IsOpen(3));
-  Files::Close(1);
-  Files::CloseAll();
-  EXPECT_FALSE(Files::IsOpen(2) || Files::IsOpen(3));
-}
-
-TEST_F(FilesContract, HandleNumbersThatAreNotOpenOrOutOfRangeAreRefused) {
-  TestFiles::Put("A.TXT", "a");
-  for (const int handle : {-1, 0, 7, 256}) {
-    EXPECT_EQ(ErrorOf([&] { Files::ReadLine(handle); }), kBadFileNumber) << handle;
-    EXPECT_EQ(ErrorOf([&] { Files::AtEnd(handle); }), kBadFileNumber) << handle;
-    EXPECT_EQ(ErrorOf([&] { Files::Write(handle, "x"); }), kBadFileNumber) << handle;
-    EXPECT_EQ(ErrorOf([&] { Files::WriteLine(handle, "x"); }), kBadFileNumber) << handle;
-    EXPECT_EQ(ErrorOf([&] { Files::Flush(handle); }), kBadFileNumber) << handle;
-    EXPECT_FALSE(Files::IsOpen(handle)) << handle;
-    EXPECT_EQ(ErrorOf([&] { Files::Close(handle); }), kNoError) << handle;
-  }
-  for (const int handle : {-1, 0, 256}) {
-    EXPECT_EQ(ErrorOf([&] { Files::Open(handle, "A.TXT", Mode::Input); }), kBadFileNumber) << handle;
-  }
-  Files::Open(5, "A.TXT", Mode::Input);
-  EXPECT_EQ(ErrorOf([&] { Files::Open(5, "A.TXT", Mode::Output); }), kBadFileNumber);
-  EXPECT_EQ(TestFiles::Get("A.TXT"), "a");
-}
-
-TEST_F(FilesContract, EachModeAllowsItsOwnCallsOnly) {
-  TestFiles::Put("IN.TXT", "a");
-  TestFiles::Put("LOCK.TXT", "a");
-  Files::Open(1, "IN.TXT", Mode::Input);
+  Files::Open(255, "A.TXT", Mode::Input);
   Files::Open(2, "OUT.TXT", Mode::Output);
-  Files::Open(3, "LOCK.TXT", Mode::Lock);
-  EXPECT_EQ(ErrorOf([] { Files::Write(1, "x"); }), kBadFileNumber);
-  EXPECT_EQ(ErrorOf([&] { Files::ReadLine(2); }), kBadFileNumber);
-  EXPECT_EQ(ErrorOf([] { Files::AtEnd(2); }), kBadFileNumber);
-  EXPECT_EQ(ErrorOf([] { Files::Write(3, "x"); }), kBadFileNumber);
-  EXPECT_EQ(ErrorOf([&] { Files::ReadLine(3); }), kBadFileNumber);
-  Files::CloseAll();
-  EXPECT_EQ(TestFiles::Get("LOCK.TXT"), "a");
-}
-
-TEST_F(FilesContract, OpeningSaysWhyItFails) {
-  TestFiles::Put("RO.TXT", "kept");
-  TestFiles::SetReadOnly("RO.TXT", true);
-  TestFiles::MakeFolder("FOLDER");
-  for (const Mode mode : {Mode::Input, Mode::Output, Mode::Lock}) {
-    SCOPED_TRACE(static_cast<int>(mode));
-    EXPECT_EQ(OpenError("NONE\\A.TXT", mode), kPathNotFound);
-    EXPECT_EQ(OpenError("RO.TXT\\A.TXT", mode), kPathNotFound);
-    EXPECT_EQ(OpenError("FOLDER", mode), kPathFileAccess);
-    EXPECT_EQ(OpenError("", mode), kPathFileAccess);
-    EXPECT_EQ(OpenError(" ", mode), kPathFileAccess);
-    for (const std::string name : {"A*.TXT", "A?.TXT", "A|B", "A<B", "A>B", "A\"B", "NUL", "nul.txt"}) {
-      EXPECT_EQ(OpenError(name, mode), kBadFileNumber) << name;
-    }
-    EXPECT_EQ(OpenError("RO.TXT\0X"s, mode), kBadFileNumber);
+  EXPECT_EQ(Files::FreeHandle(), 3);
+  Files::Open(4, "A.TXT", Mode::Lock);
+  std::string read;
+  for (const int handle : {1, 1, 255}) read += Files::ReadLine(handle);
+  EXPECT_EQ(read, "a1a2a1");
+  for (const int handle : {-1, 0, 1, 2, 4, 7, 255, 256}) {
+    SCOPED_TRACE(handle);
+    const int reads = handle == 1 || handle == 255 ? 0 : kBadFileNumber, writes = handle == 2 ? 0 : kBadFileNumber;
+    EXPECT_EQ(ErrorOf([&] { Files::AtEnd(handle); }), reads);
+    EXPECT_EQ(ErrorOf([&] { Files::ReadLine(handle); }), reads);
+    EXPECT_EQ(ErrorOf([&] { Files::Write(handle, "x"); }), writes);
+    EXPECT_EQ(ErrorOf([&] { Files::WriteLine(handle, "x"); }), writes);
+    EXPECT_EQ(ErrorOf([&] { Files::Flush(handle); }), writes);
+    EXPECT_EQ(Files::IsOpen(handle), handle == 4 || reads == 0 || writes == 0);
+    EXPECT_EQ(ErrorOf([&] { Files::Open(handle, "A.TXT", Mode::Input); }), handle == 7 ? 0 : kBadFileNumber);
   }
-  EXPECT_EQ(OpenError("NONE.TXT", Mode::Input), kFileNotFound);
-  EXPECT_EQ(OpenError("NONE.TXT", Mode::Lock), kFileNotFound);
-  EXPECT_EQ(OpenError("RO.TXT", Mode::Input), kNoError);
-  EXPECT_EQ(OpenError("RO.TXT", Mode::Output), kPathFileAccess);
-  EXPECT_EQ(OpenError("RO.TXT", Mode::Lock), kPathFileAccess);
-  EXPECT_EQ(TestFiles::Get("RO.TXT"), "kept");
-  EXPECT_EQ(TestFiles::List(), std::vector<std::string>{"RO.TXT"});
+  for (const int handle : {-1, 0, 1, 1, 256}) Files::Close(handle);
   EXPECT_EQ(Files::FreeHandle(), 1);
+  Files::CloseAll();
+  for (const int handle : {1, 2, 4, 7, 255}) EXPECT_FALSE(Files::IsOpen(handle)) << handle;
+  EXPECT_EQ(*TestFiles::Get("A.TXT") + *TestFiles::Get("OUT.TXT"), "a1\na2\na3xx\r\n");
 }
 
-TEST_F(FilesContract, NamesAreTakenAsTheSystemTakesThem) {
-  TestFiles::MakeFolder("SUB");
-  Files::Open(1, "SUB\\\\File.Txt", Mode::Output);
-  Files::WriteLine(1, "here");
-  Files::Close(1);
-  for (const std::string& name : {TestFiles::Folder() + "\\SUB\\File.Txt", TestFiles::Folder() + "\\\\SUB\\\\file.txt",
-                                  "SUB\\FILE.TXT"s, ".\\sub\\.\\File.Txt"s, "SUB\\..\\SUB/File.Txt"s, "SUB\\File.Txt "s,
-                                  "SUB\\File.Txt."s, TestFiles::Folder().substr(2) + "\\SUB\\File.Txt"}) {
-    EXPECT_TRUE(Files::Exists(name)) << name;
-    EXPECT_EQ(LinesOf(name), std::vector<std::string>{"here"}) << name;
-  }
-  TestFiles::Put("Mixed.Txt", "");
-  Files::Open(1, "MIXED.TXT", Mode::Output);
-  Files::Close(1);
-  EXPECT_EQ(TestFiles::List(), std::vector<std::string>{"Mixed.Txt"});
-}
-
-TEST_F(FilesContract, ALockLetsOthersReadOnly) {
-  TestFiles::Put("A.TXT", "kept\n");
-  Files::Open(1, "A.TXT", Mode::Lock);
-  EXPECT_EQ(LinesOf("A.TXT"), std::vector<std::string>{"kept"});
-  EXPECT_EQ(OpenError("A.TXT", Mode::Lock), kPermissionDenied);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Output), kPermissionDenied);
-  EXPECT_EQ(ErrorOf([] { Files::Erase("A.TXT"); }), kPermissionDenied);
-  EXPECT_EQ(ErrorOf([] { Files::Rename("A.TXT", "B.TXT"); }), kPermissionDenied);
-  EXPECT_TRUE(Files::Exists("A.TXT"));
-  EXPECT_EQ(TestFiles::Get("A.TXT"), "kept\n");
-  Files::Close(1);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Output), kNoError);
-}
-
-TEST_F(FilesContract, AnOutputFileIsReadButNotWrittenByOthers) {
-  Files::Open(1, "A.TXT", Mode::Output);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Input), kNoError);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Output), kPermissionDenied);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Lock), kPermissionDenied);
-}
-
-TEST_F(FilesContract, AReaderKeepsNobodyFromWritingButFromErasing) {
-  TestFiles::Put("A.TXT", "a");
-  Files::Open(1, "A.TXT", Mode::Input);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Lock), kNoError);
-  EXPECT_EQ(ErrorOf([] { Files::Erase("A.TXT"); }), kPermissionDenied);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Output), kNoError);
-}
-
-TEST_F(FilesContract, WhatAnotherProgramHoldsIsRefusedUntilReleased) {
-  TestFiles::Put("A.TXT", "a");
-  TestFiles::HoldByOther("A.TXT", false);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Input), kNoError);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Lock), kPermissionDenied);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Output), kPermissionDenied);
-  TestFiles::ReleaseByOther();
-  TestFiles::HoldByOther("A.TXT", true);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Input), kPermissionDenied);
-  EXPECT_EQ(OpenError("A.TXT", Mode::Lock), kPermissionDenied);
-  EXPECT_EQ(ErrorOf([] { Files::Erase("A.TXT"); }), kPermissionDenied);
-  EXPECT_TRUE(Files::Exists("A.TXT"));
-  TestFiles::ReleaseByOther();
-  EXPECT_EQ(OpenError("A.TXT", Mode::Lock), kNoError);
-  EXPECT_EQ(TestFiles::Get("A.TXT"), "a");
-}
-
-TEST_F(FilesContract, ErasesFilesOnly) {
-  TestFiles::Put("A.TXT", "a");
-  TestFiles::Put("RO.TXT", "a");
-  TestFiles::SetReadOnly("RO.TXT", true);
+// The folder that each act starts from: two files are another program's, the last three our own.
+void Furnish() {
+  TestFiles::Finish();
+  TestFiles::Start();
   TestFiles::MakeFolder("FOLDER");
-  Files::Erase("a.txt");
-  EXPECT_EQ(TestFiles::List(), std::vector<std::string>{"RO.TXT"});
-  EXPECT_EQ(ErrorOf([] { Files::Erase("A.TXT"); }), kFileNotFound);
-  EXPECT_EQ(ErrorOf([] { Files::Erase("NONE\\A.TXT"); }), kPathNotFound);
-  EXPECT_EQ(ErrorOf([] { Files::Erase("RO.TXT"); }), kPathFileAccess);
-  EXPECT_EQ(ErrorOf([] { Files::Erase("FOLDER"); }), kPathFileAccess);
-  EXPECT_EQ(ErrorOf([] { Files::Erase(""); }), kPathFileAccess);
-  EXPECT_EQ(ErrorOf([] { Files::Erase("*.TXT"); }), kBadFileNumber);
-  EXPECT_EQ(TestFiles::Get("RO.TXT"), "a");
-}
-
-TEST_F(FilesContract, RenamesToAFreeNameOnly) {
-  TestFiles::Put("A.TXT", "a");
-  TestFiles::Put("B.TXT", "b");
-  TestFiles::MakeFolder("FOLDER");
-  EXPECT_EQ(ErrorOf([] { Files::Rename("A.TXT", "B.TXT"); }), kFileAlreadyExists);
-  EXPECT_EQ(ErrorOf([] { Files::Rename("A.TXT", "FOLDER"); }), kFileAlreadyExists);
-  EXPECT_EQ(ErrorOf([] { Files::Rename("C.TXT", "D.TXT"); }), kFileNotFound);
-  EXPECT_EQ(ErrorOf([] { Files::Rename("NONE\\A.TXT", "D.TXT"); }), kPathNotFound);
-  EXPECT_EQ(ErrorOf([] { Files::Rename("A.TXT", "NONE\\D.TXT"); }), kPathNotFound);
-  EXPECT_EQ(ErrorOf([] { Files::Rename("A.TXT", "D*.TXT"); }), kBadFileNumber);
-  EXPECT_EQ(ErrorOf([] { Files::Rename("A.TXT", ""); }), kPathFileAccess);
-  EXPECT_EQ(ErrorOf([] { Files::Rename("FOLDER", "OTHER"); }), kPathFileAccess);
-  EXPECT_EQ(TestFiles::Get("A.TXT"), "a");
-  EXPECT_EQ(TestFiles::Get("B.TXT"), "b");
-
-  Files::Rename("A.TXT", "FOLDER\\Moved.txt");
-  EXPECT_EQ(TestFiles::Get("FOLDER\\Moved.txt"), "a");
-  Files::Rename("B.TXT", "b.txt");
-  EXPECT_EQ(TestFiles::Get("B.TXT"), "b");
-}
-
-TEST_F(FilesContract, ReadOnlyFilesAreRenamed) {
-  TestFiles::Put("RO.TXT", "a");
-  TestFiles::SetReadOnly("RO.TXT", true);
-  Files::Rename("RO.TXT", "RO.BAK");
-  EXPECT_EQ(TestFiles::Get("RO.BAK"), "a");
-  EXPECT_EQ(ErrorOf([] { Files::Erase("RO.BAK"); }), kPathFileAccess);
-}
-
-TEST_F(FilesContract, ExistsForFilesOnly) {
-  TestFiles::Put("A.TXT", "");
-  TestFiles::MakeFolder("FOLDER");
-  EXPECT_TRUE(Files::Exists("A.TXT"));
-  EXPECT_TRUE(Files::Exists("a.txt"));
-  EXPECT_TRUE(Files::Exists(TestFiles::Folder() + "\\A.TXT"));
-  for (const std::string& name :
-       {"B.TXT"s, "NONE\\A.TXT"s, "FOLDER"s, "FOLDER\\"s, ""s, " "s, "*.TXT"s, "A?TXT"s, "NUL"s, "A.TXT\0"s, "C:\\"s}) {
-    EXPECT_FALSE(Files::Exists(name)) << name;
-  }
-}
-
-TEST_F(FilesContract, ReadAllTakesEveryByteAndHoldsNothing) {
-  const std::string bytes = "a\r\n\0b\x1A"s + Xs(3 * kBlock);
-  TestFiles::Put("ALL.BIN", bytes);
-  EXPECT_TRUE(Files::ReadAll("ALL.BIN") == bytes);
-  Files::Open(2, "ALL.BIN", Mode::Output);
-  Files::Write(2, "half");
-  Files::Flush(2);
-  EXPECT_EQ(Files::ReadAll("ALL.BIN"), "half");  // while it is being written
-  Files::Close(2);
-  Files::Erase("ALL.BIN");
-  TestFiles::Put("EMPTY", "");
-  TestFiles::MakeFolder("FOLDER");
-  TestFiles::Put("HELD", "x");
+  for (const char* name : {"A.TXT", "RO", "HELD", "LOCKED", "READ", "LOCK"}) TestFiles::Put(name, name);
+  TestFiles::SetReadOnly("RO", true);
   TestFiles::HoldByOther("HELD", true);
-  EXPECT_EQ(Files::ReadAll("EMPTY"), "");
-  EXPECT_EQ(ErrorOf([] { Files::ReadAll("ALL.BIN"); }), kFileNotFound);
-  EXPECT_EQ(ErrorOf([] { Files::ReadAll("FOLDER"); }), kPathFileAccess);
-  EXPECT_EQ(ErrorOf([] { Files::ReadAll("HELD"); }), kPermissionDenied);
+  TestFiles::HoldByOther("LOCKED", false);
+  Files::Open(1, "READ", Mode::Input);
+  Files::Open(2, "LOCK", Mode::Lock);
+  Files::Open(3, "WRITTEN", Mode::Output);
+}
+
+// Every file of the folder and what is in it.
+std::string Contents() {
+  std::string contents;
+  for (const std::string& name : TestFiles::List()) contents += name + "<" + TestFiles::Get(name).value_or("?") + "> ";
+  return contents;
+}
+
+TEST_F(FilesTest, FailuresHaveTheirNumberAndChangeNothing) {
+  const std::function<void(const std::string&)> verbs[] = {
+      [](const std::string& name) { Files::Open(9, name, Mode::Input); },
+      Files::ReadAll,
+      [](const std::string& name) { Files::Open(9, name, Mode::Output); },
+      [](const std::string& name) { Files::Open(9, name, Mode::Lock); },
+      Files::Erase,
+      [](const std::string& name) { Files::Rename("A.TXT", name); },
+      [](const std::string& name) { Files::Rename(name, "NEW.TXT"); },
+      [](const std::string& name) { Files::Replace("A.TXT", name); },
+  };
+  constexpr int kUntried = -1;  // what is in use is tried to be renamed for seconds: once is enough
+  const struct {
+    std::vector<std::string> Names;
+    bool Exist;
+    int Numbers[std::size(verbs)];  // of the verbs; 0 where there is no failure
+  } rows[] = {
+      {{"A.TXT", "a.txt"}, true, {0, 0, 0, 0, 0, 0, 0, 0}},
+      {{"RO"}, true, {0, 0, 75, 75, 75, 58, 0, 75}},
+      {{"NONE"}, false, {53, 53, 0, 53, 53, 0, 53, 0}},
+      {{"NONE\\A.TXT", "RO\\A.TXT"}, false, {76, 76, 76, 76, 76, 76, 76, 76}},
+      {{"FOLDER"}, false, {75, 75, 75, 75, 75, 58, 75, 75}},
+      {{"", " "}, false, {75, 75, 75, 75, 75, 75, 75, 75}},
+      {{"A*", "A?", "A|B", "A<B", "A>B", "A\"B", "NUL", "nul.txt", "A.TXT\0X"s},
+       false,
+       {52, 52, 52, 52, 52, 52, 52, 52}},
+      {{"HELD"}, true, {70, 70, 70, 70, 70, 58, kUntried, kUntried}},
+      {{"LOCKED", "WRITTEN"}, true, {0, 0, 70, 70, 70, 58, kUntried, kUntried}},
+      {{"READ"}, true, {0, 0, 0, 0, 70, 58, kUntried, kUntried}},
+      {{"LOCK"}, true, {0, 0, 70, 70, 70, 58, 70, kUntried}},
+  };
+  Furnish();
+  const std::string before = Contents();
+  for (const auto& row : rows) {
+    for (const std::string& name : row.Names) {
+      for (std::size_t verb = 0; verb < std::size(verbs); ++verb) {
+        if (row.Numbers[verb] == kUntried) continue;
+        EXPECT_EQ(ErrorOf([&] { verbs[verb](name); }), row.Numbers[verb]) << name << ", verb " << verb;
+        const bool done = row.Numbers[verb] == 0;
+        EXPECT_TRUE(done || Contents() == before) << name << ", verb " << verb;
+        EXPECT_EQ(Files::Exists(name), done ? verb != 4 && verb != 6 : row.Exist) << name << ", verb " << verb;
+        if (done) Furnish();
+      }
+    }
+  }
+  // Closed and released, files are anybody's again.
+  Files::CloseAll();
+  TestFiles::ReleaseByOther();
+  for (const std::string& name : TestFiles::List()) {
+    EXPECT_EQ(ErrorOf([&] { Files::Erase(name); }), name == "RO" ? kPathFileAccess : 0) << name;
+  }
+}
+
+TEST_F(FilesTest, AnOwnedFileIsClosedOnEveryWayOut) {
+  const auto write = [](bool finish) {
+    Files::OpenFile file(1, "OUT.TXT", Mode::Output);
+    Files::Write(1, finish ? "new" : "old");
+    if (finish) file.Finish();
+    EXPECT_EQ(Files::IsOpen(1), !finish);
+  };
+  write(false);
+  EXPECT_FALSE(Files::IsOpen(1));
+  EXPECT_EQ(TestFiles::Get("OUT.TXT"), "old");
+  write(true);
+  EXPECT_EQ(TestFiles::Get("OUT.TXT"), "new");
+}
+
+TEST_F(FilesTest, TheTimeOfAFileIsThatOfItsLastChange) {
+  TestFiles::Put("OLD.TXT", "");
+  TestFiles::Put("NEW.TXT", "");
+  const auto old_time = Files::ChangedAt("OLD.TXT"), new_time = Files::ChangedAt("NEW.TXT");
+  EXPECT_TRUE(0 < old_time && old_time <= new_time);
+  EXPECT_EQ(Files::ChangedAt("NONE.TXT"), 0U);
+  Files::Replace("NEW.TXT", "OLD.TXT");
+  EXPECT_EQ(Files::ChangedAt("OLD.TXT"), new_time);
+}
+
+TEST_F(FilesTest, NamesAreTakenAsTheSystemTakesThem) {
+  TestFiles::MakeFolder("SUB");
+  TestFiles::Put("Mixed.Txt", "here");
+  Files::Rename("MIXED.TXT", "Other.txt");
+  Files::Rename("OTHER.TXT", "Mixed.Txt");
+  EXPECT_EQ(TestFiles::List(), std::vector<std::string>{"Mixed.Txt"});
+  Files::Rename("MIXED.TXT", "SUB\\\\File.Txt");
+  const std::string folder = TestFiles::Folder();
+  for (const std::string& name :
+       {folder + "\\SUB\\File.Txt", folder + "\\\\SUB\\\\file.txt", folder.substr(2) + "\\SUB\\File.Txt"s,
+        "SUB\\FILE.TXT"s, ".\\sub\\.\\File.Txt"s, "SUB\\..\\SUB/File.Txt"s, "SUB\\File.Txt "s, "SUB\\File.Txt."s}) {
+    EXPECT_TRUE(Files::Exists(name)) << name;
+    EXPECT_EQ(LinesOf(name), "here|") << name;
+  }
+  for (const char* name : {"SUB\\", "C:\\"}) EXPECT_FALSE(Files::Exists(name)) << name;
 }
 
 }  // namespace

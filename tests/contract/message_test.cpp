@@ -1,112 +1,56 @@
-// What message and input boxes promise, and that a person's queue of expectations sees what comes.
+// What message and input boxes promise, and that a test's person notices what nobody expected.
 #include "platform/message.h"
 
 #include <gtest/gtest-spi.h>
-#include <gtest/gtest.h>
 
 #include "contract/test_form.h"
 #include "support/expectations.h"
-#include "support/user.h"
 
 namespace {
 
-class MessageTest : public testing::Test {
- protected:
-  User user;
-};
+using MessageTest = FormTest;
 
-TEST_F(MessageTest, EveryButtonAnswers) {
-  const struct {
-    Buttons Offer;
-    Answer Press;
-  } rows[] = {{Buttons::Ok, Answer::Ok},
-              {Buttons::OkCancel, Answer::Ok},
-              {Buttons::OkCancel, Answer::Cancel},
-              {Buttons::YesNo, Answer::Yes},
-              {Buttons::YesNo, Answer::No}};
-  for (const auto& row : rows) {
+TEST_F(MessageTest, BoxesShowTheirTextAsItStandsAndAnswerWithTheButton) {
+  const std::pair<Buttons, Answer> rows[] = {{Buttons::Ok, Answer::Ok},
+                                             {Buttons::OkCancel, Answer::Ok},
+                                             {Buttons::OkCancel, Answer::Cancel},
+                                             {Buttons::YesNo, Answer::Yes},
+                                             {Buttons::YesNo, Answer::No}};
+  for (const auto& [buttons, answer] : rows) {
     for (const Icon icon : {Icon::None, Icon::Information, Icon::Exclamation, Icon::Critical}) {
-      user.Answers("Really?", row.Press, icon, row.Offer);
-      EXPECT_EQ(MsgBox("Really?", "Larkspur", row.Offer, icon), row.Press);
-      EXPECT_EQ(Expected().LastCaption, "Larkspur");
+      for (const std::string text : {"Two lines,\r\none of them caf\xE9.", "Fish & Chips && more", "100%s <<x>>"}) {
+        user.Answers(text, answer, icon, buttons);
+        EXPECT_EQ(MsgBox(text, "Caption & caf\xE9", buttons, icon), answer);
+        EXPECT_EQ(Expected().LastCaption, "Caption & caf\xE9");
+      }
     }
+  }
+  for (const std::string text : {"  caf\xE9 & b  ", "x", ""}) {
+    user.AnswersInput("Name of\r\nthe thing & all:", text);
+    EXPECT_EQ(InputBox("Name of\r\nthe thing & all:", "Caption", "offered " + text), text);
+    EXPECT_EQ(Expected().LastOffered + Expected().LastCaption, "offered " + text + "Caption");
   }
 }
 
-TEST_F(MessageTest, TextIsShownAsItStands) {
-  for (const std::string text : {"Two lines,\r\none of them caf\xE9.", "Fish & Chips && more", "100%s <<x>>"}) {
-    user.Reads(text, Icon::None);
-    MsgBox(text, "Caption & caf\xE9");
-    EXPECT_EQ(Expected().LastCaption, "Caption & caf\xE9");
-  }
-}
-
-TEST_F(MessageTest, BoxesStandAboveAForm) {
-  TestForm form;
-  form.FirstButton.Click = [&] {
-    if (MsgBox("Rename?", "Larkspur", Buttons::YesNo) == Answer::Yes) {
-      form.HintLabel.SetText(InputBox("New name:", "Larkspur", "old"));
-    }
+TEST_F(MessageTest, WhatNobodyExpectedFailsTheTest) {
+  const std::pair<Event, const char*> rows[] = {
+      {[&] { EXPECT_EQ(MsgBox("all\r\nis lost", "T", Buttons::OkCancel), Answer::Cancel); }, "all\r\nis lost"},
+      {[&] { EXPECT_EQ(MsgBox("sure?", "T", Buttons::YesNo), Answer::No); }, "sure?"},
+      {[&] { EXPECT_EQ(InputBox("name:", "T", "offered"), ""); }, "name:"},
+      {[&] { user.Reads("words", Icon::None), MsgBox("others", "T"); }, "words"},
+      {[&] { user.Reads("text", Icon::Critical), MsgBox("text", "T"); }, "critical"},
+      {[&] { user.Answers("text", Answer::Ok, Icon::None, Buttons::OkCancel), MsgBox("text", "T"); }, "Cancel"},
+      {[&] { user.Answers("text", Answer::Yes, Icon::None, Buttons::Ok), MsgBox("text", "T"); }, "Yes"},
+      {[&] { user.Reads("never", Icon::None), Expected().Finish(); }, "never"},
+      {[&] { form.ShowModal(); }, "5000"},
+      {[&] { user.UsesForm(IDD_TestForm, [] {}), form.ShowModal(); }, "5000"},
+      {[&] { Use([&] { form.LineBox.SetVisible(false), user.Types(IDC_LineBox, "x"); }); }, "5012"},
+      {[&] { Use([&] { form.FirstButton.SetEnabled(false), user.Clicks(IDC_FirstButton); }); }, "5014"},
+      {[&] { Use([&] { form.SetMenuEnabled(IDC_GreyItem, false), user.ChoosesMenu(IDC_GreyItem); }); }, "5042"},
+      {[&] { Use([&] { user.Picks(IDC_EntryList, "none"); }); }, "none"},
+      {[&] { Use([&] { user.Ticks(IDC_TickList, "none"); }); }, "none"},
   };
-  user.UsesForm(IDD_TestForm, [&] {
-    user.Answers("Rename?", Answer::Yes, Icon::None, Buttons::YesNo);
-    user.AnswersInput("New name:", "new");
-    form.Came();
-    user.Clicks(IDC_FirstButton);
-    EXPECT_EQ(form.Came(), (Events{"Activate", "Activate"}));
-    EXPECT_TRUE(Expected().Empty());
-    EXPECT_EQ(user.Sees(IDC_HintLabel), "new");
-    EXPECT_TRUE(user.SeesFocusOn(IDC_FirstButton));
-    user.Clicks(IDC_OKButton);
-  });
-  form.ShowModal();
-}
-
-TEST_F(MessageTest, InputComesBackAsTyped) {
-  user.AnswersInput("Name of\r\nthe thing & all:", "  caf\xE9 & b  ");
-  EXPECT_EQ(InputBox("Name of\r\nthe thing & all:", "Larkspur", "offered \xE9"), "  caf\xE9 & b  ");
-  EXPECT_EQ(Expected().LastOffered, "offered \xE9");
-  EXPECT_EQ(Expected().LastCaption, "Larkspur");
-  user.AnswersInput("Name:", "");
-  EXPECT_EQ(InputBox("Name:", "Larkspur", "offered"), "");
-  user.AnswersInput("Name:", "x");
-  EXPECT_EQ(InputBox("Name:", "Larkspur"), "x");
-  EXPECT_EQ(Expected().LastOffered, "");
-}
-
-TEST_F(MessageTest, UnexpectedBoxesFailWithTheirTextAndAreClosed) {
-  Answer answer = Answer::Ok;
-  EXPECT_NONFATAL_FAILURE(answer = MsgBox("Oh dear,\r\nall is lost", "T", Buttons::OkCancel),
-                          "Oh dear,\r\nall is lost");
-  EXPECT_EQ(answer, Answer::Cancel);
-  EXPECT_NONFATAL_FAILURE(answer = MsgBox("Sure?", "T", Buttons::YesNo), "Sure?");
-  EXPECT_EQ(answer, Answer::No);
-  EXPECT_NONFATAL_FAILURE(answer = MsgBox("Done", "T"), "Done");
-  EXPECT_EQ(answer, Answer::Ok);
-  std::string typed = "x";
-  EXPECT_NONFATAL_FAILURE(typed = InputBox("Name:", "T", "offered"), "Name:");
-  EXPECT_EQ(typed, "");
-}
-
-TEST_F(MessageTest, WrongWordsIconAndButtonsFail) {
-  user.Reads("expected words", Icon::None);
-  EXPECT_NONFATAL_FAILURE(MsgBox("other words", "T"), "expected words");
-  user.Reads("text", Icon::Critical);
-  EXPECT_NONFATAL_FAILURE(MsgBox("text", "T", Buttons::Ok, Icon::Information), "critical");
-  user.Answers("text", Answer::Ok, Icon::None, Buttons::OkCancel);
-  EXPECT_NONFATAL_FAILURE(MsgBox("text", "T"), "OK/Cancel");
-  user.Answers("text", Answer::Yes, Icon::None, Buttons::Ok);
-  EXPECT_NONFATAL_FAILURE(MsgBox("text", "T"), "has no button Yes");
-  user.AnswersInput("prompt", "x");
-  EXPECT_NONFATAL_FAILURE(MsgBox("text", "T"), "an input box \"prompt\"");
-  EXPECT_EQ(InputBox("prompt", "T"), "x");
-}
-
-TEST_F(MessageTest, ExpectationsThatNeverCameFail) {
-  user.Reads("never shown", Icon::None);
-  EXPECT_NONFATAL_FAILURE(Expected().Finish(), "never came: a message box (OK, no icon) \"never shown\"");
-  user.UsesForm(IDD_BareForm, [] {});
-  EXPECT_NONFATAL_FAILURE(Expected().Finish(), "never came: form 5001");
+  for (const auto& [act, words] : rows) EXPECT_NONFATAL_FAILURE(act(), words);
 }
 
 }  // namespace

@@ -1,163 +1,104 @@
 // What surface.h and clipboard.h promise, in memory and on real windows alike.
 #include "platform/surface.h"
 
-#include <gtest/gtest.h>
-
 #include "contract/test_form.h"
 #include "platform/clipboard.h"
-#include "platform/controls.h"
-#include "platform/runtime_error.h"
-#include "support/user.h"
 
 namespace {
 
 using Bar = Surface::Bar;
 
-class SurfaceForm : public LoggingForm {
- public:
-  SurfaceForm() : LoggingForm(IDD_SurfaceForm) {
-    const auto number = [](int value) { return std::to_string(value); };
-    TextSurface.Scroll = [this, number](Bar bar, int position) {
-      Log.push_back((bar == Bar::Down ? "down " : "across ") + number(position));
-    };
-    TextSurface.KeyDown = [this, number](const KeyPress& key) {
-      Log.push_back("key " + number(static_cast<int>(key.What)) + (key.Shift ? " shift" : "") +
-                    (key.Control ? " control" : ""));
-    };
-    TextSurface.Mouse = [this, number](const MousePress& press) {
-      const char* const names[] = {"press ", "drag ", "double "};
-      Log.push_back(names[static_cast<int>(press.What)] + number(press.At.Column) + "," + number(press.At.Row) +
-                    (press.Shift ? " shift" : ""));
-    };
-    TextSurface.Wheel = [this, number](const WheelTurn& turn) {
-      Log.push_back("wheel " + number(turn.Cells) + (turn.Across ? " across" : "") + (turn.Control ? " control" : ""));
-    };
-    TextSurface.CopyKey = Logs("copy");
-    TextSurface.SelectAllKey = Logs("all");
-    TextSurface.Resize = Logs("resize");
-    CancelButton.Click = [this] { Close(); };
-    LogFocusOf(TextSurface, "TextSurface");
-  }
+template <typename... Numbers>
+void LogNumbers(std::string event, Numbers... numbers) {
+  ((event += " " + std::to_string(numbers)), ...);
+  Log(event);
+}
 
-  TextBox SideBox{*this, IDC_SideBox};
-  Surface TextSurface{*this, IDC_TextSurface};
-  Button CancelButton{*this, IDC_CancelButton};
-};
-
-class SurfaceTest : public testing::Test {
+class SurfaceTest : public FormTest {
  protected:
-  void Use(const std::function<void()>& acts) {
-    user.UsesForm(IDD_SurfaceForm, [this, acts] {
-      form.Came();
-      acts();
-      user.Clicks(IDC_CancelButton);
-    });
-    form.ShowModal();
+  SurfaceTest() {
+    surface.Scroll = [](Bar bar, int position) { LogNumbers(bar == Bar::Down ? "down" : "across", position); };
+    surface.KeyDown = [](const KeyPress& key) {
+      LogNumbers("key", static_cast<int>(key.What), key.Shift, key.Control);
+    };
+    surface.Mouse = [](const MousePress& press) {
+      LogNumbers("mouse", static_cast<int>(press.What), press.At.Column, press.At.Row, press.Shift);
+    };
+    surface.Wheel = [](const WheelTurn& turn) { LogNumbers("wheel", turn.Cells, turn.Across, turn.Control); };
+    surface.CopyKey = [] { Log("copy"); };
+    surface.SelectAllKey = [] { Log("all"); };
+    surface.Resize = [] { Log("resize"); };
+    bare.Show();
   }
 
-  SurfaceForm form;
-  User user;
+  Surface& surface = bare.TextSurface;
 };
 
 TEST_F(SurfaceTest, ShowsThePageItWasGivenLastAndRoomFollowsTheTextSize) {
   Page page;
   page.Runs = {{{2, 1}, "text", Ink::Hit}};
   page.HeadRows = 1;
-  form.TextSurface.Show(page);
-  Use([&] {
-    EXPECT_EQ(user.SeesPage(IDC_TextSurface).Runs.at(0).Text, "text");
-    EXPECT_EQ(user.SeesPage(IDC_TextSurface).HeadRows, 1);
-    EXPECT_EQ(form.TextSurface.TextSize(), 10);
-    const int columns = form.TextSurface.Columns(), rows = form.TextSurface.Rows();
-    EXPECT_GE(columns, 10);
-    EXPECT_GE(rows, 3);
-    form.TextSurface.SetTextSize(20);
-    EXPECT_NEAR(form.TextSurface.Columns(), columns / 2, 2);
-    EXPECT_NEAR(form.TextSurface.Rows(), rows / 2, 1);
-    form.TextSurface.SetTextSize(4000);
-    EXPECT_EQ(form.TextSurface.Columns(), 1);
-    EXPECT_EQ(form.TextSurface.Rows(), 1);
-    form.TextSurface.ShowOnPaper(Page(), Sheet());
-    EXPECT_TRUE(user.SeesPage(IDC_TextSurface).Runs.empty());
-    EXPECT_EQ(form.Came(), Events{});
-  });
+  surface.Show(page);
+  EXPECT_EQ(user.SeesPage(IDC_TextSurface).Runs.at(0).Text, "text");
+  EXPECT_EQ(user.SeesPage(IDC_TextSurface).HeadRows, 1);
+  EXPECT_EQ(surface.TextSize(), 10);
+  const int columns = surface.Columns(), rows = surface.Rows();
+  EXPECT_GE(columns, 10);
+  EXPECT_GE(rows, 3);
+  Does([&] { surface.SetTextSize(20); }, "");
+  EXPECT_NEAR(surface.Columns(), columns / 2, 2);
+  EXPECT_NEAR(surface.Rows(), rows / 2, 1);
+  surface.SetTextSize(4000);
+  EXPECT_EQ(surface.Columns() + surface.Rows(), 1 + 1);
+  surface.ShowOnPaper(Page(), Sheet());
+  EXPECT_TRUE(user.SeesPage(IDC_TextSurface).Runs.empty());
 }
 
 TEST_F(SurfaceTest, ScrollBarsMoveByTheProgramOnlyAndAskFirst) {
-  Use([&] {
-    form.TextSurface.SetScroll(Bar::Down, 100, 11, 20);
-    form.TextSurface.SetScroll(Bar::Across, 50, 50, 0);
-    EXPECT_EQ(form.Came(), Events{});
-    EXPECT_EQ(user.SeesBar(IDC_TextSurface, Bar::Down), 20);
-    EXPECT_EQ(user.SeesBar(IDC_TextSurface, Bar::Across), -1);
-    user.PagesBar(IDC_TextSurface, Bar::Down, 1);
-    EXPECT_EQ(user.SeesBar(IDC_TextSurface, Bar::Down), 20);
-    form.TextSurface.SetScroll(Bar::Down, 100, 11, 85);
-    user.PagesBar(IDC_TextSurface, Bar::Down, 1);
-    form.TextSurface.SetScroll(Bar::Down, 100, 11, 89);
-    user.PagesBar(IDC_TextSurface, Bar::Down, 1);  // at the end already
-    EXPECT_EQ(form.Came(), (Events{"down 30", "down 89"}));
-    form.TextSurface.SetScroll(Bar::Down, 100, 11, 1000);
-    EXPECT_EQ(user.SeesBar(IDC_TextSurface, Bar::Down), 89);
-    form.TextSurface.SetScroll(Bar::Across, 200, 101, 0);
-    user.PagesBar(IDC_TextSurface, Bar::Across, 1);
-    EXPECT_EQ(form.Came(), Events{"across 99"});
-  });
+  const struct {
+    Bar Which;
+    int Range, Shown, Position, Seen, Pages;
+    const char* Asked;
+  } rows[] = {{Bar::Down, 100, 11, 20, 20, 1, "down 30"},
+              {Bar::Down, 100, 11, 85, 85, 1, "down 89"},
+              {Bar::Down, 100, 11, 89, 89, 1, ""},
+              {Bar::Down, 100, 11, 1000, 89, -1, "down 79"},
+              {Bar::Across, 50, 50, 0, -1, 1, ""},
+              {Bar::Across, 200, 101, 0, 0, 1, "across 99"},
+              {Bar::Across, 200, 101, 50, 50, -1, "across 0"}};
+  for (const auto& row : rows) {
+    Does([&] { surface.SetScroll(row.Which, row.Range, row.Shown, row.Position); }, "");
+    EXPECT_EQ(user.SeesBar(IDC_TextSurface, row.Which), row.Seen) << &row - rows;
+    Does([&] { user.PagesBar(IDC_TextSurface, row.Which, row.Pages); }, row.Asked);
+    EXPECT_EQ(user.SeesBar(IDC_TextSurface, row.Which), row.Seen) << &row - rows;
+  }
 }
 
-TEST_F(SurfaceTest, MouseIsToldInCellsAndTakesTheFocus) {
-  Use([&] {
-    user.MovesTo(IDC_SideBox);
-    user.Drags(IDC_TextSurface, {3, 2}, {5, 1});
-    EXPECT_TRUE(user.SeesFocusOn(IDC_TextSurface));
-    user.Drags(IDC_TextSurface, {4, 0}, {4, 0}, true);
-    user.Drags(IDC_TextSurface, {0, 0}, {-2, -1});
-    user.DoubleClicks(IDC_TextSurface, {7, 0});
-    EXPECT_EQ(form.Came(), (Events{"press 3,2", "drag 5,1", "press 4,0 shift", "press 0,0", "drag -2,-1", "press 7,0",
-                                   "double 7,0"}));
-  });
-}
-
-TEST_F(SurfaceTest, WheelIsToldByCellsOrNotches) {
-  Use([&] {
-    user.TurnsWheel(IDC_TextSurface, 2);
-    user.TurnsWheel(IDC_TextSurface, -1, true);
-    user.TurnsWheel(IDC_TextSurface, -1, false, true);
-    EXPECT_EQ(form.Came(), (Events{"wheel 6", "wheel -3 across", "wheel -1 control"}));
-  });
-}
-
-TEST_F(SurfaceTest, KeysAreToldWhileItHasTheFocus) {
-  Use([&] {
-    user.MovesTo(IDC_TextSurface);
-    user.Presses(Key::Down);
-    user.Presses(KeyPress{Key::Home, false, true});
-    user.Presses(KeyPress{Key::Left, true, false});
-    user.PressesControl('C');
-    user.PressesControl('A');
-    const auto name = [](Key key) { return "key " + std::to_string(static_cast<int>(key)); };
-    EXPECT_EQ(form.Came(),
-              (Events{name(Key::Down), name(Key::Home) + " control", name(Key::Left) + " shift", "copy", "all"}));
-    EXPECT_TRUE(user.SeesFocusOn(IDC_TextSurface));
-    form.KeyDown = [](Key key) { return key == Key::Up; };
-    user.Presses(Key::Up);  // the form kept it
-    EXPECT_EQ(form.Came(), Events{});
-  });
-  EXPECT_EQ(form.FocusCame().at(0), "TextSurface got");
-}
-
-TEST_F(SurfaceTest, WhatAHandlerThrowsComesOut) {
-  form.TextSurface.Wheel = [](const WheelTurn&) { throw RuntimeError(kPermissionDenied); };
-  user.UsesForm(IDD_SurfaceForm, [&] { user.TurnsWheel(IDC_TextSurface, 1); });
-  EXPECT_THROW(form.ShowModal(), RuntimeError);
+TEST_F(SurfaceTest, MouseWheelAndKeysAreTold) {
+  const auto turns = [&](int notches, bool shift, bool control) {
+    user.TurnsWheel(IDC_TextSurface, notches, shift, control);
+  };
+  const auto presses = [&](Key key, bool shift, bool control) { user.Presses(KeyPress{key, shift, control}); };
+  bare.KeyDown = [](Key which) { return which == Key::Up; };
+  user.MovesTo(IDC_BareBox);
+  Does([&] { user.Drags(IDC_TextSurface, {3, 2}, {5, 1}); }, "mouse 0 3 2 0, mouse 1 5 1 0");
+  Does([&] { user.Drags(IDC_TextSurface, {4, 0}, {4, 0}, true); }, "mouse 0 4 0 1");
+  Does([&] { user.Drags(IDC_TextSurface, {0, 0}, {-2, -1}); }, "mouse 0 0 0 0, mouse 1 -2 -1 0");
+  Does([&] { user.DoubleClicks(IDC_TextSurface, {7, 0}); }, "mouse 0 7 0 0, mouse 2 7 0 0");
+  Does([&] { turns(2, false, false), turns(-1, true, false), turns(-1, false, true); },
+       "wheel 6 0 0, wheel -3 1 0, wheel -1 0 1");
+  Does([&] { user.Presses(Key::Down), presses(Key::Home, false, true), presses(Key::Left, true, false); },
+       "key 5 0 0, key 8 0 1, key 2 1 0");
+  Does([&] { user.PressesControl('C'), user.PressesControl('A'); }, "copy, all");
+  Does([&] { user.Presses(Key::Up); }, "");  // the form keeps it
+  EXPECT_TRUE(user.SeesFocusOn(IDC_TextSurface));
 }
 
 TEST(ClipboardTest, HoldsTextOfTheSystemsCharacterSet) {
-  SetClipboardText("old");
-  SetClipboardText("caf\xE9\r\nline");
-  EXPECT_EQ(ClipboardText(), "caf\xE9\r\nline");
-  SetClipboardText("");
-  EXPECT_EQ(ClipboardText(), "");
+  for (const char* text : {"old", "caf\xE9\r\nline", ""}) {
+    SetClipboardText(text);
+    EXPECT_EQ(ClipboardText(), text);
+  }
 }
 
 }  // namespace

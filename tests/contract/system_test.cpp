@@ -1,133 +1,89 @@
-// What runtime_error.h, locale.h and program.h promise, on both platforms alike.
+// What runtime_error.h, locale.h, program.h and process.h promise, on both platforms alike.
 #include <gtest/gtest.h>
 
-#include <string>
-#include <utility>
-
+#include "contract/error_of.h"
 #include "platform/files.h"
 #include "platform/locale.h"
+#include "platform/process.h"
 #include "platform/program.h"
-#include "platform/runtime_error.h"
 #include "support/files.h"
 
 namespace {
 
 using namespace std::string_literals;
 
-TEST(RuntimeErrors, AreDescribedInTheClassicWords) {
-  const std::pair<int, const char*> rows[] = {
-      {5, "Invalid procedure call or argument"},
-      {6, "Overflow"},
-      {11, "Division by zero"},
-      {13, "Type mismatch"},
-      {52, "Bad file name or number"},
-      {53, "File not found"},
-      {57, "Device I/O error"},
-      {58, "File already exists"},
-      {61, "Disk full"},
-      {62, "Input past end of file"},
-      {68, "Device unavailable"},
-      {70, "Permission denied"},
-      {71, "Disk not ready"},
-      {75, "Path/File access error"},
-      {76, "Path not found"},
-      {481, "Invalid picture"},
-      {-1, "Invalid procedure call or argument"},
-      {0, "Invalid procedure call or argument"},
-      {9999, "Invalid procedure call or argument"},
-  };
-  for (const auto& [number, description] : rows) {
-    EXPECT_EQ(ErrorDescription(number), description) << number;
-    const RuntimeError error(number);
-    EXPECT_EQ(error.Number, number);
-    EXPECT_EQ(error.Description, description) << number;
-    EXPECT_STREQ(error.what(), description) << number;
+TEST(SystemTest, ErrorsAreDescribedInTheClassicWordsAndStandForTheSystemsCodes) {
+  const struct {
+    int Number;
+    const char* Words;
+    std::vector<unsigned long> Codes;
+  } rows[] = {{5, "Invalid procedure call or argument", {0, 1, 87, 4000000000UL}},
+              {6, "Overflow", {}},
+              {7, "Out of memory", {}},
+              {11, "Division by zero", {}},
+              {13, "Type mismatch", {}},
+              {52, "Bad file name or number", {123, 206}},
+              {53, "File not found", {2, 18}},
+              {57, "Device I/O error", {23, 25, 27, 29, 30, 31, 59, 121, 1117}},
+              {58, "File already exists", {80, 183}},
+              {61, "Disk full", {39, 112, 1295}},
+              {62, "Input past end of file", {38}},
+              {68, "Device unavailable", {20, 55, 64, 1167}},
+              {70, "Permission denied", {32, 33, 1224}},
+              {71, "Disk not ready", {21, 26, 1005, 1110, 1112}},
+              {75, "Path/File access error", {5, 19, 65, 82, 303}},
+              {76, "Path not found", {3, 15, 53, 67, 161, 267}},
+              {481, "Invalid picture", {}},
+              {482, "Printer error", {}},
+              {521, "Can't open Clipboard", {}}};
+  for (const auto& row : rows) {
+    const RuntimeError error(row.Number);
+    EXPECT_EQ(error.Number, row.Number);
+    EXPECT_EQ(error.Description, row.Words);
+    EXPECT_STREQ(error.what(), row.Words);
+    for (const unsigned long code : row.Codes) EXPECT_EQ(ErrorNumberOfSystemCode(code), row.Number) << code;
   }
+  for (const int unknown : {-1, 0, 9999}) EXPECT_EQ(ErrorDescription(unknown), rows[0].Words) << unknown;
 }
 
-TEST(RuntimeErrors, StandForTheSystemsCodes) {
-  const std::pair<unsigned long, int> rows[] = {
-      {2, 53},    {3, 76},    {5, 75},    {15, 76},  {19, 75},  {21, 71},          {23, 57},  {29, 57},
-      {30, 57},   {31, 57},   {32, 70},   {33, 70},  {38, 62},  {39, 61},          {53, 76},  {67, 76},
-      {80, 58},   {112, 61},  {123, 52},  {161, 76}, {183, 58}, {206, 52},         {267, 76}, {55, 68},
-      {1117, 57}, {1167, 68}, {1224, 70}, {0, 5},    {87, 5},   {4000000000UL, 5},
-  };
-  for (const auto& [code, number] : rows) EXPECT_EQ(ErrorNumberOfSystemCode(code), number) << code;
+std::string Range(int first, int last) {
+  std::string text;
+  for (int code = first; code <= last; ++code) text += static_cast<char>(code);
+  return text;
 }
 
-TEST(Locale, UpperCasesLettersWithTheirAccents) {
-  EXPECT_EQ(UpperCase("Shed 12 [x] {y}~"), "SHED 12 [X] {Y}~");
-  EXPECT_EQ(UpperCase("a\0b"s), "A\0B"s);
-  EXPECT_EQ(UpperCase(""), "");
-  EXPECT_EQ(UpperCase("\xE0\xE4\xE9\xF1\xF6\xF8\xFC\xFE"), "\xC0\xC4\xC9\xD1\xD6\xD8\xDC\xDE");
-  EXPECT_EQ(UpperCase("\x9A\x9C\x9E\xFF"), "\x8A\x8C\x8E\x9F");
-  EXPECT_EQ(UpperCase("\xD7\xF7\xDF\xC9\x8A\xAA\xB5\x83"), "\xD7\xF7\xDF\xC9\x8A\xAA\xB5\x83");
-  EXPECT_EQ(UpperCase('q'), 'Q');
-  EXPECT_EQ(UpperCase('\xE9'), '\xC9');
-}
-
-TEST(Locale, EveryCapitalIsItsOwnCapital) {
-  for (int code = 0; code < 256; ++code) {
-    const char capital = UpperCase(static_cast<char>(code));
-    EXPECT_EQ(UpperCase(capital), capital) << code;
-    const bool small =
-        (code >= 'a' && code <= 'z') || (code >= 0xE0 && code != 0xF7) || code == 0x9A || code == 0x9C || code == 0x9E;
-    EXPECT_EQ(capital != static_cast<char>(code), small) << code;
+TEST(SystemTest, TextIsOfTheSystemsLanguage) {
+  const std::string letters = Range('a', 'z') + Range(0xE0, 0xF6) + Range(0xF8, 0xFE) + "\x9A\x9C\x9E\xFF";
+  const std::string capitals = Range('A', 'Z') + Range(0xC0, 0xD6) + Range(0xD8, 0xDE) + "\x8A\x8C\x8E\x9F";
+  for (const char character : Range(0, 255)) {
+    const std::size_t letter = letters.find(character);
+    EXPECT_EQ(UpperCase(character), letter == std::string::npos ? character : capitals[letter]);
   }
+  EXPECT_EQ(UpperCase("Shed 12\0"s + letters), "SHED 12\0"s + capitals);
+  EXPECT_EQ(DecimalSeparator(), '.');
+  EXPECT_EQ(ShortDate(2026, 8, 5) + " " + ShortDate(9998, 12, 31) + " " + ShortDate(1601, 1, 1),
+            "8/5/2026 12/31/9998 1/1/1601");
+  EXPECT_EQ(ShortDate(1600, 12, 31) + " " + ShortDate(476, 9, 4), "1600-12-31 0476-09-04");
+  EXPECT_TRUE(Today().ok() && Today().year() >= std::chrono::year{2026});
 }
 
-TEST(Locale, DecimalSeparatorOfAnEnglishMachineIsThePoint) { EXPECT_EQ(DecimalSeparator(), '.'); }
-
-TEST(Locale, ShortDatesAreTheSystemsWithinItsYears) {
-  EXPECT_EQ(ShortDate(2026, 8, 5), "8/5/2026");
-  EXPECT_EQ(ShortDate(2026, 12, 25), "12/25/2026");
-  EXPECT_EQ(ShortDate(1601, 1, 1), "1/1/1601");
-  EXPECT_EQ(ShortDate(9998, 12, 31), "12/31/9998");
-  EXPECT_EQ(ShortDate(1600, 12, 31), "1600-12-31");
-  EXPECT_EQ(ShortDate(476, 9, 4), "0476-09-04");
-}
-
-TEST(Program, TodayIsADayOfTheCalendar) {
-  EXPECT_TRUE(Today().ok());
-  EXPECT_GE(Today().year(), std::chrono::year{2026});
-}
-
-void ExpectFolderForm(const std::string& folder) {
-  ASSERT_GE(folder.size(), 3U);
-  EXPECT_EQ(folder.substr(1, 2), ":\\") << folder;
-  EXPECT_TRUE(folder.size() == 3 || folder.back() != '\\') << folder;
-}
-
-TEST(Program, FoldersAreFullNamesWithoutATrailingSeparator) {
-  ExpectFolderForm(ProgramFolder());
-  ExpectFolderForm(CurrentFolder());
+TEST(SystemTest, ProgramHasFoldersAnEnvironmentAndAnEnd) {
   TestFiles::Start();
   EXPECT_EQ(CurrentFolder(), TestFiles::Folder());
-  ExpectFolderForm(CurrentFolder());
-  TestFiles::Put("HERE.TXT", "");
-  EXPECT_TRUE(Files::Exists(CurrentFolder() + "\\HERE.TXT"));
-  TestFiles::Finish();
-}
+  for (const std::string& folder : {ProgramFolder(), CurrentFolder()}) {
+    EXPECT_TRUE(folder.size() > 3 && folder.substr(1, 2) == ":\\" && folder.back() != '\\') << folder;
+  }
+  EXPECT_NE(EnvironmentValue("PATH").value_or(""), "");
+  EXPECT_EQ(EnvironmentValue("Path"), EnvironmentValue("PATH"));
+  EXPECT_FALSE(EnvironmentValue("FILER_TEST_NOT_DEFINED") || EnvironmentValue(""));
+  EXPECT_EQ(ErrorOf([] { StartProgram("\"C:\\no such folder\\none.exe\" x"); }), kFileNotFound);
+  EXPECT_EQ(ErrorOf([] { StartProgram("none.exe"); }), kFileNotFound);
 
-TEST(Program, EnvironmentIsAskedByNameWhateverItsCase) {
-  const auto path = EnvironmentValue("PATH");
-  ASSERT_TRUE(path.has_value());
-  EXPECT_FALSE(path->empty());
-  EXPECT_EQ(EnvironmentValue("Path"), path);
-  EXPECT_EQ(EnvironmentValue("FILER_TEST_NOT_DEFINED"), std::nullopt);
-  EXPECT_EQ(EnvironmentValue(""), std::nullopt);
-}
-
-TEST(Program, EndingClosesEveryFileWithWhatWasWritten) {
-  TestFiles::Start();
-  TestFiles::Put("LOCKED.TXT", "a");
   Files::Open(1, "OUT.TXT", Files::Mode::Output);
-  Files::Open(2, "LOCKED.TXT", Files::Mode::Lock);
   Files::WriteLine(1, "last words");
   EXPECT_THROW(EndProgram(), ProgramEnded);
-  EXPECT_FALSE(Files::IsOpen(1) || Files::IsOpen(2));
+  EXPECT_FALSE(Files::IsOpen(1));
   EXPECT_EQ(TestFiles::Get("OUT.TXT"), "last words\r\n");
-  Files::Erase("LOCKED.TXT");
   TestFiles::Finish();
 }
 

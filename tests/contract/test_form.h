@@ -1,8 +1,11 @@
-// Two forms to try the platform on: one with every kind of control, and one without OK and Cancel.
-// They write down every event in the order in which it came.
+// Two forms to try the platform on - one with every kind of control but a surface, one with a surface and without OK
+// and Cancel - and what the tests of them share: all events come into one log, in their order.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
+#include <source_location>
 #include <string>
 #include <utility>
 #include <vector>
@@ -11,118 +14,134 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
+#include "platform/surface.h"
+#include "support/user.h"
 
-using Events = std::vector<std::string>;
+inline std::string EventLog;
+inline bool LogsFocus = false;  // GotFocus and LostFocus as well
+
+inline void Log(const std::string& event) { EventLog += (EventLog.empty() ? "" : ", ") + event; }
+
+// Acts, and compares all events that came of it; but those that a Does within has compared.
+inline void Does(const std::function<void()>& act, const std::string& events,
+                 const std::source_location& from = std::source_location::current()) {
+  const testing::ScopedTrace trace(from.file_name(), static_cast<int>(from.line()), "");
+  EventLog.clear();
+  act();
+  EXPECT_EQ(std::exchange(EventLog, {}), events);
+}
 
 class LoggingForm : public Form {
  public:
-  using Form::Form;
+  LoggingForm(int template_id, std::string name) : Form(template_id), Template(template_id), Name(std::move(name)) {
+    MenuClick = [this](int id) { Tell("Menu " + std::to_string(id)); };
+    EnterKey = [this] { Tell("EnterKey"); };
+    EscapeKey = [this] { Tell("EscapeKey"); };
+    HelpKey = [this] { Tell("HelpKey"); };
+  }
+  void Tell(const std::string& event) const { Log(Name + event); }
 
-  Events Log;            // all but the focus events
-  Events FocusLog;       // the focus events
-  bool Refuses = false;  // Form_QueryUnload cancels
-  std::function<void()> OnLoad;
-  std::function<void()> OnActivate;
-
-  // What came since the last call.
-  Events Came() { return std::exchange(Log, {}); }
-  Events FocusCame() { return std::exchange(FocusLog, {}); }
+  const int Template;
+  const std::string Name;         // opens what the form tells
+  bool Refuses = false;           // Form_QueryUnload cancels
+  Event OnLoad;                   // in Form_Load
+  std::vector<Control*> Members;  // all controls
 
  protected:
   void Form_Load() override {
-    Log.push_back("Load");
+    Tell("Load");
     if (OnLoad) OnLoad();
   }
-  void Form_Activate() override {
-    Log.push_back("Activate");
-    if (OnActivate) OnActivate();
-  }
+  void Form_Activate() override { Tell("Activate"); }
   void Form_QueryUnload(bool& cancel, UnloadMode mode) override {
-    Log.push_back(mode == UnloadMode::ControlMenu ? "QueryUnload ControlMenu" : "QueryUnload Code");
+    Tell(mode == UnloadMode::ControlMenu ? "QueryUnload ControlMenu" : "QueryUnload Code");
     cancel = Refuses;
   }
-  void Form_Unload() override { Log.push_back("Unload"); }
+  void Form_Unload() override { Tell("Unload"); }
+};
 
-  Event Logs(const std::string& what) {
-    return [this, what] { Log.push_back(what); };
-  }
-  void LogFocusOf(Control& control, const std::string& name) {
-    control.GotFocus = [this, name] { FocusLog.push_back(name + " got"); };
-    control.LostFocus = [this, name] { FocusLog.push_back(name + " lost"); };
+// A control that tells of its events under its name, with what it then shows.
+template <typename Kind>
+struct Logging : Kind {
+  Logging(LoggingForm& form, int id, const std::string& name) : Kind(form, id) {
+    form.Members.push_back(this);
+    const auto tell = [&form, name](const std::string& event) { form.Tell(name + event); };
+    this->GotFocus = [=] { LogsFocus ? tell(" got") : void(); };
+    this->LostFocus = [=] { LogsFocus ? tell(" lost") : void(); };
+    if constexpr (std::is_base_of_v<ListControl, Kind>) {
+      this->Click = [=, this] { tell(" Click " + std::to_string(this->Selected()) + " " + this->Text()); };
+    } else if constexpr (requires { this->Click; }) {
+      this->Click = [=] { tell(" Click"); };
+    }
+    if constexpr (requires { this->Change; }) this->Change = [=, this] { tell(" Change " + this->Text()); };
+    if constexpr (std::is_same_v<CheckList, Kind>) {
+      this->ItemCheck = [=, this](int position) {
+        tell(" ItemCheck " + std::to_string(position) + (this->Checked(position) ? " on" : " off"));
+      };
+    }
   }
 };
 
 class TestForm : public LoggingForm {
  public:
-  TestForm() : LoggingForm(IDD_TestForm) {
-    TitleLabel.Click = Logs("TitleLabel Click");
-    LineBox.Change = Logs("LineBox Change");
-    LinesBox.Change = Logs("LinesBox Change");
-    FirstButton.Click = Logs("FirstButton Click");
-    SecondButton.Click = Logs("SecondButton Click");
-    RedOption.Click = Logs("RedOption Click");
-    GreenOption.Click = Logs("GreenOption Click");
-    SmallOption.Click = Logs("SmallOption Click");
-    LargeOption.Click = Logs("LargeOption Click");
-    NameCombo.Change = [this] { Log.push_back("NameCombo Change " + NameCombo.Text()); };
-    NameCombo.Click = [this] { Log.push_back("NameCombo Click " + NameCombo.Text()); };
-    KindDrop.Click = [this] { Log.push_back("KindDrop Click " + KindDrop.Text()); };
-    EntryList.Click = [this] { Log.push_back("EntryList Click " + std::to_string(EntryList.Selected())); };
-    TickList.ItemCheck = [this](int position) {
-      Log.push_back("TickList ItemCheck " + std::to_string(position) + (TickList.Checked(position) ? " on" : " off"));
-    };
-    PhotoPic.Click = Logs("PhotoPic Click");
-    OKButton.Click = [this] {
-      Log.push_back("OKButton Click");
-      Close();
-    };
-    CancelButton.Click = [this] {
-      Log.push_back("CancelButton Click");
-      Close();
-    };
-    MenuClick = [this](int id) { Log.push_back("Menu " + std::to_string(id)); };
-    EnterKey = Logs("EnterKey");
-    EscapeKey = Logs("EscapeKey");
-    HelpKey = Logs("HelpKey");
-    LogFocusOf(LineBox, "LineBox");
-    LogFocusOf(LinesBox, "LinesBox");
-    LogFocusOf(FirstButton, "FirstButton");
-    LogFocusOf(NameCombo, "NameCombo");
-    LogFocusOf(EntryList, "EntryList");
+  TestForm() : LoggingForm(IDD_TestForm, "") {
+    for (Button* button : std::initializer_list<Button*>{&OKButton, &CancelButton}) {
+      button->Click = [this, tell = button->Click] {
+        tell();
+        Close();
+      };
+    }
   }
 
-  Label TitleLabel{*this, IDC_TitleLabel};
-  Label HintLabel{*this, IDC_HintLabel};
-  TextBox LineBox{*this, IDC_LineBox};
-  TextBox LinesBox{*this, IDC_LinesBox};
-  Button FirstButton{*this, IDC_FirstButton};
-  OptionButton RedOption{*this, IDC_RedOption};
-  OptionButton GreenOption{*this, IDC_GreenOption};
-  Button SecondButton{*this, IDC_SecondButton};
-  OptionButton SmallOption{*this, IDC_SmallOption};
-  OptionButton LargeOption{*this, IDC_LargeOption};
-  ComboBox NameCombo{*this, IDC_NameCombo};
-  DropDownList KindDrop{*this, IDC_KindDrop};
-  ListBox EntryList{*this, IDC_EntryList};
-  CheckList TickList{*this, IDC_TickList};
-  Picture PhotoPic{*this, IDC_PhotoPic};
-  Frame GroupFrame{*this, IDC_GroupFrame};
-  Button OKButton{*this, IDC_OKButton};
-  Button CancelButton{*this, IDC_CancelButton};
+  Logging<Label> TitleLabel{*this, IDC_TitleLabel, "TitleLabel"};
+  Logging<Label> HintLabel{*this, IDC_HintLabel, "HintLabel"};
+  Logging<TextBox> LineBox{*this, IDC_LineBox, "LineBox"};
+  Logging<TextBox> LinesBox{*this, IDC_LinesBox, "LinesBox"};
+  Logging<Button> FirstButton{*this, IDC_FirstButton, "FirstButton"};
+  Logging<OptionButton> RedOption{*this, IDC_RedOption, "RedOption"};
+  Logging<OptionButton> GreenOption{*this, IDC_GreenOption, "GreenOption"};
+  Logging<Button> SecondButton{*this, IDC_SecondButton, "SecondButton"};
+  Logging<OptionButton> SmallOption{*this, IDC_SmallOption, "SmallOption"};
+  Logging<OptionButton> LargeOption{*this, IDC_LargeOption, "LargeOption"};
+  Logging<ComboBox> NameCombo{*this, IDC_NameCombo, "NameCombo"};
+  Logging<DropDownList> KindDrop{*this, IDC_KindDrop, "KindDrop"};
+  Logging<ListBox> EntryList{*this, IDC_EntryList, "EntryList"};
+  Logging<CheckList> TickList{*this, IDC_TickList, "TickList"};
+  Logging<Picture> PhotoPic{*this, IDC_PhotoPic, "PhotoPic"};
+  Logging<Frame> GroupFrame{*this, IDC_GroupFrame, "GroupFrame"};
+  Logging<Button> OKButton{*this, IDC_OKButton, "OKButton"};
+  Logging<Button> CancelButton{*this, IDC_CancelButton, "CancelButton"};
 };
 
 class BareForm : public LoggingForm {
  public:
-  BareForm() : LoggingForm(IDD_BareForm) {
-    BareBox.Change = Logs("BareBox Change");
-    BareButton.Click = [this] {
-      Log.push_back("BareButton Click");
-      Close();
-    };
-    EnterKey = Logs("EnterKey");
-    EscapeKey = Logs("EscapeKey");
-  }
+  BareForm() : LoggingForm(IDD_BareForm, "bare ") {}
 
-  TextBox BareBox{*this, IDC_BareBox};
-  Button BareButton{*this, IDC_BareButton};
+  Logging<TextBox> BareBox{*this, IDC_BareBox, "BareBox"};
+  Logging<Surface> TextSurface{*this, IDC_TextSurface, "TextSurface"};
+};
+
+class FormTest : public testing::Test {
+ protected:
+  ~FormTest() override { LogsFocus = false; }
+
+  // Shows the form to the person, who acts and then closes it.
+  void Use(LoggingForm& shown, const Event& acts) {
+    user.UsesForm(shown.Template, [this, &shown, acts] {
+      if (acts) acts();
+      user.ClosesWindow();
+    });
+    shown.ShowModal();
+  }
+  void Use(const Event& acts) { Use(form, acts); }
+
+  User user;
+  TestForm form;
+  BareForm bare;
+};
+
+// The same with the form on the screen, where the person acts on it at once.
+class ShownFormTest : public FormTest {
+ protected:
+  ShownFormTest() { form.Show(); }
 };

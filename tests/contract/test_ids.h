@@ -6,7 +6,6 @@
 
 #define IDD_TestForm 5000
 #define IDD_BareForm 5001
-#define IDD_SurfaceForm 5002
 
 #define IDC_TitleLabel 5010
 #define IDC_HintLabel 5011
@@ -32,8 +31,4 @@
 
 // The bare form, with neither OK nor Cancel
 #define IDC_BareBox 5050
-#define IDC_BareButton 5051
-
-// The form with a surface
-#define IDC_TextSurface 5060
-#define IDC_SideBox 5061
+#define IDC_TextSurface 5051

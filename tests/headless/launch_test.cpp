@@ -39,9 +39,15 @@ class LaunchTest : public FreshTest {
     for (const std::string& line : Machine::StartedPrograms()) outcome += " " + line;
     return outcome;
   }
-  std::string LaunchPage() { return Launch(".HTM", "C:\\H\\page.htm"); }
+  std::string LaunchPage() {
+    const bool registered = APISubs::IsRegistered(".HTM");
+    const std::string outcome = Launch(".HTM", "C:\\H\\page.htm");
+    EXPECT_EQ(registered, outcome != "-1");
+    return outcome;
+  }
   void Ends(const std::string& text) {
     user.Reads(text, Icon::Critical);
+    EXPECT_FALSE(APISubs::IsRegistered(".HTM"));
     EXPECT_THROW(LaunchPage(), ProgramEnded);
   }
 };

@@ -55,9 +55,20 @@ C:\,sub\Home.FIL => C:\sub\Home.FIL | C:\Data,\Home.FIL => \Home.FIL | C:\Data,H
     EXPECT_EQ(Global::FullFileName(folder, name), full);
   }
   EXPECT_EQ(Global::FullFileName("", "Home.FIL"), InFolder("Home.FIL"));
-  for (const auto& [name, folder] : Rows(R"T(C:\Data\Home.FIL => C:\Data | C:\Home.FIL => C:\ | C:Home.FIL => C:
+  for (const auto& [name, folder] :
+       Rows(R"T(C:\Data\Home.FIL => C:\Data | C:\Home.FIL => C:\ | C:Home.FIL => C: | C:/Data/Home.FIL => C:/Data
 \Home.FIL => \ | Home.FIL => )T")) {
     EXPECT_EQ(FolderOf(name), folder);
+  }
+  // A photo's name and the data file's, and the places where the photo may be.
+  for (const auto& [names, expected] : Rows(R"T(a.jpg, => C:\W\a.jpg; | p\a.jpg,C:\D\x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg;
+p/a.jpg,C:/D/x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg; | E:\o\p\a.jpg, => E:\o\p\a.jpg;
+E:\o/p\a.jpg,C:\x.FIL => E:\o\p\a.jpg;C:\a.jpg;C:\p\a.jpg;C:\o\p\a.jpg; | E:a.jpg,C:\x.FIL => E:a.jpg;C:\a.jpg;
+\p\a.jpg,C:\x.FIL => \p\a.jpg;C:\a.jpg;C:\p\a.jpg; | \\s\a.jpg,C:\x.FIL => \\s\a.jpg;C:\a.jpg;C:\s\a.jpg;)T")) {
+    const auto [name, data_file] = Halves(names, ',');
+    std::string places;
+    for (const std::string& place : PhotoPlaces(name, data_file, R"(C:\W)")) places += place + ";";
+    EXPECT_EQ(places, expected) << names;
   }
 }
 

@@ -89,10 +89,6 @@ TEST_F(EditTest, RefusesMoreThingsThanTheNumbersReach) {
 TEST_F(EditTest, DeletesThings) {
   PutHome();
   Start("Home.FIL");
-  user.Types(IDC_PersonCombo, "s");  // offers Spade, which is not what is shown
-  user.Reads("Nothing was deleted.  Please pick the thing to delete in the list first.", Icon::Exclamation);
-  user.ChoosesMenu(IDC_DeletePersonItem);
-  EXPECT_EQ(user.Sees(IDC_PersonCombo), "Big Red_Barn");
   user.Picks(IDC_PersonCombo, "Garden Shed");
   user.Types(IDC_NoteBox, "never stored");
   user.Reads("Record deleted.", Icon::Information);
@@ -119,24 +115,23 @@ TEST_F(EditTest, DeletesThings) {
   user.ChoosesMenu(IDC_RenameItem);
 }
 
-TEST_F(EditTest, DeletesWhatIsShownWhateverWasTypedBefore) {
-  const auto deletes = [this](const std::string& thing) {
-    EXPECT_EQ(user.Sees(IDC_PersonCombo), thing);
-    user.Reads("Record deleted.", Icon::Information);
-    user.ChoosesMenu(IDC_DeletePersonItem);
-  };
+TEST_F(EditTest, ActsOnTheThingThatTheListOffers) {
   PutHome();
   Start("Home.FIL");
+  user.Types(IDC_NoteBox, "stored first");
   user.Types(IDC_PersonCombo, "s");
-  user.Picks(IDC_PersonCombo, "Garden Shed");
-  deletes("Garden Shed");
-  user.Types(IDC_PersonCombo, "s");
-  user.MovesTo(IDC_NoteBox);
-  deletes("rake");
-  user.Types(IDC_PersonCombo, "z");
-  TheDocument.CurrentThing = 0;
-  user.ChoosesMenu(IDC_SurnameOrderItem);
-  deletes("Red Barn, Big");
+  user.Reads("Record deleted.", Icon::Information);
+  user.ChoosesMenu(IDC_DeletePersonItem);
+  EXPECT_EQ(Links(), "Big Red_Barn:0,0 Garden Shed:1,4 rake:2,0 Zoo:0,0 ");
+  EXPECT_EQ(TheDocument.Things[1].NOTE, "stored first");
+  user.Types(IDC_PersonCombo, "g");
+  user.Clicks(IDC_LetterLabel + ('R' - 'A'));
+  EXPECT_EQ(user.Sees(IDC_PersonCombo), "Garden Shed");
+  EXPECT_EQ(TheDocument.CurrentThing, 2);
+  user.Types(IDC_PersonCombo, "q");  // offers nothing
+  user.Reads("Record deleted.", Icon::Information);
+  user.ChoosesMenu(IDC_DeletePersonItem);
+  EXPECT_EQ(Links(), "Big Red_Barn:0,0 rake:0,0 Zoo:0,0 ");
 }
 
 TEST_F(EditTest, RenamesThings) {

@@ -255,9 +255,12 @@ TEST_F(ListTest, FindsAThingByTyping) {
   user.Presses(Key::Enter);
   EXPECT_EQ(user.Sees(IDC_PersonCombo), "Spade");
   user.Types(IDC_PersonCombo, "zo");
-  user.MovesTo(IDC_NoteBox);  // leaving is no choice
-  EXPECT_EQ(user.Sees(IDC_PersonCombo), "Spade");
-  EXPECT_EQ(TheDocument.CurrentThing, 4);
+  user.MovesTo(IDC_NoteBox);
+  EXPECT_EQ(user.Sees(IDC_PersonCombo), "Zoo");
+  EXPECT_EQ(TheDocument.CurrentThing, 5);
+  user.Types(IDC_PersonCombo, "q");
+  user.MovesTo(IDC_NoteBox);
+  EXPECT_EQ(user.Sees(IDC_PersonCombo), "Zoo");
 }
 
 TEST_F(ListTest, OffersAnewWhenAnotherLetterTakesThePlaceOfOne) {

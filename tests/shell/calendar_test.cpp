@@ -5,6 +5,7 @@
 #include "platform/program.h"
 #include "resource.h"
 #include "shell/date_pick_form.h"
+#include "shell/date_pick_ids.h"
 #include "support/fresh_test.h"
 #include "support/rows.h"
 

@@ -35,8 +35,9 @@ class User {
   void PressesControl(char letter);  // A or C
   void Drags(int id, Cell from, Cell to, bool shift = false);
   void DoubleClicks(int id, Cell at);
-  void TurnsWheel(int id, int notches, bool shift = false, bool control = false);  // positive: towards the person
-  void PagesBar(int id, Surface::Bar bar, int pages);                              // beside the thumb of a scroll bar
+  // Over a surface, or over a drop-down, which does not get the focus by it; positive: towards the person.
+  void TurnsWheel(int id, int notches, bool shift = false, bool control = false);
+  void PagesBar(int id, Surface::Bar bar, int pages);  // beside the thumb of a scroll bar
 
   // What is seen on the topmost form.
   std::string Sees(int id);

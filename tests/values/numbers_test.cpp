@@ -39,7 +39,8 @@ TEST(NumbersTest, ReadsTheLongestLeadingNumber) {
 
 // As a short and a long whole number, and as a record's.
 TEST(NumbersTest, ReadsWholeNumbersWithinTheirType) {
-  for (const auto& [text, numbers] : Rows(R"(0.5 => 0 0 0 | 1.5 => 2 2 2 | -2 => -2 -2 0 | 32767 => 32767 32767 32767
+  for (const auto& [text, numbers] :
+       Rows(R"(0.5 => 0 0 0 | 0.9 => 1 1 0 | 1.5 => 2 2 2 | -2 => -2 -2 0 | 32767 => 32767 32767 32767
 32767.4 => 32767 32767 32767 | 32767.5 => 0 32768 32768 | -32768 => -32768 -32768 0 | 40000 => 0 40000 32768
 -2147483648 => 0 -2147483648 0 | 2147483648 => 0 0 32768 | 1e999 => 0 0 32768 | -1e999 => 0 0 0)")) {
     EXPECT_EQ(std::to_string(LeadingInt16(text)) + " " + std::to_string(LeadingInt32(text)) + " " +
@@ -66,7 +67,8 @@ TEST(NumbersTest, AreShownUnderTemplates) {
 55% ##0.0% => 55.0% | 0.5 %0 => %50 | 0.5 0%.00 => 50%.00 | 1234.5 #,#%## => 123,4%50 | 0.05 #%# => %5
 0.1234 0.0%0# => 12.3%4 | 0.5 0.% => 50.% | 0.005 0%% => 50%% | 1e5 #,##0 => 100,000 | 1.25 0.0#0 => 1.250
 1E+20 #,##0 => 100,000,000,000,000,000,000 | 1.5E-07 0.0000000# => 0.00000015 | 1.2 0.0.0 => 1.20
-0E+2000000000 0.0 => 0.0 | -0E-2000000000% 0.0# => 0.0 | RED 0.00 => RED | inf 0.00 => inf |  0.00 =>  | 12abc 0.00 => 12abc
+0E+2000000000 0.0 => 0.0 | -0E-2000000000% 0.0# => 0.0 | RED 0.00 => RED | inf 0.00 => inf | 1e-999 0.0 => 0.0 | 1e999 0.0 => 1e999
+ 0.00 =>  | 12abc 0.00 => 12abc
 5  => 5 | 5   => 5)")) {
     const auto [stored, display_template] = Halves(given, ' ');
     EXPECT_EQ(FormatByTemplate(stored, display_template, '.'), shown) << given;

@@ -21,6 +21,7 @@ void TextBox::SetTextLimit(int characters) { PeerOf().TextLimit = characters; }
 
 // Nothing is marked here: what a person types replaces everything anyway.
 void TextBox::SelectAll() {}
+void TextBox::SelectText(int /*first*/, int /*last*/) {}
 
 void Button::SetBackColor(::BackColor color) { PeerOf().Back = color; }
 ::BackColor Button::BackColor() const { return PeerOf().Back; }

@@ -20,6 +20,7 @@ constexpr unsigned long kPathMissing = 3;
 constexpr unsigned long kSharingViolation = 32;
 constexpr unsigned long kNetPathMissing = 53;
 constexpr unsigned long kInvalidName = 123;
+constexpr std::size_t kLongestName = 259;
 
 struct Faults {
   int Nth = 0;  // 0: none
@@ -34,6 +35,7 @@ std::optional<std::size_t> space;
 Faults faults;
 int calls_to_fault = 0;
 int call_count = 0;
+std::uint64_t changes = 0;
 
 bool IsDevice(const std::string& part) {
   static constexpr std::array<std::string_view, 4> kDevices = {"CON", "PRN", "AUX", "NUL"};
@@ -87,6 +89,7 @@ std::string FullName(const std::string& name) {
   }
   std::string result = "C:";
   for (const std::string& part : parts) result += '\\' + part;
+  if (result.size() > kLongestName) Disk::Fail(kPathMissing);
   return parts.empty() ? "C:\\" : result;
 }
 
@@ -150,6 +153,7 @@ bool IsHeld(const NodePtr& file) {
 NodePtr Add(const std::string& name, bool is_folder) {
   const std::string full_name = FullName(name);
   auto node = std::make_shared<Node>(Node{LastPart(full_name), is_folder, false, ""});
+  node->Changed = ++changes;
   tree[UpperCase(full_name)] = node;
   return node;
 }
@@ -173,6 +177,7 @@ void Move(const std::string& from, const std::string& to) {
 std::size_t Append(Node& file, std::string_view bytes) {
   const std::size_t taken = std::min(bytes.size(), space.value_or(bytes.size()));
   file.Bytes.append(bytes.substr(0, taken));
+  file.Changed = ++changes;
   if (space) *space -= taken;
   return taken;
 }
@@ -180,6 +185,7 @@ std::size_t Append(Node& file, std::string_view bytes) {
 void Truncate(Node& file, std::size_t size) {
   if (space) *space += file.Bytes.size() - size;
   file.Bytes.resize(size);
+  file.Changed = ++changes;
   file.Flushed = std::min(file.Flushed, size);
 }
 
@@ -203,6 +209,7 @@ void PutFile(const std::string& name, std::string_view bytes) {
   if (!node) node = Disk::Add(name, false);
   node->Bytes = bytes;
   node->Flushed = bytes.size();
+  node->Changed = ++changes;
 }
 
 void LosePower() {

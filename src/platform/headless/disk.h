@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -13,7 +14,8 @@ struct Node {
   bool IsFolder = false;
   bool ReadOnly = false;
   std::string Bytes;
-  std::size_t Flushed = 0;  // bytes that would outlive a loss of power
+  std::size_t Flushed = 0;    // bytes that would outlive a loss of power
+  std::uint64_t Changed = 0;  // how many changes of files there had been when it was last written
 };
 using NodePtr = std::shared_ptr<Node>;
 

@@ -91,6 +91,15 @@ void Settle(Stream& file) {
   file.Unsettled = 0;
 }
 
+// The file that is to get another name.
+Disk::NodePtr ToRename(const std::string& from) {
+  CountCall();
+  Disk::NodePtr node = Disk::Find(from);
+  if (!node) Disk::Fail(kFileMissing);
+  if (node->IsFolder) Disk::Fail(kAccessDenied);
+  return node;
+}
+
 }  // namespace
 
 namespace Files {
@@ -179,14 +188,29 @@ void Erase(const std::string& name) {
 }
 
 void Rename(const std::string& from, const std::string& to) {
-  CountCall();
-  const Disk::NodePtr node = Disk::Find(from);
-  if (!node) Disk::Fail(kFileMissing);
-  if (node->IsFolder) Disk::Fail(kAccessDenied);
+  const Disk::NodePtr node = ToRename(from);
   const Disk::NodePtr taken = Disk::Find(to);
   if (Disk::IsHeld(node)) Disk::Fail(kSharingViolation);
   if (taken && taken != node) Disk::Fail(kNameTaken);
   Disk::Move(from, to);
+}
+
+void Replace(const std::string& from, const std::string& to) {
+  const Disk::NodePtr node = ToRename(from);
+  const Disk::NodePtr replaced = Disk::Find(to);
+  if (replaced && (replaced->IsFolder || replaced->ReadOnly)) Disk::Fail(kAccessDenied);
+  if (Disk::IsHeld(node) || (replaced && Disk::IsHeld(replaced))) Disk::Fail(kSharingViolation);
+  if (replaced && replaced != node) Disk::Remove(to);
+  Disk::Move(from, to);
+}
+
+std::uint64_t ChangedAt(const std::string& name) {
+  try {
+    const Disk::NodePtr node = Disk::Find(name);
+    return node ? node->Changed : 0;
+  } catch (const RuntimeError&) {
+    return 0;
+  }
 }
 
 bool Exists(const std::string& name) {

@@ -64,6 +64,10 @@ void Form::RunUntilClosed() {
   peer_->Gone();
 }
 
+bool Form::Covered() const { return peer_->Shown && OpenForms().back() != this; }
+
+void Form::SetShutdownReason(std::string_view reason) { peer_->ShutdownReason = reason; }
+
 void Form::Later(Event event) { peer_->Deferred.push_back(std::move(event)); }
 
 void Form::Close() { peer_->Unload(UnloadMode::Code); }
@@ -88,6 +92,13 @@ void Form::SetMenuChecked(int id, bool checked) {
   } else {
     peer_->MenuTicked.erase(id);
   }
+}
+
+void Form::SetMenuText(int id, std::string_view text) { peer_->MenuTexts[id] = text; }
+
+std::string Form::MenuText(int id) const {
+  const auto found = peer_->MenuTexts.find(id);
+  return found == peer_->MenuTexts.end() ? std::string() : found->second;
 }
 
 bool Form::MenuChecked(int id) const { return peer_->MenuTicked.contains(id); }
@@ -115,9 +126,19 @@ void Form::Peer::RunDeferred() {
   for (const Event& event : std::exchange(Deferred, {})) event();
 }
 
-void Form::Peer::Appear() {
+// A form that could not be loaded is not there.
+void Form::Peer::Load() {
   Closed = false;
-  Self->Form_Load();
+  try {
+    Self->Form_Load();
+  } catch (...) {
+    Closed = true;
+    throw;
+  }
+}
+
+void Form::Peer::Appear() {
+  Load();
   OpenForms().push_back(Self);
   Shown = true;
   if (Focus == nullptr || !Focus->PeerOf().TakesFocus()) {

@@ -36,9 +36,11 @@ struct Control::Peer {
   bool ReadOnly = false;  // text box
   int TextLimit = 0;      // text box
   BackColor Back = BackColor::ButtonFace;
-  bool Checked = false;             // option button
-  int Group = 0;                    // option button: those made one after another are one group
-  bool Loaded = false;              // picture
+  bool Checked = false;   // option button
+  int Group = 0;          // option button: those made one after another are one group
+  bool Loaded = false;    // picture
+  std::string PhotoName;  // picture: the file that was loaded, and what it held
+  std::string PhotoBytes;
   std::vector<ListEntry> Entries;   // lists, the check list included
   int Selected = -1;                // lists
   std::vector<bool> Ticks;          // check list
@@ -57,8 +59,9 @@ struct Control::Peer {
   void ChangeText(const std::string& text);
   void ChangeSelection(int position);
   void ChangeTick(int position, bool checked);
-  void Check();  // an option button
-  void Click();  // a label, button or picture; an option button checks
+  void Check();                 // an option button
+  void Click();                 // a label, button or picture; an option button checks
+  void TurnWheel(int notches);  // over a drop-down; positive: towards the person
 };
 
 struct Form::Peer {
@@ -71,14 +74,17 @@ struct Form::Peer {
   bool Shown = false;
   bool Modal = false;
   bool Closed = false;
+  std::string ShutdownReason;
   std::vector<Event> Deferred;
   std::set<int> MenuGreyed;
   std::set<int> MenuTicked;
+  std::map<int, std::string> MenuTexts;
 
   Control* Find(int id) const;       // nullptr when there is none
   void MoveFocus(Control* control);  // raises LostFocus and GotFocus while the form is shown
   void RunDeferred();                // when the person has done what there was to do
-  void Appear();                     // Form_Load, onto the stack, first focus, Form_Activate
+  void Load();
+  void Appear();  // Form_Load, onto the stack, first focus, Form_Activate
   void Activate() { Self->Form_Activate(); }
   void Unload(UnloadMode mode);  // Form_QueryUnload, Form_Unload
   void Gone();                   // closed and off the stack, without asking
@@ -94,6 +100,7 @@ void ActivateTopmost();
 // aborts.
 struct Stage {
   std::function<Answer(const std::string& text, const std::string& caption, Buttons buttons, Icon icon)> Message;
+  DefaultButton Default = DefaultButton::First;  // of the message box that is up
   std::function<std::string(const std::string& prompt, const std::string& caption, const std::string& offered)> Input;
   std::function<std::string(const FileChoice& choice)> File;
   std::function<void(Form& form)> Use;  // acts on an open form; reports it when it stays open

@@ -1,6 +1,7 @@
 // Lists, drop-downs and check lists, in memory.
 #include "platform/lists.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/headless/internals.h"
@@ -31,6 +32,11 @@ int ListControl::SelectedData(int none) const {
 void ComboBox::SelectText(int first, int last) {
   PeerOf().MarkFirst = first;
   PeerOf().MarkLast = last;
+}
+
+void Control::Peer::TurnWheel(int notches) {
+  if (What != Kind::ComboBox || !Self->HasFocus() || Entries.empty()) return;
+  ChangeSelection(std::clamp(Selected + notches, 0, static_cast<int>(Entries.size()) - 1));
 }
 
 // Nothing drops down here: a person picks straight from the entries.

@@ -20,9 +20,11 @@ Stage& CurrentStage() {
   return stage;
 }
 
-Answer MsgBox(std::string_view text, std::string_view caption, Buttons buttons, Icon icon) {
-  const Stage& stage = CurrentStage();
+Answer MsgBox(std::string_view text, std::string_view caption, Buttons buttons, Icon icon,
+              DefaultButton default_button) {
+  Stage& stage = CurrentStage();
   if (!stage.Message) NobodyThere(std::string(text));
+  stage.Default = default_button;
   const Answer answer = stage.Message(std::string(text), std::string(caption), buttons, icon);
   ActivateTopmost();
   return answer;

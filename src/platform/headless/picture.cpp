@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "platform/headless/disk.h"
 #include "platform/headless/internals.h"
+#include "platform/headless/machine.h"
 #include "platform/runtime_error.h"
 
 namespace {
@@ -32,10 +33,21 @@ bool Known(const std::string& bytes) {
 }  // namespace
 
 void Picture::Load(const std::string& name) {
+  Peer& peer = PeerOf();
+  if (peer.Loaded && peer.PhotoName == name && Machine::FileBytes(name) == peer.PhotoBytes) return;
   Clear();
-  if (!Known(BytesOf(name))) throw RuntimeError(kInvalidPicture);
-  PeerOf().Loaded = true;
+  peer.PhotoBytes = BytesOf(name);
+  peer.PhotoName = name;
+  if (!Known(peer.PhotoBytes)) throw RuntimeError(kInvalidPicture);
+  peer.Loaded = true;
+}
+
+void Picture::ShowFrom(const Picture& other) {
+  PeerOf().Loaded = other.PeerOf().Loaded;
+  PeerOf().PhotoName = other.PeerOf().PhotoName;
+  PeerOf().PhotoBytes = other.PeerOf().PhotoBytes;
 }
 
 void Picture::Clear() { PeerOf().Loaded = false; }
 bool Picture::Empty() const { return !PeerOf().Loaded; }
+std::string Picture::FileName() const { return Empty() ? std::string() : PeerOf().PhotoName; }

@@ -40,6 +40,8 @@ void SetCurrentFolder(const std::string& folder) { current_folder = folder; }
 std::string CommandLineText() { return command_line; }
 std::string ProgramFolder() { return program_folder; }
 std::string CurrentFolder() { return current_folder; }
+std::string DocumentsFolder() { return "C:\\DOCUMENTS"; }
+std::string TemporaryFolder() { return "C:\\TEMP"; }
 
 std::chrono::year_month_day Today() { return today; }
 

@@ -51,6 +51,11 @@ bool TextBox::ReadOnly() const { return (GetWindowLongA(PeerOf().Window, GWL_STY
 void TextBox::SetTextLimit(int characters) { PeerOf().Send(EM_SETLIMITTEXT, static_cast<WPARAM>(characters)); }
 void TextBox::SelectAll() { PeerOf().Send(EM_SETSEL, 0, -1); }
 
+void TextBox::SelectText(int first, int last) {
+  PeerOf().Send(EM_SETSEL, static_cast<WPARAM>(first), last);
+  PeerOf().Send(EM_SCROLLCARET);
+}
+
 void Button::SetBackColor(::BackColor color) {
   PeerOf().Back = color;
   InvalidateRect(PeerOf().Window, nullptr, TRUE);
@@ -86,7 +91,8 @@ void Control::Peer::Commanded(int code) {
       if (code == STN_CLICKED || code == STN_DBLCLK) Raise(static_cast<Label*>(Self)->Click);
       break;
     case Kind::Picture:
-      if (code == STN_CLICKED || code == STN_DBLCLK) Raise(static_cast<Picture*>(Self)->Click);
+      if (code == STN_CLICKED) Raise(static_cast<Picture*>(Self)->Click);
+      if (code == STN_DBLCLK) Raise(static_cast<Picture*>(Self)->DoubleClick);
       break;
     case Kind::TextBox:
       if (code == EN_CHANGE) TextMayHaveChanged();

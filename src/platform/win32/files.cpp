@@ -134,6 +134,18 @@ bool MayPass(DWORD code, const std::string& name) {
   return code == ERROR_ACCESS_DENIED && !HasAttribute(name, FILE_ATTRIBUTE_READONLY);
 }
 
+void Move(const std::string& from, const std::string& to, DWORD flags) {
+  CheckName(from);
+  CheckName(to);
+  if (HasAttribute(from, FILE_ATTRIBUTE_DIRECTORY)) throw RuntimeError(kPathFileAccess);
+  const ULONGLONG start = GetTickCount64();
+  while (!MoveFileExA(from.c_str(), to.c_str(), flags)) {
+    const DWORD code = GetLastError();
+    if (!MayPass(code, from) || GetTickCount64() - start >= kRenamePatience) Fail(code);
+    Sleep(kRenamePause);
+  }
+}
+
 }  // namespace
 
 namespace Files {
@@ -231,16 +243,18 @@ void Erase(const std::string& name) {
   if (!DeleteFileA(name.c_str())) Fail(GetLastError());
 }
 
-void Rename(const std::string& from, const std::string& to) {
-  CheckName(from);
-  CheckName(to);
-  if (HasAttribute(from, FILE_ATTRIBUTE_DIRECTORY)) throw RuntimeError(kPathFileAccess);
-  const ULONGLONG start = GetTickCount64();
-  while (!MoveFileA(from.c_str(), to.c_str())) {
-    const DWORD code = GetLastError();
-    if (!MayPass(code, from) || GetTickCount64() - start >= kRenamePatience) Fail(code);
-    Sleep(kRenamePause);
-  }
+void Rename(const std::string& from, const std::string& to) { Move(from, to, 0); }
+
+void Replace(const std::string& from, const std::string& to) {
+  // As when opening a file for writing.
+  if (HasAttribute(to, FILE_ATTRIBUTE_READONLY)) Fail(ERROR_ACCESS_DENIED);
+  Move(from, to, MOVEFILE_REPLACE_EXISTING);
+}
+
+std::uint64_t ChangedAt(const std::string& name) {
+  WIN32_FILE_ATTRIBUTE_DATA told{};
+  if (!GetFileAttributesExA(name.c_str(), GetFileExInfoStandard, &told)) return 0;
+  return std::uint64_t{told.ftLastWriteTime.dwHighDateTime} << 32 | told.ftLastWriteTime.dwLowDateTime;
 }
 
 bool Exists(const std::string& name) {

@@ -40,6 +40,20 @@ bool TellKey(Form::Peer& peer, const MSG& message) {
   return taken;
 }
 
+// Natively, the wheel selects another entry of any closed drop-down. Asked here, since the messages of drop-downs take
+// no detour.
+bool TurnsDropDownUnasked(const Form::Peer& form, const MSG& message) {
+  if (message.message != WM_MOUSEWHEEL) return false;
+  for (HWND window : {message.hwnd, GetParent(message.hwnd)}) {  // the edit field is a window within
+    const Control* control = form.Find(GetDlgCtrlID(window));
+    if (control == nullptr || control->PeerOf().Window != window || !control->PeerOf().DropsDown()) continue;
+    const Control::Peer& peer = control->PeerOf();
+    if (peer.Send(CB_GETDROPPEDSTATE) != FALSE) return false;
+    return peer.What == Control::Peer::Kind::DropDownList || !control->HasFocus();
+  }
+  return false;
+}
+
 }  // namespace
 
 std::optional<Key> KeyOfCode(WPARAM code) {
@@ -76,6 +90,7 @@ void Dispatch(MSG& message) {
       return;
     }
     if (takes_keys && TellKey(peer, message)) return;
+    if (TurnsDropDownUnasked(peer, message)) return;
     if (IsDialogMessageA(peer.Window, &message)) return;
   }
   TranslateMessage(&message);
@@ -138,6 +153,7 @@ void Form::RunUntilClosed() { peer_->Loop(); }
 
 void Form::Close() { peer_->Unload(UnloadMode::Code); }
 bool Form::Closed() const { return peer_->Closed; }
+bool Form::Covered() const { return peer_->Shown && TopmostForm() != this; }
 
 std::string Form::Caption() const { return TextOfWindow(peer_->Window); }
 void Form::SetCaption(std::string_view caption) { SetWindowTextA(peer_->Window, std::string(caption).c_str()); }
@@ -157,11 +173,21 @@ Control* Form::Peer::Find(int id) const {
   return found == Controls.end() ? nullptr : found->second;
 }
 
-// Runs Form_Load and shows the form; the one below is disabled first, so that it never looks alive.
-void Form::Peer::Appear(Form* owner) {
+// A form that could not be loaded is not there.
+void Form::Peer::Load() {
   Closed = false;
   ToActivate = false;
-  Self->Form_Load();
+  try {
+    Self->Form_Load();
+  } catch (...) {
+    Closed = true;
+    throw;
+  }
+}
+
+// Runs Form_Load and shows the form; the one below is disabled first, so that it never looks alive.
+void Form::Peer::Appear(Form* owner) {
+  Load();
   if (Closed) return;
   HWND owner_window = owner == nullptr ? nullptr : owner->PeerOf().Window;
   Place(owner_window);

@@ -196,7 +196,12 @@ void Form::Peer::Command(int id, int code) {
   }
 }
 
+// From the close box, or from the task bar, which lets the user close a form that a dialog disables.
 void Form::Peer::CloseBox() {
+  if (!IsWindowEnabled(Window)) {
+    SetForegroundWindow(GetLastActivePopup(Window));
+    return;
+  }
   Control* cancel = Find(IDCANCEL);
   if (Modal && cancel != nullptr && cancel->PeerOf().TakesFocus()) {
     cancel->PeerOf().Commanded(BN_CLICKED);
@@ -212,6 +217,14 @@ bool Form::Peer::MayShutDown() {
   return Closed || !cancel;
 }
 
+void Form::SetShutdownReason(std::string_view reason) {
+  if (reason.empty()) {
+    ShutdownBlockReasonDestroy(peer_->Window);
+  } else {
+    ShutdownBlockReasonCreate(peer_->Window, std::wstring(reason.begin(), reason.end()).c_str());
+  }
+}
+
 void Form::SetMenuEnabled(int id, bool enabled) {
   EnableMenuItem(GetMenu(peer_->Window), static_cast<UINT>(id), MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
 }
@@ -219,6 +232,22 @@ void Form::SetMenuEnabled(int id, bool enabled) {
 bool Form::MenuEnabled(int id) const {
   const UINT state = GetMenuState(GetMenu(peer_->Window), static_cast<UINT>(id), MF_BYCOMMAND);
   return state != static_cast<UINT>(-1) && (state & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+void Form::SetMenuText(int id, std::string_view text) {
+  std::string& shown = peer_->MenuTexts[id];
+  if (shown == text) return;
+  shown = text;
+  MENUITEMINFOA entry{};
+  entry.cbSize = sizeof entry;
+  entry.fMask = MIIM_STRING;
+  entry.dwTypeData = shown.data();
+  SetMenuItemInfoA(GetMenu(peer_->Window), static_cast<UINT>(id), FALSE, &entry);
+}
+
+std::string Form::MenuText(int id) const {
+  const auto found = peer_->MenuTexts.find(id);
+  return found == peer_->MenuTexts.end() ? std::string() : found->second;
 }
 
 void Form::SetMenuChecked(int id, bool checked) {

@@ -22,6 +22,7 @@ struct Form::Peer {
   HFONT BoldFont = nullptr;
   HWND TipWindow = nullptr;
   std::map<int, Control*> Controls;
+  std::map<int, std::string> MenuTexts;
   Layout Sizes;
   const Control* Below = nullptr;
 
@@ -41,6 +42,7 @@ struct Form::Peer {
   void Make(int template_id);
   void AddMenu();
   void Place(HWND owner) const;
+  void Load();
   void Appear(Form* owner);
   void GiveFirstFocus();
   void Loop();

@@ -90,9 +90,11 @@ void InputForm::GrowFor(std::string_view prompt) {
 
 }  // namespace
 
-Answer MsgBox(std::string_view text, std::string_view caption, Buttons buttons, Icon icon) {
+Answer MsgBox(std::string_view text, std::string_view caption, Buttons buttons, Icon icon,
+              DefaultButton default_button) {
   const Form* owner = TopmostForm();
   UINT flags = FlagsOf(buttons, icon);
+  if (default_button == DefaultButton::Last && buttons != Buttons::Ok) flags |= MB_DEFBUTTON2;
   if (owner == nullptr) flags |= MB_TASKMODAL | MB_SETFOREGROUND;
   const int pressed = MessageBoxA(owner == nullptr ? nullptr : owner->PeerOf().Window, std::string(text).c_str(),
                                   std::string(caption).c_str(), flags);

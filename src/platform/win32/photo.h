@@ -6,6 +6,7 @@
 #include <wincodec.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 struct ComRelease {
@@ -14,10 +15,18 @@ struct ComRelease {
 template <typename Interface>
 using Com = std::unique_ptr<Interface, ComRelease>;
 
+// What tells one state of a file from another.
+struct FileState {
+  std::string Name;
+  ULONGLONG Size = 0;
+  ULONGLONG Changed = 0;  // 0 where the system does not say
+  bool operator==(const FileState&) const = default;
+};
+
 class Photo {
  public:
   // Decodes the bytes of a picture file. Throws RuntimeError 481 when the system does not know them.
-  explicit Photo(std::vector<BYTE> bytes);
+  Photo(FileState file, std::vector<BYTE> bytes);
   ~Photo();
   Photo(const Photo&) = delete;
   Photo& operator=(const Photo&) = delete;
@@ -25,10 +34,13 @@ class Photo {
   // Draws the photo into the box, centred, and what surrounds it. False when the system cannot.
   bool Draw(HDC target, const RECT& box);
 
+  const FileState& File() const { return file_; }
+
  private:
   bool Scale(const SIZE& size);
   void DropScaled();
 
+  FileState file_;
   Com<IWICBitmapSource> source_;
   HBITMAP scaled_ = nullptr;
   SIZE scaled_size_{};

@@ -130,6 +130,25 @@ std::vector<BYTE> BytesOf(const std::string& name) {
   return bytes;
 }
 
+FileState StateOf(const std::string& name) {
+  const auto join = [](DWORD high, DWORD low) { return (static_cast<ULONGLONG>(high) << 32) | low; };
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  if (!GetFileAttributesExA(name.c_str(), GetFileExInfoStandard, &data)) return {name};
+  return {name, join(data.nFileSizeHigh, data.nFileSizeLow),
+          join(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime)};
+}
+
+class WaitCursor {
+ public:
+  WaitCursor() = default;
+  ~WaitCursor() { SetCursor(before_); }
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
+
+ private:
+  HCURSOR before_ = SetCursor(LoadCursorA(nullptr, IDC_WAIT));
+};
+
 // Opened as every other file first, for the same refusals.
 void CheckReadable(const std::string& name) {
   try {
@@ -146,7 +165,7 @@ void CheckReadable(const std::string& name) {
 
 }  // namespace
 
-Photo::Photo(std::vector<BYTE> bytes) {
+Photo::Photo(FileState file, std::vector<BYTE> bytes) : file_(std::move(file)) {
   auto stream = Made<IWICStream>([](IWICStream** made) { return Factory().CreateStream(made); });
   Require(stream->InitializeFromMemory(bytes.data(), static_cast<DWORD>(bytes.size())));
   auto decoder = Made<IWICBitmapDecoder>([&](IWICBitmapDecoder** made) {
@@ -223,13 +242,22 @@ bool Photo::Draw(HDC target, const RECT& box) {
 }
 
 void Picture::Load(const std::string& name) {
+  const FileState file = StateOf(name);
+  if (!Empty() && file.Changed != 0 && PeerOf().Shown->File() == file) return;
   Clear();
+  const WaitCursor cursor;
   CheckReadable(name);
   try {
-    PeerOf().Shown = std::make_shared<Photo>(BytesOf(name));
+    PeerOf().Shown = std::make_shared<Photo>(file, BytesOf(name));
   } catch (const std::bad_alloc&) {
     FailPicture();
   }
+  InvalidateRect(PeerOf().Window, nullptr, FALSE);
+}
+
+void Picture::ShowFrom(const Picture& other) {
+  if (PeerOf().Shown == other.PeerOf().Shown) return;
+  PeerOf().Shown = other.PeerOf().Shown;
   InvalidateRect(PeerOf().Window, nullptr, FALSE);
 }
 
@@ -239,3 +267,4 @@ void Picture::Clear() {
 }
 
 bool Picture::Empty() const { return PeerOf().Shown == nullptr; }
+std::string Picture::FileName() const { return Empty() ? std::string() : PeerOf().Shown->File().Name; }

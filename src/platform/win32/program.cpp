@@ -2,6 +2,8 @@
 #include "platform/program.h"
 
 #include <windows.h>
+// After windows.h, on which it builds.
+#include <shlobj.h>
 
 #include "platform/files.h"
 #include "platform/win32/end_hook.h"
@@ -50,6 +52,16 @@ std::string ProgramFolder() {
 
 std::string CurrentFolder() {
   return WithoutSeparator(AskText([](char* text, DWORD size) { return GetCurrentDirectoryA(size, text); }));
+}
+
+std::string DocumentsFolder() {
+  char folder[MAX_PATH] = "";
+  if (FAILED(SHGetFolderPathA(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, folder))) return {};
+  return WithoutSeparator(folder);
+}
+
+std::string TemporaryFolder() {
+  return WithoutSeparator(AskText([](char* text, DWORD size) { return GetTempPathA(size, text); }));
 }
 
 std::optional<std::string> EnvironmentValue(const std::string& name) {

@@ -237,6 +237,12 @@ void User::DoubleClicks(int id, Cell at) {
 }
 
 void User::TurnsWheel(int id, int notches, bool shift, bool control) {
+  Control::Peer* peer = Find(id);
+  if (peer != nullptr && (peer->What == Kind::ComboBox || peer->What == Kind::DropDownList)) {
+    peer->TurnWheel(notches);
+    Settle();
+    return;
+  }
   const Surface* surface = ReachSurface(id);
   if (surface != nullptr) {
     Raise(surface->Wheel, WheelTurn{control ? notches : notches * kCellsOfANotch, shift, control});

@@ -276,10 +276,11 @@ void User::DoubleClicks(int id, Cell at) {
 }
 
 void User::TurnsWheel(int id, int notches, bool shift, bool control) {
-  const Control::Peer* peer = Reach(id, {Kind::Surface});
+  const Control::Peer* peer = Find(id);
+  if (peer != nullptr && !peer->DropsDown()) peer = Reach(id, {Kind::Surface});
   if (peer == nullptr) return;
   const int keys = (shift ? MK_SHIFT : 0) | (control ? MK_CONTROL : 0);
-  peer->Send(WM_MOUSEWHEEL, MAKEWPARAM(keys, -notches * WHEEL_DELTA), 0);
+  PostMessageA(peer->Window, WM_MOUSEWHEEL, MAKEWPARAM(keys, -notches * WHEEL_DELTA), 0);
   Settle();
 }
 

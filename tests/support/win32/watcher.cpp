@@ -3,14 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstring>
 #include <string>
 #include <vector>
 
 #include "platform/win32/internals.h"
 #include "resource.h"
 #include "support/expectations.h"
+#include "support/win32/pixels.h"
 
 namespace {
 
@@ -60,25 +59,6 @@ std::vector<HWND> Inside(HWND dialog) {
   return windows;
 }
 
-using Pixels = std::array<DWORD, kIconSide * kIconSide>;
-
-Pixels PixelsOf(HICON icon) {
-  Pixels pixels{};
-  BITMAPINFO info{};
-  info.bmiHeader = {sizeof info.bmiHeader, kIconSide, -kIconSide, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-  void* bits = nullptr;
-  HDC memory = CreateCompatibleDC(nullptr);
-  HBITMAP bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-  HGDIOBJ before = SelectObject(memory, bitmap);
-  DrawIconEx(memory, 0, 0, icon, kIconSide, kIconSide, 0, nullptr, DI_NORMAL);
-  GdiFlush();
-  std::memcpy(pixels.data(), bits, sizeof pixels);
-  SelectObject(memory, before);
-  DeleteObject(bitmap);
-  DeleteDC(memory);
-  return pixels;
-}
-
 Icon MeaningOf(HICON icon) {
   if (icon == nullptr) return Icon::None;
   const struct {
@@ -87,10 +67,14 @@ Icon MeaningOf(HICON icon) {
   } rows[] = {{MAKEINTRESOURCEA(32516), Icon::Information},
               {MAKEINTRESOURCEA(32515), Icon::Exclamation},
               {MAKEINTRESOURCEA(32513), Icon::Critical}};
-  const Pixels pixels = PixelsOf(icon);
+  const auto pixels_of = [](HICON which) {
+    return PixelsOf(kIconSide, kIconSide, [which](HDC target) {
+      DrawIconEx(target, 0, 0, which, kIconSide, kIconSide, 0, nullptr, DI_NORMAL);
+    });
+  };
   for (const auto& row : rows) {
     HICON known = LoadIconA(nullptr, row.Name);
-    if (known == icon || PixelsOf(known) == pixels) return row.Meaning;
+    if (known == icon || pixels_of(known) == pixels_of(icon)) return row.Meaning;
   }
   ADD_FAILURE() << "A message box has an icon of no known meaning";
   return Icon::None;
