@@ -3,12 +3,7 @@
 #include <random>
 
 #include "document/document.h"
-#include "document/file_handles.h"
-#include "document/file_lock.h"
-#include "document/reader.h"
 #include "document/things.h"
-#include "document/writer.h"
-#include "platform/files.h"
 #include "platform/locale.h"
 #include "support/fresh_test.h"
 
@@ -35,44 +30,41 @@ class ThingsModelTest : public FreshTest {
   }
 
   void PutIntoOrder(const ModelThing& thing) {
-    const auto place = std::find_if(model.begin(), model.end(), [&](const ModelThing& other) {
-      return UpperCase(other.Name) > UpperCase(thing.Name);
-    });
-    model.insert(place, thing);
+    model.insert(std::find_if(model.begin(), model.end(),
+                              [&](const auto& other) { return UpperCase(other.Name) > UpperCase(thing.Name); }),
+                 thing);
+  }
+
+  void Relink(const std::string& from, const std::string& to) {
+    for (ModelThing& thing : model) std::replace(std::begin(thing.Links), std::end(thing.Links), from, to);
   }
 
   void Add() {
     const std::string name = FreshName();
     const int record = InsertThing(name);
-    ASSERT_GE(record, 1);
     PutIntoOrder({name, {}, 0});
+    EXPECT_EQ(FindThing(UpperCase(name)), record);
+  }
+
+  ModelThing Take(int index) {
+    ModelThing taken = model[static_cast<std::size_t>(index)];
+    model.erase(model.begin() + index);
+    return taken;
   }
 
   void Delete() {
     const int index = Below(model.size());
     DeleteThing(index + 1);
-    const std::string name = model[static_cast<std::size_t>(index)].Name;
-    model.erase(model.begin() + index);
-    for (ModelThing& thing : model) {
-      for (std::string& link : thing.Links) {
-        if (link == name) link.clear();
-      }
-    }
+    Relink(Take(index).Name, "");
   }
 
   void Rename() {
     const int index = Below(model.size());
-    ModelThing thing = model[static_cast<std::size_t>(index)];
-    const std::string before = thing.Name;
-    thing.Name = FreshName();
+    ModelThing thing = Take(index);
+    const std::string before = std::exchange(thing.Name, FreshName());
     const int record = RenameThing(index + 1, thing.Name);
-    model.erase(model.begin() + index);
     PutIntoOrder(thing);
-    for (ModelThing& other : model) {
-      for (std::string& link : other.Links) {
-        if (link == before) link = thing.Name;
-      }
-    }
+    Relink(before, thing.Name);
     EXPECT_EQ(TheDocument.Things[record].NAME, thing.Name);
   }
 
@@ -100,15 +92,6 @@ class ThingsModelTest : public FreshTest {
       ASSERT_EQ(thing.CATBITMAP, expected.Categories);
     }
   }
-
-  void SaveAndReload() {
-    ReleaseFileLock();
-    Files::Open(kDataFileHandle, "Model.FIL", Files::Mode::Output);
-    SaveFilerFile(kDataFileHandle);
-    Files::Close(kDataFileHandle);
-    MakeNew();
-    ASSERT_TRUE(LoadFilerFile("Model.FIL"));
-  }
 };
 
 TEST_F(ThingsModelTest, LinksStayTrueThroughRandomChanges) {
@@ -128,7 +111,7 @@ TEST_F(ThingsModelTest, LinksStayTrueThroughRandomChanges) {
       } else {
         Change();
       }
-      if (step % 100 == 0) SaveAndReload();
+      if (step % 100 == 0) RequireRoundTrip();
       if (step % 10 == 0) Compare();
       if (HasFatalFailure()) return;
     }

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "support/files.h"
+#include "support/properties.h"
 #include "support/user.h"
 
 class FreshTest : public ::testing::Test {
@@ -22,6 +23,3 @@ std::string InFolder(const std::string& name);
 
 // Lines as a file holds them, each ended by CR LF.
 std::string Lines(const std::vector<std::string>& lines);
-
-// The document in words, a line a record, for comparing; empty members are left out.
-std::string DescribeDocument();

@@ -1,0 +1,107 @@
+// What must hold for every document: see properties.h.
+#include "support/properties.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "document/document.h"
+#include "document/file_handles.h"
+#include "document/file_lock.h"
+#include "document/reader.h"
+#include "document/writer.h"
+#include "platform/files.h"
+#include "shell/messages.h"
+#include "support/files.h"
+
+namespace {
+
+template <class Record, std::size_t kTexts>
+using Texts = std::array<std::pair<const char*, std::string Record::*>, kTexts>;
+
+const Texts<FieldDefinition, 3> kFieldTexts = {
+    {{"keyword", &FieldDefinition::Keyword}, {"title", &FieldDefinition::Title}, {"type", &FieldDefinition::Type}}};
+const Texts<FormulaDefinition, 5> kFormulaTexts = {{{"name", &FormulaDefinition::Name},
+                                                    {"title", &FormulaDefinition::Title},
+                                                    {"type", &FormulaDefinition::Type},
+                                                    {"format", &FormulaDefinition::Format},
+                                                    {"formula", &FormulaDefinition::Formula}}};
+const Texts<ThingRecord, 3> kThingTexts = {
+    {{"name", &ThingRecord::NAME}, {"note", &ThingRecord::NOTE}, {"photo", &ThingRecord::PICFILENAME}}};
+
+std::string Member(const std::string& title, const std::string& text) {
+  return text.empty() ? "" : " " + title + "<" + text + ">";
+}
+
+std::string Member(const std::string& title, int number) {
+  return number == 0 ? "" : " " + title + " " + std::to_string(number);
+}
+
+template <class Table, class Texts, class More>
+std::string Describe(const std::string& kind, const Table& table, const Texts& texts, More more) {
+  std::string lines;
+  for (int number = 1; number <= table.Count(); ++number) {
+    lines += kind + std::to_string(number);
+    for (const auto& [title, text] : texts) lines += Member(title, table[number].*text);
+    lines += more(table[number]) + "\n";
+  }
+  return lines;
+}
+
+std::string NumbersAndValues(const ThingRecord& thing) {
+  std::string line =
+      Member("xref1", thing.XREF1) + Member("xref2", thing.XREF2) + Member("categories", thing.CATBITMAP);
+  for (std::size_t slot = 0; slot < kFieldValues; ++slot) {
+    line += Member("slot" + std::to_string(slot + 1), thing.Values[slot].Text);
+  }
+  return line;
+}
+
+// The first line of each in which two documents differ.
+std::string Difference(const std::string& before, const std::string& after) {
+  const auto at = std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first - before.begin();
+  const std::size_t start = before.rfind('\n', static_cast<std::size_t>(at)) + 1;
+  const auto line = [start](const std::string& text) { return text.substr(start, text.find('\n', start) - start); };
+  return "What was saved comes back different:\n" + line(before) + "\n" + line(after);
+}
+
+}  // namespace
+
+std::string DescribeDocument() {
+  const auto nothing = [](const auto&) { return std::string(); };
+  std::string lines;
+  for (int number = 1; number <= TheDocument.CategoryNames.Highest(); ++number) {
+    lines += "category " + std::to_string(number) + Member("name", TheDocument.CategoryNames[number]) + "\n";
+  }
+  return lines + Describe("field ", TheDocument.Fields, kFieldTexts, nothing) +
+         Describe("formula ", TheDocument.Formulas, kFormulaTexts, nothing) +
+         Describe("thing ", TheDocument.Things, kThingTexts, NumbersAndValues);
+}
+
+std::string JoinedSlots(const FieldSlots& slots) {
+  std::string text;
+  for (const FieldValueSlot& slot : slots) text += slot.Text + "|";
+  return text;
+}
+
+std::string Saved(const std::string& name) {
+  Files::Open(kDataFileHandle, name, Files::Mode::Output);
+  SaveFilerFile(kDataFileHandle);
+  Files::Close(kDataFileHandle);
+  return TestFiles::Get(name).value();
+}
+
+void RequireRoundTrip() {
+  const std::string before = DescribeDocument();
+  const std::string file = Saved("Trip.FIL");
+  Require(DescribeDocument() == before, "saving changes nothing");
+  MakeNew();
+  TheDocument = {};
+  const int said = Global::MessagesSaid();
+  Require(LoadFilerFile("Trip.FIL") && Global::MessagesSaid() == said, "what was saved loads without a word");
+  const std::string after = DescribeDocument();
+  if (after != before) throw std::logic_error(Difference(before, after));
+  Require(Saved() == file, "a second save writes the same bytes");
+  ReleaseFileLock();
+  Require(TestFiles::Get("Trip.FIL") == file, "loading changes no file");
+}
