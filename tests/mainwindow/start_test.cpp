@@ -1,6 +1,7 @@
 // What the program reads at its start: the command line, file names and the settings file; and its address titles.
 #include <algorithm>
 
+#include "document/copies.h"
 #include "document/document.h"
 #include "mainwindow/address_titles.h"
 #include "mainwindow/command_line.h"
@@ -55,20 +56,33 @@ C:\,sub\Home.FIL => C:\sub\Home.FIL | C:\Data,\Home.FIL => \Home.FIL | C:\Data,H
     EXPECT_EQ(Global::FullFileName(folder, name), full);
   }
   EXPECT_EQ(Global::FullFileName("", "Home.FIL"), InFolder("Home.FIL"));
-  for (const auto& [name, folder] :
-       Rows(R"T(C:\Data\Home.FIL => C:\Data | C:\Home.FIL => C:\ | C:Home.FIL => C: | C:/Data/Home.FIL => C:/Data
-\Home.FIL => \ | Home.FIL => )T")) {
+  for (const auto& [name, folder] : Rows(R"T(C:\Data\Home.FIL => C:\Data | C:\Home.FIL => C:\ | C:Home.FIL => C:
+\Home.FIL => \ | C:/a.b/Home => C:/a.b | Home.FIL => )T")) {
     EXPECT_EQ(FolderOf(name), folder);
   }
-  // A photo's name and the data file's, and the places where the photo may be.
-  for (const auto& [names, expected] : Rows(R"T(a.jpg, => C:\W\a.jpg; | p\a.jpg,C:\D\x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg;
-p/a.jpg,C:/D/x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg; | E:\o\p\a.jpg, => E:\o\p\a.jpg;
-E:\o/p\a.jpg,C:\x.FIL => E:\o\p\a.jpg;C:\a.jpg;C:\p\a.jpg;C:\o\p\a.jpg; | E:a.jpg,C:\x.FIL => E:a.jpg;C:\a.jpg;
-\p\a.jpg,C:\x.FIL => \p\a.jpg;C:\a.jpg;C:\p\a.jpg; | \\s\a.jpg,C:\x.FIL => \\s\a.jpg;C:\a.jpg;C:\s\a.jpg;)T")) {
-    const auto [name, data_file] = Halves(names, ',');
-    std::string places;
-    for (const std::string& place : PhotoPlaces(name, data_file, R"(C:\W)")) places += place + ";";
-    EXPECT_EQ(places, expected) << names;
+}
+
+TEST_F(StartTest, CopiesAndPhotosHaveTheirPlaces) {
+  for (const auto& [name, backup] : Rows(R"T(C:\a\Home.FIL => C:\a\Home.BAK | C:\a.b\Home => C:\a.b\Home.BAK
+C:/a.b/Home => C:/a.b/Home.BAK | C:\a.b.c => C:\a.b.BAK)T")) {
+    EXPECT_EQ(BackupName(name), backup);
+    EXPECT_EQ(SavingName(name, 1), name + ".saving");
+    EXPECT_EQ(SavingName(name, 2), name + ".saving2");
+  }
+  const std::string folder = "C:\\" + std::string(243, 'f') + "\\";
+  EXPECT_EQ(SavingName(folder + "Home1.FIL", 1), folder + "Ho.saving");
+  EXPECT_EQ(SavingName(folder + "H.FIL", 12), folder + "ing12");
+  EXPECT_TRUE(SameFile("c:/Data\\home.fil", "C:\\DATA/Home.FIL"));
+  EXPECT_FALSE(SameFile("C:\\Data\\Home.FIL", "C:\\Data\\Home2.FIL"));
+  for (const auto& [given, places] : Rows(R"T(a.jpg, => C:\W\a.jpg
+p\a.jpg,C:\D\x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg | p/a.jpg,C:/D/x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg
+E:\o\p\a.jpg, => E:\o\p\a.jpg | E:\o/p\a.jpg,C:\x.FIL => E:\o\p\a.jpg;C:\a.jpg;C:\p\a.jpg;C:\o\p\a.jpg
+\p\a.jpg,C:\x.FIL => \p\a.jpg;C:\a.jpg;C:\p\a.jpg | \\s\a.jpg,C:\x.FIL => \\s\a.jpg;C:\a.jpg;C:\s\a.jpg
+E:a.jpg,C:\x.FIL => E:a.jpg;C:\a.jpg)T")) {
+    const auto [name, data_file] = Halves(given, ',');
+    std::string found;
+    for (const std::string& place : PhotoPlaces(name, data_file, "C:\\W")) found += (found.empty() ? "" : ";") + place;
+    EXPECT_EQ(found, places) << given;
   }
 }
 

@@ -5,6 +5,18 @@
 
 #include <utility>
 
+#include "support/hands.h"
+
+std::string NameOf(Icon icon) {
+  constexpr const char* kNames[] = {"no icon", "information", "exclamation", "critical"};
+  return kNames[static_cast<std::size_t>(icon)];
+}
+
+std::string NameOf(Buttons buttons) {
+  constexpr const char* kNames[] = {"OK", "OK/Cancel", "Yes/No"};
+  return kNames[static_cast<std::size_t>(buttons)];
+}
+
 namespace {
 
 const char* NameOf(Answer answer) {
@@ -17,32 +29,6 @@ const char* NameOf(Answer answer) {
       return "Yes";
     case Answer::No:
       return "No";
-  }
-  return "?";
-}
-
-const char* NameOf(Icon icon) {
-  switch (icon) {
-    case Icon::None:
-      return "no icon";
-    case Icon::Information:
-      return "information";
-    case Icon::Exclamation:
-      return "exclamation";
-    case Icon::Critical:
-      return "critical";
-  }
-  return "?";
-}
-
-const char* NameOf(Buttons buttons) {
-  switch (buttons) {
-    case Buttons::Ok:
-      return "OK";
-    case Buttons::OkCancel:
-      return "OK/Cancel";
-    case Buttons::YesNo:
-      return "Yes/No";
   }
   return "?";
 }
@@ -77,6 +63,7 @@ Expectations& Expected() {
 }
 
 void Expectations::Start() {
+  Told = nullptr;
   queue_.clear();
   LastCaption.clear();
   LastOffered.clear();
@@ -121,6 +108,7 @@ void Expectations::ExpectFile(std::string_view name) {
 }
 
 Answer Expectations::MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
+  if (Told != nullptr) return Told->MessageCame(text, caption, buttons, icon);
   Item came;
   came.Text = text;
   came.Sign = icon;
@@ -135,6 +123,7 @@ Answer Expectations::MessageCame(const std::string& text, const std::string& cap
 }
 
 std::string Expectations::InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) {
+  if (Told != nullptr) return Told->InputCame(prompt, caption, offered);
   LastOffered = offered;
   Item came;
   came.What = Kind::Input;
@@ -143,7 +132,8 @@ std::string Expectations::InputCame(const std::string& prompt, const std::string
   return Take(came, caption, expected) ? expected.Reply : "";
 }
 
-std::string Expectations::FileDialogCame(const std::string& caption) {
+std::string Expectations::FileDialogCame(const std::string& caption, const std::string& asked) {
+  if (Told != nullptr) return Told->FileDialogCame(asked);
   Item came;
   came.What = Kind::File;
   Item expected;
@@ -151,6 +141,7 @@ std::string Expectations::FileDialogCame(const std::string& caption) {
 }
 
 std::function<void()> Expectations::FormCame(int template_id, const std::string& caption) {
+  if (Told != nullptr) return [this, form = Hands::OpenForms().back()] { Told->FormCame(*form); };
   Item came;
   came.What = Kind::Form;
   came.Template = template_id;
@@ -160,6 +151,7 @@ std::function<void()> Expectations::FormCame(int template_id, const std::string&
 }
 
 void Expectations::FormLeftOpen(int template_id, const std::string& caption) {
+  if (Told != nullptr) return;  // who has said so
   ADD_FAILURE() << "Form " << template_id << " \"" << caption << "\" was left open";
 }
 
@@ -189,7 +181,7 @@ bool Expectations::Take(const Item& came, const std::string& caption, Item& expe
 std::string Expectations::Describe(const Item& item) {
   switch (item.What) {
     case Kind::Message:
-      return std::string("a message box (") + NameOf(item.Offer) + ", " + NameOf(item.Sign) + ") \"" + item.Text + "\"";
+      return "a message box (" + NameOf(item.Offer) + ", " + NameOf(item.Sign) + ") \"" + item.Text + "\"";
     case Kind::Input:
       return "an input box \"" + item.Text + "\"";
     case Kind::Form:

@@ -16,6 +16,7 @@
 #include <string_view>
 
 #include "platform/message.h"
+#include "support/listener.h"
 
 class Expectations {
  public:
@@ -33,14 +34,17 @@ class Expectations {
   // An input box came: the text to type before OK, or empty to cancel. Unexpected: empty.
   std::string InputCame(const std::string& prompt, const std::string& caption, const std::string& offered);
 
-  // A file dialog came: the name to choose, or empty to cancel. Unexpected: empty.
-  std::string FileDialogCame(const std::string& caption);
+  // A file dialog came, asked for that, in words: the name to choose, or empty to cancel. Unexpected: empty.
+  std::string FileDialogCame(const std::string& caption, const std::string& asked);
 
   // A modal form came: what the person does to it. Unexpected: an empty function.
   std::function<void()> FormCame(int template_id, const std::string& caption);
 
   // The person is done with a form and it is still there.
   void FormLeftOpen(int template_id, const std::string& caption);
+
+  // Takes over from the queue while it is set.
+  Listener* Told = nullptr;
 
   bool Empty() const { return queue_.empty(); }
 
@@ -69,6 +73,9 @@ class Expectations {
 
   std::deque<Item> queue_;
 };
+
+std::string NameOf(Icon icon);
+std::string NameOf(Buttons buttons);
 
 // The queue of the running test.
 Expectations& Expected();

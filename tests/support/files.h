@@ -17,7 +17,8 @@ void Put(const std::string& name, std::string_view bytes);
 std::optional<std::string> Get(const std::string& name);  // nothing when there is no such file
 void SetReadOnly(const std::string& name, bool read_only);
 void MakeFolder(const std::string& name);
-std::vector<std::string> List();  // names of the files in the folder, sorted
+// Names of the files in the folder, or in one below it, sorted.
+std::vector<std::string> List(const std::string& below = "");
 
 // Another program's handle on a file, until released: one that keeps others from writing (the lock a
 // second running copy holds), or from everything.

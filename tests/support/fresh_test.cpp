@@ -9,6 +9,11 @@
 
 void FreshTest::SetUp() {
   TestFiles::Start();
+  StartFresh();
+}
+
+void FreshTest::StartFresh() {
+  ReleaseFileLock();
   TheDocument = {};
   TheRecentFiles = {};
   TheStart = {};

@@ -14,6 +14,7 @@ class FreshTest : public ::testing::Test {
  protected:
   void SetUp() override;
   void TearDown() override;
+  static void StartFresh();  // as a new process of the program
 
   User user;
 };

@@ -54,9 +54,15 @@ void Control::SetText(std::string_view text) {
 }
 
 bool Control::Enabled() const { return peer_->Enabled; }
-void Control::SetEnabled(bool enabled) { peer_->Enabled = enabled; }
+void Control::SetEnabled(bool enabled) {
+  peer_->Enabled = enabled;
+  peer_->Owner->PeerOf().LeaveUnreachable();
+}
 bool Control::Visible() const { return peer_->Visible; }
-void Control::SetVisible(bool visible) { peer_->Visible = visible; }
+void Control::SetVisible(bool visible) {
+  peer_->Visible = visible;
+  peer_->Owner->PeerOf().LeaveUnreachable();
+}
 
 void Control::SetFocus() {
   if (peer_->TakesFocus()) peer_->Owner->PeerOf().MoveFocus(this);
@@ -81,9 +87,20 @@ int Control::Peer::PositionOf(const std::string& entry) const {
   return found == Entries.end() ? -1 : static_cast<int>(found - Entries.begin());
 }
 
+void Control::Peer::MarkAll() {
+  MarkFirst = 0;
+  MarkLast = static_cast<int>(Text.size());
+}
+
+void Control::Peer::Entered() {
+  if (What == Kind::TextBox || (What == Kind::ComboBox && !EnteredBefore)) MarkAll();
+  EnteredBefore = true;
+}
+
 void Control::Peer::ChangeText(const std::string& text) {
   if (text == Text) return;
   Text = text;
+  MarkFirst = MarkLast = 0;
   if (What == Kind::TextBox) Raise(static_cast<TextBox*>(Self)->Change);
   if (What == Kind::ComboBox) {
     Selected = -1;
@@ -96,6 +113,7 @@ void Control::Peer::ChangeSelection(int position) {
   const bool moved = position != Selected;
   Selected = position;
   if (What != Kind::ListBox) Text = position < 0 ? "" : Entries[static_cast<std::size_t>(position)].Text;
+  if (What == Kind::ComboBox) MarkAll();
   if (moved) Raise(static_cast<ListControl*>(Self)->Click);
 }
 

@@ -19,9 +19,13 @@ void TextBox::SetReadOnly(bool read_only) { PeerOf().ReadOnly = read_only; }
 bool TextBox::ReadOnly() const { return PeerOf().ReadOnly; }
 void TextBox::SetTextLimit(int characters) { PeerOf().TextLimit = characters; }
 
-// Nothing is marked here: what a person types replaces everything anyway.
-void TextBox::SelectAll() {}
-void TextBox::SelectText(int /*first*/, int /*last*/) {}
+// What a person types replaces everything anyway.
+void TextBox::SelectAll() { PeerOf().MarkAll(); }
+
+void TextBox::SelectText(int first, int last) {
+  PeerOf().MarkFirst = first;
+  PeerOf().MarkLast = last;
+}
 
 void Button::SetBackColor(::BackColor color) { PeerOf().Back = color; }
 ::BackColor Button::BackColor() const { return PeerOf().Back; }

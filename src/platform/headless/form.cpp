@@ -118,8 +118,19 @@ void Form::Peer::MoveFocus(Control* control) {
   const Event lost = Shown && Focus != nullptr ? Focus->LostFocus : Event();
   const Event got = Shown && control != nullptr ? control->GotFocus : Event();
   Focus = control;
+  if (control != nullptr) control->PeerOf().Entered();
   if (lost) lost();
   if (got) got();
+}
+
+void Form::Peer::LeaveUnreachable() {
+  if (!Shown || Focus == nullptr || Focus->PeerOf().TakesFocus()) return;
+  const auto old = std::find(InOrder.begin(), InOrder.end(), Focus);
+  std::vector<Control*> next(old, InOrder.end());
+  next.insert(next.end(), InOrder.begin(), old);
+  const auto found =
+      std::find_if(next.begin(), next.end(), [](const Control* each) { return each->PeerOf().TakesFocus(); });
+  if (found != next.end()) MoveFocus(*found);
 }
 
 void Form::Peer::RunDeferred() {
@@ -146,6 +157,7 @@ void Form::Peer::Appear() {
         std::find_if(InOrder.begin(), InOrder.end(), [](const Control* each) { return each->PeerOf().TakesFocus(); });
     Focus = first == InOrder.end() ? nullptr : *first;
   }
+  if (Focus != nullptr) Focus->PeerOf().Entered();
   if (Focus != nullptr && Focus->GotFocus) Focus->GotFocus();
   Self->Form_Activate();
 }

@@ -44,12 +44,15 @@ struct Control::Peer {
   std::vector<ListEntry> Entries;   // lists, the check list included
   int Selected = -1;                // lists
   std::vector<bool> Ticks;          // check list
-  int MarkFirst = 0, MarkLast = 0;  // combo: the marked part of the edit text
+  int MarkFirst = 0, MarkLast = 0;  // text box, combo: the marked part of the text
   double TextSize = 10;             // surface
   Page Shown;                       // surface
   bool OnPaper = false;             // surface
+  bool EnteredBefore = false;       // combo
   std::map<Surface::Bar, SurfaceBar> Bars;
 
+  void MarkAll();
+  void Entered();           // got the focus: a text box marks its text, a combo the first time
   bool TakesFocus() const;  // of a kind that can, visible and enabled
   bool Editable() const { return What == Kind::TextBox || What == Kind::ComboBox; }
   bool HasEntries() const;                         // any list, the check list included
@@ -82,6 +85,7 @@ struct Form::Peer {
 
   Control* Find(int id) const;       // nullptr when there is none
   void MoveFocus(Control* control);  // raises LostFocus and GotFocus while the form is shown
+  void LeaveUnreachable();           // moves the focus on from a control that was hidden or disabled
   void RunDeferred();                // when the person has done what there was to do
   void Load();
   void Appear();  // Form_Load, onto the stack, first focus, Form_Activate

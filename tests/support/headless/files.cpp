@@ -36,7 +36,9 @@ void Put(const std::string& name, std::string_view bytes) { Machine::PutFile(nam
 std::optional<std::string> Get(const std::string& name) { return Machine::FileBytes(name); }
 void SetReadOnly(const std::string& name, bool read_only) { Machine::SetReadOnly(name, read_only); }
 void MakeFolder(const std::string& name) { Machine::MakeFolder(name); }
-std::vector<std::string> List() { return Machine::FilesIn(kFolder); }
+std::vector<std::string> List(const std::string& below) {
+  return Machine::FilesIn(below.empty() ? kFolder : kFolder + "\\" + below);
+}
 
 void HoldByOther(const std::string& name, bool against_readers) { Machine::HoldByOther(name, against_readers); }
 void ReleaseByOther() { Machine::ReleaseByOther(); }

@@ -8,6 +8,7 @@
 
 #include "platform/headless/internals.h"
 #include "support/expectations.h"
+#include "support/files.h"
 
 namespace {
 
@@ -95,7 +96,12 @@ User::User() {
   stage.Input = [](const std::string& prompt, const std::string& caption, const std::string& offered) {
     return Expected().InputCame(prompt, caption, offered);
   };
-  stage.File = [](const FileChoice& choice) { return Expected().FileDialogCame(choice.Caption); };
+  stage.File = [](const FileChoice& choice) {
+    std::string asked = choice.Caption + " | " + choice.PatternTitle + " (" + choice.Pattern + ")";
+    if (!choice.Name.empty()) asked += " | " + choice.Name;
+    if (!choice.Folder.empty() && choice.Folder != TestFiles::Folder()) asked += " | in " + choice.Folder;
+    return Expected().FileDialogCame(choice.Caption, asked + (choice.ForWriting ? " | to write" : ""));
+  };
   stage.Use = UseForm;
 }
 

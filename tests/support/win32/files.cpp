@@ -107,9 +107,9 @@ void MakeFolder(const std::string& name) {
   Require(CreateDirectoryA(name.c_str(), nullptr) || GetLastError() == ERROR_ALREADY_EXISTS, "make " + name);
 }
 
-std::vector<std::string> List() {
+std::vector<std::string> List(const std::string& below) {
   std::vector<std::string> names;
-  ForEachIn(folder, [&names](const std::string& name, bool is_folder) {
+  ForEachIn(below.empty() ? folder : folder + "\\" + below, [&names](const std::string& name, bool is_folder) {
     if (!is_folder) names.push_back(name);
   });
   std::sort(names.begin(), names.end());

@@ -1,6 +1,7 @@
 // The watcher over message boxes, input boxes, file dialogs and forms on real windows.
 #include "support/win32/watcher.h"
 
+#include <commdlg.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -9,6 +10,7 @@
 #include "platform/win32/internals.h"
 #include "resource.h"
 #include "support/expectations.h"
+#include "support/files.h"
 #include "support/win32/pixels.h"
 
 namespace {
@@ -116,24 +118,42 @@ void AnswerMessageBox(HWND box, const std::string& text, Icon icon) {
   PostMessageA(pressed, BM_CLICK, 0, 0);
 }
 
-void AnswerFileDialog(HWND dialog) {
-  const std::string name = Expected().FileDialogCame(TextOfWindow(dialog));
-  if (name.empty()) {
-    PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
-    return;
-  }
+// The field that takes the file name; null when the dialog has none.
+HWND NameField(HWND dialog) {
   for (HWND child : Inside(dialog)) {
     const int id = GetDlgCtrlID(child);
     const int parent_id = GetDlgCtrlID(GetParent(child));
-    if (ClassOf(child) != "Edit") continue;
-    if (id != kFileNameEdit && id != kFileNameCombo && parent_id != kFileNameCombo && id != 0x3E9 && id != 1001)
-      continue;
-    SendMessageA(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
-    PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+    const bool is_field = id == kFileNameEdit || id == kFileNameCombo || parent_id == kFileNameCombo || id == 0x3E9;
+    if (ClassOf(child) == "Edit" && is_field) return child;
+  }
+  return nullptr;
+}
+
+// What a file dialog is asked for, in words.
+std::string AskedOf(HWND dialog, HWND field) {
+  std::string asked = TextOfWindow(dialog);
+  for (HWND child : Inside(dialog)) {
+    const std::string text = ClassOf(child) == "ComboBox" ? TextOfWindow(child) : "";
+    if (text.find("(*.") != std::string::npos) asked += " | " + text;
+  }
+  if (field != nullptr && !TextOfWindow(field).empty()) asked += " | " + TextOfWindow(field);
+  char folder[MAX_PATH] = "";
+  SendMessageA(dialog, CDM_GETFOLDERPATH, sizeof folder, reinterpret_cast<LPARAM>(folder));
+  if (folder[0] != 0 && TestFiles::Folder() != folder) asked += std::string(" | in ") + folder;
+  if (TextOfWindow(GetDlgItem(dialog, IDOK)) == "&Save") asked += " | to write";
+  return asked;
+}
+
+void AnswerFileDialog(HWND dialog) {
+  HWND field = NameField(dialog);
+  const std::string name = Expected().FileDialogCame(TextOfWindow(dialog), AskedOf(dialog, field));
+  if (field == nullptr) ADD_FAILURE() << "A dialog \"" << TextOfWindow(dialog) << "\" came that takes no file name";
+  if (name.empty() || field == nullptr) {
+    PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
     return;
   }
-  ADD_FAILURE() << "A dialog \"" << TextOfWindow(dialog) << "\" came that takes no file name";
-  PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+  SendMessageA(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+  PostMessageA(dialog, WM_COMMAND, IDOK, 0);
 }
 
 void AnswerInputBox(const Form& form) {
