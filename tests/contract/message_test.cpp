@@ -41,7 +41,7 @@ TEST_F(MessageTest, WhatNobodyExpectedFailsTheTest) {
       {[&] { user.Reads("text", Icon::Critical), MsgBox("text", "T"); }, "critical"},
       {[&] { user.Answers("text", Answer::Ok, Icon::None, Buttons::OkCancel), MsgBox("text", "T"); }, "Cancel"},
       {[&] { user.Answers("text", Answer::Yes, Icon::None, Buttons::Ok), MsgBox("text", "T"); }, "Yes"},
-      {[&] { user.Reads("never", Icon::None), Expected().Finish(); }, "never"},
+      {[&] { user.Reads("never", Icon::None), Expected().Finish(), Expected().Start(); }, "never"},
       {[&] { form.ShowModal(); }, "5000"},
       {[&] { user.UsesForm(IDD_TestForm, [] {}), form.ShowModal(); }, "5000"},
       {[&] { Use([&] { form.LineBox.SetVisible(false), user.Types(IDC_LineBox, "x"); }); }, "5012"},

@@ -5,7 +5,7 @@
 
 void MainFormTest::SetUp() {
   FreshTest::SetUp();
-  Expected().Title = "Larkspur Filer";
+
 }
 
 void MainFormTest::Start(const std::string& command_line) {

@@ -11,7 +11,6 @@
 #include "platform/program.h"
 #include "platform/runtime_error.h"
 #include "shell/messages.h"
-#include "support/expectations.h"
 #include "support/hands.h"
 #include "support/names.h"
 
@@ -62,7 +61,7 @@ Story::~Story() = default;
 void Story::SetUp() {
   FreshTest::SetUp();
   ResetMachine();
-  Expected().Told = this;
+  TheListener() = this;
 }
 
 void Story::TearDown() {
@@ -222,7 +221,7 @@ std::string Story::InputCame(const std::string& prompt, const std::string& capti
   return reply ? reply->Text : "";
 }
 
-std::string Story::FileDialogCame(const std::string& asked) {
+std::string Story::FileDialogCame(const std::string& /*caption*/, const std::string& asked) {
   Say("file dialog: " + asked);
   const auto reply = Take({"chooses", "cancel"}, asked);
   return reply ? reply->Text : "";

@@ -68,7 +68,7 @@ class Story : public FreshTest, public Listener {
 
   Answer MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
   std::string InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) override;
-  std::string FileDialogCame(const std::string& asked) override;
+  std::string FileDialogCame(const std::string& caption, const std::string& asked) override;
   void FormCame(Form& form) override;
 
  private:

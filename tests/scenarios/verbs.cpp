@@ -204,7 +204,11 @@ std::map<std::string, Verb> PersonVerbs() {
       {"leave", [](Story& story, const std::string&) { story.Leave(); }},
       {"start", StartProgram},
       {"viewer", StartViewer},
-      {"shutdown", [](Story&, const std::string&) { Hands::ShutDown(*Hands::OpenForms().back()); }},
+      {"shutdown",
+       [](Story&, const std::string&) {
+         Hands::ShutDown(*Hands::OpenForms().back());
+         Hands::Settle();
+       }},
       {"type", OnFocused([](User& user, int id, const std::string& text) { user.Types(id, text); }, Shows::Text)},
       {"click", Click},
       {"focus", OnFocused([](User& user, int id, const std::string&) { user.MovesTo(id); }, Shows::Marked)},

@@ -1,4 +1,5 @@
-// What each platform does for a test's person: the same dozen of acts and looks, in memory and on real windows.
+// What each platform does for a test's person: the same acts and looks, in memory and on real windows. Whether
+// an act can be done was looked at before.
 #pragma once
 
 #include <map>
@@ -12,15 +13,20 @@
 
 namespace Hands {
 
+// The listener of the test is told of what comes up from now on; of nothing any more.
+void Begin();
+void End();
+
 // What a control shows, read off the window itself.
 struct Sight {
   std::string Text;
   bool Enabled = false, Visible = false, Bold = false, Focused = false;
-  int Selected = -1;         // lists
-  std::pair<int, int> Mark;  // of a box's text: from, up to
+  std::vector<std::string> Entries;  // lists
+  int Selected = -1;                 // lists
+  std::vector<bool> Ticks;           // check list
+  std::pair<int, int> Mark;          // of a box's text: from, up to
 };
 Sight LookAt(const Control& control);
-bool Ticked(const CheckList& list, int position);
 Page PageOn(const Surface& surface);
 int BarOn(const Surface& surface, Surface::Bar bar);  // -1 when there is nothing to scroll
 
@@ -28,8 +34,22 @@ std::vector<Form*> OpenForms();  // the topmost last
 int TemplateOf(const Form& form);
 const std::map<int, Control*>& ControlsOf(const Form& form);
 
-// The system is about to shut down and asks; true when the form has nothing against it.
-void ShutDown(Form& form);
+void MoveTo(Control& control);  // the focus, when it takes that
+void Type(Control& box, const std::string& text);
+void Click(Control& control);
+void Select(ListControl& list, int position);
+void TurnOver(CheckList& list, int position);
+bool CanChoose(const Form& form, int item);  // as when its menu opens
+void Choose(Form& form, int item);
+void Press(Form& form, const KeyPress& key);
+void PressControl(Form& form, char letter);
+void Drag(Surface& surface, Cell from, Cell to, bool shift);
+void DoubleClick(Control& control, Cell at);  // a surface at a cell, or a picture
+void TurnWheel(Control& control, int notches, bool shift, bool control_key);
+void PageBar(Surface& surface, Surface::Bar bar, int pages);
+void Close(Form& form);
+void ShutDown(Form& form);  // the system asks whether it may
+void Settle();              // lets everything happen that an act set off
 
 // The command lines of the programs started since the last call; only the in-memory machine knows.
 std::vector<std::string> StartedPrograms();

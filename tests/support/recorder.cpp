@@ -110,31 +110,24 @@ bool FollowsInRow(int form, int id, const std::vector<int>& next) {
   return next.size() == 1 && next[0] == id + 1 && NamesOf(form, {id, id + 1}).find(',') == std::string::npos;
 }
 
-void SeeLists(const Control& control, std::map<std::string, std::string>& told, Texts& entries) {
-  if (const auto* list = dynamic_cast<const ListControl*>(&control)) {
-    for (const ListEntry& entry : list->Entries()) entries.push_back(entry.Text);
-    const int selected = Hands::LookAt(control).Selected;
-    const bool box = dynamic_cast<const ListBox*>(&control) != nullptr;
-    if (box && selected >= 0) told[""] = Quoted(entries.at(static_cast<std::size_t>(selected)));
+// What a list or surface shows beside its text; gives its entries or rows.
+Texts SeeInside(const Control& control, const Hands::Sight& sight, std::map<std::string, std::string>& told) {
+  Texts ticked;
+  for (std::size_t at = 0; at < sight.Ticks.size(); ++at) {
+    if (sight.Ticks[at]) ticked.push_back(sight.Entries[at]);
   }
-  if (const auto* list = dynamic_cast<const CheckList*>(&control)) {
-    Texts ticked;
-    for (int position = 0; position < list->Count(); ++position) {
-      entries.push_back(list->EntryText(position));
-      if (Hands::Ticked(*list, position)) ticked.push_back(list->EntryText(position));
-    }
-    if (!ticked.empty()) told[" ticked"] = Joined(ticked);
+  if (!ticked.empty()) told[" ticked"] = Joined(ticked);
+  const bool box = dynamic_cast<const ListBox*>(&control) != nullptr;
+  if (box && sight.Selected >= 0) told[""] = Quoted(sight.Entries.at(static_cast<std::size_t>(sight.Selected)));
+  const auto* surface = dynamic_cast<const Surface*>(&control);
+  if (surface == nullptr) return sight.Entries;
+  const Page page = Hands::PageOn(*surface);
+  if (page.ShowsCaret) told[" caret"] = std::to_string(page.Caret.Column) + "," + std::to_string(page.Caret.Row);
+  for (const auto& [bar, name] : {std::pair(Surface::Bar::Across, " across"), std::pair(Surface::Bar::Down, " down")}) {
+    const int position = Hands::BarOn(*surface, bar);
+    if (position >= 0) told[name] = std::to_string(position);
   }
-  if (const auto* surface = dynamic_cast<const Surface*>(&control)) {
-    entries = RowsOfPage(Hands::PageOn(*surface));
-    const Page page = Hands::PageOn(*surface);
-    if (page.ShowsCaret) told[" caret"] = std::to_string(page.Caret.Column) + "," + std::to_string(page.Caret.Row);
-    for (const auto& [bar, name] :
-         {std::pair(Surface::Bar::Across, " across"), std::pair(Surface::Bar::Down, " down")}) {
-      const int position = Hands::BarOn(*surface, bar);
-      if (position >= 0) told[name] = std::to_string(position);
-    }
-  }
+  return RowsOfPage(page);
 }
 
 std::set<std::string> MarksOf(const Control& control, const Hands::Sight& sight) {
@@ -198,7 +191,7 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
     const bool marked = topmost && sight.Focused && sight.Mark.first != sight.Mark.second;
     if (marked && !Names::HasLines(form_id, id)) told[""] += MarkIn(sight);
     if (!control->ToolTip().empty()) told[" tip"] = Quoted(control->ToolTip());
-    SeeLists(*control, told, state.Lists[id]);
+    state.Lists[id] = SeeInside(*control, sight, told);
     if (dynamic_cast<const Surface*>(control) != nullptr) state.Pages.insert(id);
     for (const std::string& mark : MarksOf(*control, sight)) state.Marks.emplace(mark, id);
     if (topmost && sight.Focused) state.Marks.emplace("focus", id);

@@ -1,21 +1,84 @@
 // A person's hands on the in-memory platform: straight on the peers.
 #include "support/hands.h"
 
+#include <algorithm>
+
 #include "platform/headless/internals.h"
 #include "platform/headless/machine.h"
+#include "support/files.h"
+#include "support/listener.h"
+
+namespace {
+
+using Kind = Control::Peer::Kind;
+
+constexpr int kEnterButton = 1, kEscapeButton = 2;
+constexpr int kCellsOfANotch = 3;
+
+std::string InWords(const FileChoice& choice) {
+  std::string words = choice.Caption + " | " + choice.PatternTitle + " (" + choice.Pattern + ")";
+  if (!choice.Name.empty()) words += " | " + choice.Name;
+  if (!choice.Folder.empty() && choice.Folder != TestFiles::Folder()) words += " | in " + choice.Folder;
+  return words + (choice.ForWriting ? " | to write" : "");
+}
+
+// The handler is copied first: it may change what it stands in.
+template <typename Handler, typename... Arguments>
+auto Raise(const Handler& handler, const Arguments&... arguments) {
+  const Handler kept = handler;
+  using Result = decltype(kept(arguments...));
+  return kept ? kept(arguments...) : Result();
+}
+
+// Enter and Esc go to the button of that id; a form without one is told itself.
+void PressOn(const Form& form, int button_id, const Event& otherwise) {
+  Control* button = form.PeerOf().Find(button_id);
+  if (button == nullptr || button->PeerOf().What != Kind::Button) {
+    Raise(otherwise);
+  } else if (button->Enabled() && button->Visible()) {
+    button->PeerOf().Click();
+  }
+}
+
+void PressEnter(const Form& form) {
+  Control* focused = form.PeerOf().Focus;
+  if (focused != nullptr && focused->PeerOf().What == Kind::Button && focused->PeerOf().TakesFocus()) {
+    focused->PeerOf().Click();
+  } else {
+    PressOn(form, kEnterButton, form.EnterKey);
+  }
+}
+
+const Surface* FocusedSurface(const Form& form) { return dynamic_cast<const Surface*>(form.PeerOf().Focus); }
+
+}  // namespace
+
+void Hands::Begin() {
+  Stage& stage = CurrentStage();
+  stage.Message = [](const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
+    return TheListener()->MessageCame(text, caption, buttons, icon);
+  };
+  stage.Input = [](const std::string& prompt, const std::string& caption, const std::string& offered) {
+    return TheListener()->InputCame(prompt, caption, offered);
+  };
+  stage.File = [](const FileChoice& choice) { return TheListener()->FileDialogCame(choice.Caption, InWords(choice)); };
+  stage.Use = [](Form& form) {
+    TheListener()->FormCame(form);
+    form.PeerOf().Closed = true;
+  };
+}
+
+void Hands::End() { CurrentStage() = Stage(); }
 
 Hands::Sight Hands::LookAt(const Control& control) {
   const Control::Peer& peer = control.PeerOf();
-  return {peer.Text,
-          peer.Enabled,
-          peer.Visible,
-          peer.Bold,
-          control.HasFocus(),
-          peer.Selected,
-          {peer.MarkFirst, peer.MarkLast}};
+  Sight sight{peer.Text,     peer.Enabled,       peer.Visible,
+              peer.Bold,     control.HasFocus(), {},
+              peer.Selected, peer.Ticks,         {peer.MarkFirst, peer.MarkLast}};
+  for (const ListEntry& entry : peer.Entries) sight.Entries.push_back(entry.Text);
+  return sight;
 }
 
-bool Hands::Ticked(const CheckList& list, int position) { return list.Checked(position); }
 Page Hands::PageOn(const Surface& surface) { return surface.PeerOf().Shown; }
 
 int Hands::BarOn(const Surface& surface, Surface::Bar bar) {
@@ -26,5 +89,75 @@ int Hands::BarOn(const Surface& surface, Surface::Bar bar) {
 std::vector<Form*> Hands::OpenForms() { return ::OpenForms(); }
 int Hands::TemplateOf(const Form& form) { return form.PeerOf().Template; }
 const std::map<int, Control*>& Hands::ControlsOf(const Form& form) { return form.PeerOf().Controls; }
+
+void Hands::MoveTo(Control& control) { control.SetFocus(); }
+
+void Hands::Type(Control& box, const std::string& text) {
+  Control::Peer& peer = box.PeerOf();
+  peer.ChangeText(peer.TextLimit > 0 ? text.substr(0, static_cast<std::size_t>(peer.TextLimit)) : text);
+}
+
+void Hands::Click(Control& control) { control.PeerOf().Click(); }
+void Hands::Select(ListControl& list, int position) { list.PeerOf().ChangeSelection(position); }
+void Hands::TurnOver(CheckList& list, int position) { list.PeerOf().ChangeTick(position, !list.Checked(position)); }
+bool Hands::CanChoose(const Form& form, int item) { return form.MenuEnabled(item); }
+void Hands::Choose(Form& form, int item) { Raise(form.MenuClick, item); }
+
+void Hands::Press(Form& form, const KeyPress& key) {
+  if (key.What == Key::Escape) return PressOn(form, kEscapeButton, form.EscapeKey);
+  if (key.What == Key::Help) return Raise(form.HelpKey);
+  if (key.What == Key::Enter) return PressEnter(form);
+  // What a control does with another key is its own affair, and none here but a surface does anything.
+  const bool taken = !key.Control && Raise(form.KeyDown, key.What);
+  const Surface* surface = FocusedSurface(form);
+  if (!taken && surface != nullptr) Raise(surface->KeyDown, key);
+}
+
+void Hands::PressControl(Form& form, char letter) {
+  if (const Surface* surface = FocusedSurface(form)) Raise(letter == 'A' ? surface->SelectAllKey : surface->CopyKey);
+}
+
+void Hands::Drag(Surface& surface, Cell from, Cell to, bool shift) {
+  Raise(surface.Mouse, MousePress{MousePress::Act::Press, from, shift});
+  if (from != to) Raise(surface.Mouse, MousePress{MousePress::Act::Drag, to, shift});
+}
+
+void Hands::DoubleClick(Control& control, Cell at) {
+  if (const auto* picture = dynamic_cast<Picture*>(&control)) return Raise(picture->DoubleClick);
+  const auto& surface = dynamic_cast<Surface&>(control);
+  Raise(surface.Mouse, MousePress{MousePress::Act::Press, at});
+  Raise(surface.Mouse, MousePress{MousePress::Act::DoubleClick, at});
+}
+
+void Hands::TurnWheel(Control& control, int notches, bool shift, bool control_key) {
+  if (const auto* surface = dynamic_cast<Surface*>(&control)) {
+    Raise(surface->Wheel, WheelTurn{control_key ? notches : notches * kCellsOfANotch, shift, control_key});
+  } else {
+    control.PeerOf().TurnWheel(notches);
+  }
+}
+
+void Hands::PageBar(Surface& surface, Surface::Bar bar, int pages) {
+  const SurfaceBar& state = surface.PeerOf().Bars[bar];
+  const int last = std::max(0, state.Range - state.Shown);
+  const int position = std::clamp(state.Position + pages * std::max(1, state.Shown - 1), 0, last);
+  if (position != state.Position) Raise(surface.Scroll, bar, position);
+}
+
+void Hands::Close(Form& form) {
+  Form::Peer& peer = form.PeerOf();
+  Control* button = peer.Find(kEscapeButton);
+  if (peer.Modal && button != nullptr && button->PeerOf().TakesFocus()) {
+    button->PeerOf().Click();
+  } else {
+    peer.Unload(UnloadMode::ControlMenu);
+  }
+}
+
 void Hands::ShutDown(Form& form) { form.PeerOf().Unload(UnloadMode::WindowsShutdown); }
+
+void Hands::Settle() {
+  if (!::OpenForms().empty()) ::OpenForms().back()->PeerOf().RunDeferred();
+}
+
 std::vector<std::string> Hands::StartedPrograms() { return Machine::StartedPrograms(); }

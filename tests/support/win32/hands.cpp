@@ -1,8 +1,80 @@
-// A person's hands on real windows.
+// A person's hands on real windows: the messages that a real one's would cause.
 #include "support/hands.h"
+
+#include <algorithm>
+#include <memory>
 
 #include "platform/win32/internals.h"
 #include "platform/win32/surface_work.h"
+#include "support/win32/watcher.h"
+
+namespace {
+
+using Kind = Control::Peer::Kind;
+
+std::unique_ptr<Watcher> watcher;
+
+// The watcher's own timer waits for a message loop.
+void SettlePart() {
+  MSG message{};
+  while (PeekMessageA(&message, nullptr, 0, WM_TIMER - 1, PM_REMOVE) ||
+         PeekMessageA(&message, nullptr, WM_TIMER + 1, 0xFFFF, PM_REMOVE)) {
+    Dispatch(message);
+  }
+  RethrowCarried();
+}
+
+HWND FormWindow(const Control::Peer& peer) { return peer.Owner->PeerOf().Window; }
+
+HWND EditOf(const Control::Peer& peer) {
+  if (peer.What == Kind::ComboBox) return peer.EditField();
+  return peer.What == Kind::TextBox ? peer.Window : nullptr;
+}
+
+int CountOf(const Control::Peer& peer) {
+  if (peer.What == Kind::CheckList) return static_cast<int>(peer.Send(LVM_GETITEMCOUNT));
+  return peer.HoldsEntries() ? static_cast<int>(peer.Send(peer.DropsDown() ? CB_GETCOUNT : LB_GETCOUNT)) : 0;
+}
+
+std::string EntryOf(const Control& control, int position) {
+  const Control::Peer& peer = control.PeerOf();
+  if (peer.What == Kind::CheckList) return static_cast<const CheckList&>(control).EntryText(position);
+  return peer.Entries.at(static_cast<std::size_t>(position)).Text;
+}
+
+bool IsTicked(const Control::Peer& peer, int position) {
+  return peer.Send(LVM_GETITEMSTATE, static_cast<WPARAM>(position), LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(2);
+}
+
+// Keys that are held down for as long as one of these lives.
+class Held {
+ public:
+  Held(bool shift, bool control) {
+    GetKeyboardState(before_);
+    BYTE now[256];
+    std::copy(std::begin(before_), std::end(before_), now);
+    now[VK_SHIFT] = shift ? 0x80 : 0;
+    now[VK_CONTROL] = control ? 0x80 : 0;
+    SetKeyboardState(now);
+  }
+  ~Held() { SetKeyboardState(before_); }
+  Held(const Held&) = delete;
+  Held& operator=(const Held&) = delete;
+
+ private:
+  BYTE before_[256] = {};
+};
+
+// The middle of a cell in the window's own coordinates.
+LPARAM Inside(const Surface& surface, const Cell& cell) {
+  const RECT rect = surface.PeerOf().Work->RectOf(cell);
+  return MAKELPARAM((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+}
+
+}  // namespace
+
+void Hands::Begin() { watcher = std::make_unique<Watcher>(); }
+void Hands::End() { watcher.reset(); }
 
 Hands::Sight Hands::LookAt(const Control& control) {
   const Control::Peer& peer = control.PeerOf();
@@ -14,19 +86,17 @@ Hands::Sight Hands::LookAt(const Control& control) {
   GetObjectA(reinterpret_cast<HFONT>(peer.Send(WM_GETFONT)), sizeof font, &font);
   sight.Bold = font.lfWeight >= FW_BOLD;
   sight.Focused = GetFocus() == peer.Window || IsChild(peer.Window, GetFocus());
+  for (int position = 0; position < CountOf(peer); ++position) {
+    sight.Entries.push_back(EntryOf(control, position));
+    if (peer.What == Kind::CheckList) sight.Ticks.push_back(IsTicked(peer, position));
+  }
   if (peer.HoldsEntries()) sight.Selected = static_cast<int>(peer.Send(peer.DropsDown() ? CB_GETCURSEL : LB_GETCURSEL));
-  HWND edit = peer.What == Control::Peer::Kind::ComboBox  ? peer.EditField()
-              : peer.What == Control::Peer::Kind::TextBox ? peer.Window
-                                                          : nullptr;
   DWORD from = 0, upto = 0;
-  if (edit != nullptr) SendMessageA(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&upto));
+  if (EditOf(peer) != nullptr) {
+    SendMessageA(EditOf(peer), EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&upto));
+  }
   sight.Mark = {static_cast<int>(from), static_cast<int>(upto)};
   return sight;
-}
-
-bool Hands::Ticked(const CheckList& list, int position) {
-  return list.PeerOf().Send(LVM_GETITEMSTATE, static_cast<WPARAM>(position), LVIS_STATEIMAGEMASK) ==
-         INDEXTOSTATEIMAGEMASK(2);
 }
 
 Page Hands::PageOn(const Surface& surface) { return surface.PeerOf().Work->Shown; }
@@ -43,9 +113,103 @@ std::vector<Form*> Hands::OpenForms() { return ::OpenForms(); }
 int Hands::TemplateOf(const Form& form) { return form.PeerOf().Template; }
 const std::map<int, Control*>& Hands::ControlsOf(const Form& form) { return form.PeerOf().Controls; }
 
-void Hands::ShutDown(Form& form) {
-  SendMessageA(form.PeerOf().Window, WM_QUERYENDSESSION, 0, 0);
-  RethrowCarried();
+void Hands::MoveTo(Control& control) {
+  const Control::Peer& peer = control.PeerOf();
+  if (!peer.TakesFocus() || GetFocus() == peer.Window || IsChild(peer.Window, GetFocus())) return;
+  SendMessageA(FormWindow(peer), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(peer.Window), TRUE);
+  SettlePart();
+}
+
+void Hands::Type(Control& box, const std::string& text) { TypeInto(EditOf(box.PeerOf()), text.c_str()); }
+
+void Hands::Click(Control& control) {
+  const Control::Peer& peer = control.PeerOf();
+  if (peer.What == Kind::Button || peer.What == Kind::OptionButton) {
+    peer.Send(BM_CLICK);
+  } else {
+    const LPARAM inside = MAKELPARAM(2, 2);
+    peer.Send(WM_LBUTTONDOWN, MK_LBUTTON, inside);
+    peer.Send(WM_LBUTTONUP, 0, inside);
+  }
+}
+
+// As the mouse does: the native control moves, then tells.
+void Hands::Select(ListControl& list, int position) {
+  const Control::Peer& peer = list.PeerOf();
+  peer.Send(peer.DropsDown() ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(position));
+  const int code = peer.DropsDown() ? static_cast<int>(CBN_SELCHANGE) : static_cast<int>(LBN_SELCHANGE);
+  SendMessageA(FormWindow(peer), WM_COMMAND, MAKEWPARAM(peer.Id, code), reinterpret_cast<LPARAM>(peer.Window));
+}
+
+void Hands::TurnOver(CheckList& list, int position) {
+  LVITEMA item{};
+  item.stateMask = LVIS_STATEIMAGEMASK;
+  item.state = INDEXTOSTATEIMAGEMASK(IsTicked(list.PeerOf(), position) ? 1U : 2U);
+  list.PeerOf().Send(LVM_SETITEMSTATE, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&item));
+}
+
+bool Hands::CanChoose(const Form& form, int item) {
+  HWND window = form.PeerOf().Window;
+  HMENU menu = GetMenu(window);
+  SendMessageA(window, WM_INITMENU, reinterpret_cast<WPARAM>(menu), 0);
+  for (int index = 0; index < GetMenuItemCount(menu); ++index) {
+    SendMessageA(window, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(GetSubMenu(menu, index)), index);
+  }
+  return (GetMenuState(menu, static_cast<UINT>(item), MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+void Hands::Choose(Form& form, int item) { SendMessageA(form.PeerOf().Window, WM_COMMAND, MAKEWPARAM(item, 0), 0); }
+
+void Hands::Press(Form& form, const KeyPress& key) {
+  HWND focus = GetFocus() != nullptr ? GetFocus() : form.PeerOf().Window;
+  // In the order of Key.
+  constexpr WPARAM kCodes[] = {VK_RETURN, VK_ESCAPE, VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN,
+                               VK_PRIOR,  VK_NEXT,   VK_HOME, VK_END,   VK_F1};
+  const WPARAM code = kCodes[static_cast<std::size_t>(key.What)];
+  const Held held(key.Shift, key.Control);
+  PostMessageA(focus, WM_KEYDOWN, code, 1);
+  PostMessageA(focus, WM_KEYUP, code, 1);
+  SettlePart();  // while the keys are held
+}
+
+void Hands::PressControl(Form& /*form*/, char letter) {
+  PostMessageA(GetFocus(), WM_CHAR, static_cast<WPARAM>(letter - 'A' + 1), 1);
+}
+
+void Hands::Drag(Surface& surface, Cell from, Cell to, bool shift) {
+  const WPARAM keys = shift ? MK_LBUTTON | MK_SHIFT : MK_LBUTTON;
+  surface.PeerOf().Send(WM_LBUTTONDOWN, keys, Inside(surface, from));
+  surface.PeerOf().Send(WM_MOUSEMOVE, keys, Inside(surface, to));
+  surface.PeerOf().Send(WM_LBUTTONUP, 0, Inside(surface, to));
+}
+
+void Hands::DoubleClick(Control& control, Cell at) {
+  const auto* surface = dynamic_cast<Surface*>(&control);
+  const LPARAM place = surface == nullptr ? MAKELPARAM(1, 1) : Inside(*surface, at);
+  for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
+    control.PeerOf().Send(message, MK_LBUTTON, place);
+  }
+}
+
+void Hands::TurnWheel(Control& control, int notches, bool shift, bool control_key) {
+  const int keys = (shift ? MK_SHIFT : 0) | (control_key ? MK_CONTROL : 0);
+  PostMessageA(control.PeerOf().Window, WM_MOUSEWHEEL, MAKEWPARAM(keys, -notches * WHEEL_DELTA), 0);
+}
+
+void Hands::PageBar(Surface& surface, Surface::Bar bar, int pages) {
+  const UINT message = bar == Surface::Bar::Down ? WM_VSCROLL : WM_HSCROLL;
+  for (int page = 0; page < std::abs(pages); ++page) {
+    surface.PeerOf().Send(message, pages > 0 ? SB_PAGEDOWN : SB_PAGEUP);
+  }
+}
+
+void Hands::Close(Form& form) { SendMessageA(form.PeerOf().Window, WM_SYSCOMMAND, SC_CLOSE, 0); }
+void Hands::ShutDown(Form& form) { SendMessageA(form.PeerOf().Window, WM_QUERYENDSESSION, 0, 0); }
+
+void Hands::Settle() {
+  SettlePart();
+  if (const Form* form = TopmostForm()) form->PeerOf().RunDeferred();
+  SettlePart();
 }
 
 std::vector<std::string> Hands::StartedPrograms() { return {}; }

@@ -9,8 +9,8 @@
 
 #include "platform/win32/internals.h"
 #include "resource.h"
-#include "support/expectations.h"
 #include "support/files.h"
+#include "support/listener.h"
 #include "support/win32/pixels.h"
 
 namespace {
@@ -110,7 +110,7 @@ void AnswerMessageBox(HWND box, const std::string& text, Icon icon) {
   const Buttons buttons = yes != nullptr                       ? Buttons::YesNo
                           : ok != nullptr && cancel != nullptr ? Buttons::OkCancel
                                                                : Buttons::Ok;
-  const Answer answer = Expected().MessageCame(text, TextOfWindow(box), buttons, icon);
+  const Answer answer = TheListener()->MessageCame(text, TextOfWindow(box), buttons, icon);
   HWND pressed = ok != nullptr ? ok : cancel;  // a single OK may have either id
   if (answer == Answer::Cancel) pressed = cancel;
   if (answer == Answer::Yes) pressed = yes;
@@ -146,7 +146,7 @@ std::string AskedOf(HWND dialog, HWND field) {
 
 void AnswerFileDialog(HWND dialog) {
   HWND field = NameField(dialog);
-  const std::string name = Expected().FileDialogCame(TextOfWindow(dialog), AskedOf(dialog, field));
+  const std::string name = TheListener()->FileDialogCame(TextOfWindow(dialog), AskedOf(dialog, field));
   if (field == nullptr) ADD_FAILURE() << "A dialog \"" << TextOfWindow(dialog) << "\" came that takes no file name";
   if (name.empty() || field == nullptr) {
     PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
@@ -159,8 +159,8 @@ void AnswerFileDialog(HWND dialog) {
 void AnswerInputBox(const Form& form) {
   HWND window = form.PeerOf().Window;
   HWND field = GetDlgItem(window, IDC_AnswerBox);
-  const std::string answer = Expected().InputCame(TextOfWindow(GetDlgItem(window, IDC_PromptLabel)),
-                                                  TextOfWindow(window), TextOfWindow(field));
+  const std::string answer = TheListener()->InputCame(TextOfWindow(GetDlgItem(window, IDC_PromptLabel)),
+                                                      TextOfWindow(window), TextOfWindow(field));
   if (!answer.empty()) TypeInto(field, answer.c_str());
   SendMessageA(GetDlgItem(window, answer.empty() ? IDCANCEL : IDOK), BM_CLICK, 0, 0);
 }
@@ -169,9 +169,7 @@ void AnswerInputBox(const Form& form) {
 void UseForm(Form& form) {
   Form::Peer& peer = form.PeerOf();
   peer.Guard([&] {
-    const std::function<void()> acts = Expected().FormCame(peer.Template, form.Caption());
-    if (acts) acts();
-    if (acts && !form.Closed()) Expected().FormLeftOpen(peer.Template, form.Caption());
+    TheListener()->FormCame(form);
     if (peer.Modal) {
       peer.Closed = true;
     } else {
