@@ -133,15 +133,16 @@ void SetRecords(RecordTable<Record>& table, const std::vector<Record>& records) 
   const int count = static_cast<int>(records.size());
   table.GrowFor(count, 0);
   table.SetCount(count);
-  for (int number = 1; number <= count; ++number) table[number] = records[static_cast<std::size_t>(number - 1)];
+  for (int number = 1; number <= count; ++number)
+    table.Writable(number) = records[static_cast<std::size_t>(number - 1)];
 }
 
 void MakeDefinitions() {
   int number = 0;
   for (const auto name : {"Furniture", "Tools", "Kitchen", "Garden", "", "Music", "Papers", "Valuables", "Insured"}) {
-    TheDocument.CategoryNames[++number] = name;
+    TheDocument.CategoryNames.Writable(++number) = name;
   }
-  TheDocument.CategoryNames[kCategories] = "On loan";
+  TheDocument.CategoryNames.Writable(kCategories) = "On loan";
   SetRecords<FieldDefinition>(TheDocument.Fields, {{"PRICE", "Price paid for one", "DOLLAR"},
                                                    {"QTY", "How many", "INTEGER"},
                                                    {"BOUGHT", "When bought", ""},
@@ -176,8 +177,8 @@ void MakeLinks(Dice& dice) {
   }
   for (std::size_t at = 1; at < order.size(); ++at) {
     const auto earlier = [&] { return order[static_cast<std::size_t>(dice.Below(static_cast<int>(at + 9) / 10))]; };
-    if (dice.Percent(85)) things[order[at]].XREF1 = earlier();
-    if (dice.Percent(25)) things[order[at]].XREF2 = earlier();
+    if (dice.Percent(85)) things.Writable(order[at]).XREF1 = earlier();
+    if (dice.Percent(25)) things.Writable(order[at]).XREF2 = earlier();
   }
 }
 
@@ -218,7 +219,7 @@ void GenerateDocument(int things, unsigned seed) {
     if (dice.Percent(8)) thing.PICFILENAME = "photos\\" + std::to_string(record) + ".jpg";
     thing.CATBITMAP = MakeCategories(dice);
     MakeValues(thing, dice);
-    TheDocument.Things[record] = std::move(thing);
+    TheDocument.Things.Writable(record) = std::move(thing);
   }
   MakeLinks(dice);
 }

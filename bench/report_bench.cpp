@@ -60,7 +60,7 @@ void Hierarchy(benchmark::State& state, Shape shape) {
   GenerateDocument(count, kSeed);
   std::mt19937 random(kSeed);
   for (int record = 1; record <= count; ++record) {
-    ThingRecord& thing = TheDocument.Things[record];
+    ThingRecord& thing = TheDocument.Things.Writable(record);
     thing.XREF1 = static_cast<std::int16_t>(shape(record, random));
     thing.XREF2 = static_cast<std::int16_t>(shape(record, random));
   }

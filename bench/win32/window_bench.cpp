@@ -190,7 +190,7 @@ int main() {
   std::filesystem::current_path("window_bench");
   GenerateDocument(kLastRecord, 1);
   // There are no photos: each would be missed, with a box that waits for an answer.
-  for (int record = 1; record <= kLastRecord; ++record) TheDocument.Things[record].PICFILENAME.clear();
+  for (int record = 1; record <= kLastRecord; ++record) TheDocument.Things.Writable(record).PICFILENAME.clear();
   TimeSaving();
 
   MainForm form(kFile);

@@ -4,6 +4,7 @@
 #include <cassert>
 
 #include "document/file_lock.h"
+#include "document/history.h"
 #include "document/segments.h"
 
 Document TheDocument;
@@ -42,9 +43,9 @@ void MakeNew() {
   document.DocumentOpen = false;
   document.FileName.clear();
   document.ShownFileName.clear();
-  document.Modified = false;
   document.Things.SetCount(0);
   document.Fields.SetCount(0);
   document.CategoryNames.Clear();
   ClearPendingText();
+  TheHistory.Clear();
 }

@@ -1,5 +1,5 @@
 // The document: the one collection of things that the program keeps, with its fields, formulas,
-// categories and state. Everything reads and changes it directly.
+// categories and state. Everything reads it directly; what changes it while it is shown takes a Step of history.h.
 #pragma once
 
 #include <array>
@@ -18,6 +18,7 @@ struct FieldValueSlot {
   std::string_view Keyword() const;
   // The text after the first ":"; empty without one.
   std::string_view Value() const;
+  bool operator==(const FieldValueSlot&) const = default;
 };
 
 inline constexpr int kFieldValues = 10;
@@ -29,15 +30,17 @@ struct ThingRecord {
   std::string PICFILENAME;  // the photo's path, empty for none
   std::int16_t XREF1 = 0;   // linked things' record numbers, 0 for none; a damaged file may give any number
   std::int16_t XREF2 = 0;
-  std::int32_t CATBITMAP = 0;      // category k is bit k - 1: category 32 is the sign bit
-  std::int16_t HierarchyMark = 0;  // working mark of the hierarchy report, never saved
+  std::int32_t CATBITMAP = 0;              // category k is bit k - 1: category 32 is the sign bit
+  mutable std::int16_t HierarchyMark = 0;  // working mark of the hierarchy report, never saved
   std::array<FieldValueSlot, kFieldValues> Values;
+  bool operator==(const ThingRecord&) const = default;
 };
 
 struct FieldDefinition {
   std::string Keyword;  // upper case letters
   std::string Title;
   std::string Type;  // a type keyword; empty for a text field
+  bool operator==(const FieldDefinition&) const = default;
 };
 
 struct FormulaDefinition {
@@ -46,13 +49,14 @@ struct FormulaDefinition {
   std::string Type;
   std::string Format;  // a display template; empty for the type's own
   std::string Formula;
+  bool operator==(const FormulaDefinition&) const = default;
 };
 
 // The 32 category names, numbered from 1; an empty name is an unused category.
 class CategoryNameTable {
  public:
-  std::string& operator[](int number) { return names_[Index(number)]; }
   const std::string& operator[](int number) const { return names_[Index(number)]; }
+  std::string& Writable(int number) { return names_[Index(number)]; }  // as a table's
   void Clear() { names_.fill({}); }
   int Highest() const;  // the highest number with a name, 0 for none
 
@@ -73,7 +77,7 @@ struct Document {
   std::string FileName;       // the name to save to; empty for a new document
   std::string ShownFileName;  // the same name, as shown
   int CurrentThing = 0;       // record number of the thing shown, 0 for none
-  bool Modified = false;      // set by every change, cleared by a save
+  bool Modified = false;      // kept by the history: set by every change, cleared by a save
   bool Writable = true;       // the file may be written in place
   bool LockHeld = false;      // other programs are kept from writing the file
   bool PendingEdits = false;  // the window holds typed text that the thing has not got yet

@@ -4,6 +4,7 @@
 #include "document/document.h"
 #include "document/fact_values.h"
 #include "document/pick_list_form.h"
+#include "document/things.h"
 #include "platform/locale.h"
 #include "platform/program.h"
 #include "shell/date_pick_form.h"
@@ -52,7 +53,7 @@ std::span<const Command<FactForm>> FactForm::Commands() {
 }
 
 FactForm::FactForm() : Form(IDD_FactForm) {
-  commands_.Before = [this](bool stores) { return !stores || EndEdit(); };
+  commands_.Before = [this](const Command<FactForm>& command) { return !command.Stores || EndEdit(); };
   FieldNameCombo.Click = [this] { FieldNameCombo_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
@@ -141,9 +142,8 @@ void FactForm::OKButton_Click() {
     return;
   }
   if (!EndEdit()) return;
-  TheDocument.Things[TheDocument.CurrentThing].Values = PackValues(working_);
+  SetValues(TheDocument.CurrentThing, PackValues(working_));
   ThingDataChanged = true;
-  TheDocument.Modified = true;
   Close();
 }
 

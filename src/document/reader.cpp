@@ -50,7 +50,7 @@ class RecordCursor {
 
 std::string ReadCategories() {
   CategoryNameTable& names = TheDocument.CategoryNames;
-  names[1].clear();
+  names.Writable(1).clear();
   RecordCursor cursor(kCategories);
   Assignment assignment;
   int record = 0;
@@ -59,13 +59,13 @@ std::string ReadCategories() {
       Global::Say("Maximum 32 categories exceeded; loading stopped.", Icon::Critical);
       return {};
     }
-    cursor.MoveTo(record, [&](int number) { names[number].clear(); });
+    cursor.MoveTo(record, [&](int number) { names.Writable(number).clear(); });
     if (assignment.ComparedKey() != "NAME") {
       Global::Say("Data file contains invalid field name for categories: " + std::string(assignment.Key),
                   Icon::Exclamation);
       return {};
     }
-    names[record] = Trim(assignment.Value);
+    names.Writable(record) = Trim(assignment.Value);
   }
   return std::string(assignment.Segment);
 }
@@ -90,14 +90,14 @@ std::string* MemberOf(FormulaDefinition& formula, std::string_view key) {
 template <class Definition>
 std::string ReadDefinitions(RecordTable<Definition>& table) {
   const Definition nothing;
-  table[1] = nothing;
+  table.Writable(1) = nothing;
   RecordCursor cursor(table.UpperBound());
   Assignment assignment;
   int record = 0;
   for (ReadAssignment(assignment, record); !assignment.EndsSection(); ReadAssignment(assignment, record)) {
     table.GrowFor(record, kLoadStep);
-    cursor.MoveTo(record, [&](int number) { table[number] = nothing; });
-    std::string* member = MemberOf(table[record], assignment.ComparedKey());
+    cursor.MoveTo(record, [&](int number) { table.Writable(number) = nothing; });
+    std::string* member = MemberOf(table.Writable(record), assignment.ComparedKey());
     if (member == nullptr) {
       Global::Say("Data file contains invalid definitinon for field: " + std::string(assignment.Segment),
                   Icon::Exclamation);
@@ -165,16 +165,16 @@ bool StoreFieldValue(ThingRecord& thing, int record, std::string_view key, const
 std::string ReadThings() {
   RecordTable<ThingRecord>& things = TheDocument.Things;
   const ThingRecord nothing;
-  things[1] = nothing;
+  things.Writable(1) = nothing;
   RecordCursor cursor(things.UpperBound());
   Assignment assignment;
   int record = 0;
   int values = 0;
   for (ReadAssignment(assignment, record); !assignment.EndsSection(); ReadAssignment(assignment, record)) {
     things.GrowFor(record, kLoadStep);
-    if (cursor.MoveTo(record, [&](int number) { things[number] = nothing; })) values = 0;
+    if (cursor.MoveTo(record, [&](int number) { things.Writable(number) = nothing; })) values = 0;
     const std::string_view key = assignment.ComparedKey();
-    ThingRecord& thing = things[record];
+    ThingRecord& thing = things.Writable(record);
     const bool stored = key.starts_with('%') ? StoreFieldValue(thing, record, key, assignment, values)
                                              : StorePlainKey(thing, key, assignment);
     if (!stored) {

@@ -23,8 +23,9 @@ class RecordTable {
   // True for the number of a record in use: the test that every link needs before it is followed.
   bool Holds(int record) const { return record >= 1 && record <= count_; }
 
-  Record& operator[](int record) { return At(record); }
   const Record& operator[](int record) const { return At(record); }
+  // A record to be written: for the reader and the history. Whatever else changes the document takes a Step.
+  Record& Writable(int record) { return At(record); }
 
   // Makes room for the record, and `step` more behind it, when its number is beyond the upper bound.
   void GrowFor(int record, int step) {

@@ -8,6 +8,7 @@
 #include "document/document.h"
 #include "document/file_handles.h"
 #include "document/file_lock.h"
+#include "document/history.h"
 #include "document/writer.h"
 #include "mainwindow/command_line.h"
 #include "mainwindow/file_names.h"
@@ -145,7 +146,7 @@ std::string ProposedFileName() {
   return (number < 0 ? "Filer-" : "Filer") + digits + ".FIL";
 }
 
-void SaveDocument(const Event& written) {
+void SaveDocument() {
   Document& document = TheDocument;
   FileRequest request;
   request.Mode = FileRequest::Kind::Write;
@@ -171,8 +172,7 @@ void SaveDocument(const Event& written) {
   document.FileName = target;
   document.ShownFileName = target;
   TakeFileLock(target);
-  document.Modified = false;
-  if (written) written();
+  TheHistory.MarkSaved();
   Global::Say("The Larkspur Filer file was saved.", Icon::Information);
   RememberRecentFile(target);
 }

@@ -3,13 +3,10 @@
 
 #include <string>
 
-#include "platform/control.h"
-
 // The whole Save command: proposes a name, asks what has to be asked, writes the file with a backup of
 // the one it replaces, locks it again, and puts it into the recent-files list. Says what went wrong; the
-// document is then unchanged. The store step must have run. `written` is called when the file is complete, before
-// the user is told so.
-void SaveDocument(const Event& written = {});
+// document is then unchanged. The store step must have run.
+void SaveDocument();
 
 // The name offered for a document that has none: "Filer" and the number behind the highest one among the
 // recent files.

@@ -2,24 +2,15 @@
 #include "document/things.h"
 
 #include <cstdint>
-#include <utility>
+#include <string>
 
-#include "document/document.h"
+#include "document/history.h"
+#include "document/names.h"
 #include "platform/locale.h"
 #include "shell/messages.h"
 #include "values/numbers.h"
 
 namespace {
-
-// Gives every link of every thing the number that `renumber` returns for it.
-template <class Renumber>
-void RenumberLinks(Renumber renumber) {
-  auto& things = TheDocument.Things;
-  for (int record = 1; record <= things.Count(); ++record) {
-    things[record].XREF1 = static_cast<std::int16_t>(renumber(int{things[record].XREF1}));
-    things[record].XREF2 = static_cast<std::int16_t>(renumber(int{things[record].XREF2}));
-  }
-}
 
 // Upper-casing makes no name longer or shorter: most are told apart without it.
 bool HasName(const ThingRecord& thing, const std::string& upper_name) {
@@ -38,6 +29,11 @@ int PlaceOf(std::string_view name, int without) {
     ++place;
   }
   return place;
+}
+
+// A step's title: what is done, and to which thing.
+std::string Titled(const char* what, int record) {
+  return what + (" " + JoinUnderscoredWords(TheDocument.Things[record].NAME));
 }
 
 }  // namespace
@@ -61,53 +57,93 @@ bool HasNameOfOther(std::string_view name, int record) {
 }
 
 int InsertThing(std::string_view name) {
-  auto& things = TheDocument.Things;
-  const int count = things.Count();
+  const int count = TheDocument.Things.Count();
   if (count >= kLastRecord) return 0;
+  Step step("Add " + JoinUnderscoredWords(name));
   const int place = PlaceOf(name, 0);
-  things.GrowFor(count + 1, kLoadStep);
-  for (int record = count + 1; record > place; --record) things[record] = std::move(things[record - 1]);
-  things[place] = {};
-  things[place].NAME = name;
-  things.SetCount(count + 1);
-  // A link that a damaged file left at the last number stays there: it points at nothing in any case.
-  RenumberLinks([place](int link) { return link >= place && link < kLastRecord ? link + 1 : link; });
+  step.InsertThing(place);
+  step.Thing(place).NAME = name;
+  if (TheDocument.CurrentThing >= place) ++TheDocument.CurrentThing;
   return place;
 }
 
 int AddThing(std::string_view name) {
-  const int record = InsertThing(name);
-  if (record == 0) {
+  if (TheDocument.Things.Count() >= kLastRecord) {
     Global::Say("A file can hold at most 32767 things.  The thing was not added.", Icon::Exclamation);
     return 0;
   }
+  Step step("Add " + JoinUnderscoredWords(name));
+  const int record = InsertThing(name);
   TheDocument.CurrentThing = record;
-  TheDocument.Modified = true;
   return record;
 }
 
 void DeleteThing(int record) {
-  auto& things = TheDocument.Things;
-  for (int next = record; next < things.Count(); ++next) things[next] = std::move(things[next + 1]);
-  things.SetCount(things.Count() - 1);
-  RenumberLinks([record](int link) {
-    if (link == record) return 0;
-    return link > record ? link - 1 : link;
-  });
+  Step step(Titled("Delete", record));
+  step.RemoveThing(record);
+  int& current = TheDocument.CurrentThing;
+  if (current > record || current > TheDocument.Things.Count()) --current;
 }
 
 int RenameThing(int record, std::string_view name) {
-  auto& things = TheDocument.Things;
+  Step step(Titled("Rename", record));
   const int place = PlaceOf(name, record);
-  ThingRecord renamed = std::move(things[record]);
-  renamed.NAME = name;
-  for (int hole = record; hole < place; ++hole) things[hole] = std::move(things[hole + 1]);
-  for (int hole = record; hole > place; --hole) things[hole] = std::move(things[hole - 1]);
-  things[place] = std::move(renamed);
-  RenumberLinks([record, place](int link) {
-    if (link == record) return place;
-    if (link > record && link <= place) return link - 1;
-    return link >= place && link < record ? link + 1 : link;
-  });
+  step.Thing(record).NAME = name;
+  step.MoveThing(record, place);
+  TheDocument.CurrentThing = place;
   return place;
+}
+
+void StoreEdits(int record, const ThingEdits& edits) {
+  const ThingRecord& before = TheDocument.Things[record];
+  const bool links = before.XREF1 != edits.XREF1 || before.XREF2 != edits.XREF2;
+  const bool only_links = links && before.NOTE == edits.NOTE;
+  Step step(Titled(only_links ? "Change Links of" : links ? "Change Note and Links of" : "Change Note of", record));
+  ThingRecord& thing = step.Thing(record);
+  thing.NOTE = edits.NOTE;
+  thing.XREF1 = edits.XREF1;
+  thing.XREF2 = edits.XREF2;
+}
+
+namespace {
+
+std::int32_t Ticked(std::int32_t categories, int category, bool on) {
+  return on ? categories | CategoryBit(category) : categories & ~CategoryBit(category);
+}
+
+std::string TickTitle(int category, bool on) {
+  return (on ? "Tick " : "Untick ") + TheDocument.CategoryNames[category] + " for ";
+}
+
+}  // namespace
+
+void Tick(int record, int category, bool on) {
+  Step step(TickTitle(category, on) + JoinUnderscoredWords(TheDocument.Things[record].NAME));
+  ThingRecord& thing = step.Thing(record);
+  thing.CATBITMAP = Ticked(thing.CATBITMAP, category, on);
+}
+
+void TickAll(const std::vector<int>& records, int category, bool on) {
+  Step step(TickTitle(category, on) + std::to_string(records.size()) + (records.size() == 1 ? " Thing" : " Things"));
+  for (const int record : records) {
+    const std::int32_t categories = Ticked(TheDocument.Things[record].CATBITMAP, category, on);
+    if (categories != TheDocument.Things[record].CATBITMAP) step.Thing(record).CATBITMAP = categories;
+  }
+}
+
+void SetPhoto(int record, const std::string& file_name) {
+  Step step(Titled(file_name.empty() ? "Remove Photo of" : "Change Photo of", record));
+  step.Thing(record).PICFILENAME = file_name;
+}
+
+void SetValues(int record, const std::array<FieldValueSlot, kFieldValues>& values) {
+  Step step(Titled("Change Values of", record));
+  step.Thing(record).Values = values;
+}
+
+void SetCategoryNames(const CategoryNameTable& names) {
+  Step step("Change Categories");
+  for (int number = 1; number <= kCategories; ++number) {
+    if (TheDocument.CategoryNames[number] != names[number]) step.CategoryName(number) = names[number];
+  }
 }

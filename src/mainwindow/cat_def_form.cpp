@@ -2,6 +2,7 @@
 #include "mainwindow/cat_def_form.h"
 
 #include "document/text.h"
+#include "document/things.h"
 #include "resource.h"
 #include "shell/help.h"
 
@@ -27,9 +28,11 @@ void CatDefForm::Form_Load() {
 }
 
 void CatDefForm::OKButton_Click() {
+  CategoryNameTable names;
   for (int number = 1; number <= kCategories; ++number) {
-    TheDocument.CategoryNames[number] = Trim(NameBox[static_cast<std::size_t>(number - 1)]->Text());
+    names.Writable(number) = Trim(NameBox[static_cast<std::size_t>(number - 1)]->Text());
   }
+  SetCategoryNames(names);
   Accepted = true;
   Close();
 }

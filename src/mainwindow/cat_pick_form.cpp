@@ -1,7 +1,11 @@
 // CatPickForm: see cat_pick_form.h.
 #include "mainwindow/cat_pick_form.h"
 
-#include "document/document.h"
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "mainwindow/thing_list.h"
 #include "resource.h"
 #include "shell/help.h"
 
@@ -19,15 +23,13 @@ CatPickForm::CatPickForm(int selected_category, const Control* below_label)
 }
 
 void CatPickForm::Form_Load() {
-  std::vector<ListEntry> entries{{"All Categories", 0}};
-  int selected = 0;
-  for (int number = 1; number <= kCategories; ++number) {
-    if (TheDocument.CategoryNames[number].empty()) continue;
-    if (number == SelectedCategory) selected = static_cast<int>(entries.size());
-    entries.push_back({TheDocument.CategoryNames[number], number});
-  }
-  CategoryList.Fill(entries);
-  CategoryList.Select(selected);
+  std::vector<ListEntry> entries = CategoryEntries();
+  entries.insert(entries.begin(), {"All Categories", 0});
+  const auto selected = std::find_if(entries.begin(), entries.end(),
+                                     [this](const ListEntry& each) { return each.Data == SelectedCategory; });
+  const auto position = selected - entries.begin();
+  CategoryList.Fill(std::move(entries));
+  CategoryList.Select(static_cast<int>(position));
   CategoryList.SetFocus();
 }
 

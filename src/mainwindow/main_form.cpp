@@ -26,6 +26,8 @@ std::span<const Command<MainForm>> MainForm::Commands() {
       {IDC_OpenItem, nullptr, &F::OpenItem_Click},
       {IDC_SaveItem, &F::SaveButton, &F::SaveItem_Click},
       {IDC_ExitItem, nullptr, &F::ExitItem_Click},
+      {IDC_UndoItem, nullptr, &F::UndoItem_Click, &F::CanUndo, &F::UndoText, false},
+      {IDC_RedoItem, nullptr, &F::RedoItem_Click, &F::CanRedo, &F::RedoText, false},
       {IDC_AddPersonItem, &F::AddPersonButton, &F::AddPersonItem_Click},
       kNotStoring(IDC_DeletePersonItem, &F::DeletePersonItem_Click, &F::DeleteButton),
       {IDC_RenameItem, nullptr, &F::RenameItem_Click},
@@ -33,6 +35,7 @@ std::span<const Command<MainForm>> MainForm::Commands() {
       {IDC_RemovePhotoItem, nullptr, &F::RemovePhotoItem_Click},
       {IDC_DataItem, &F::DataButton, &F::DataButton_Click},
       {IDC_DefCatItem, &F::DefCatButton, &F::DefCatButton_Click},
+      {IDC_TickAllItem, nullptr, &F::TickAllItem_Click, &F::CanTickAll},
       kNotStoring(IDC_AllNamesItem, &F::AllNamesItem_Click),
       kNotStoring(IDC_StartingLetterItem, &F::StartingLetterItem_Click),
       kNotStoring(IDC_AllCategoryItem, &F::AllCategoryItem_Click),
@@ -53,7 +56,10 @@ MainForm::MainForm(std::string command_line) : Form(IDD_MainForm), command_line_
   WireEvents();
 }
 
-MainForm::~MainForm() { Global::KeepDocument = nullptr; }
+MainForm::~MainForm() {
+  Global::KeepDocument = nullptr;
+  TheHistory.Changed = nullptr;
+}
 
 // Every event ends with the caption brought in line with the document.
 Event MainForm::On(void (MainForm::*handler)()) {
@@ -64,10 +70,11 @@ Event MainForm::On(void (MainForm::*handler)()) {
 }
 
 void MainForm::WireEvents() {
-  // A command acts on what the thing list shows, whether or not the focus had to leave the list for it.
-  commands_.Before = [this](bool stores) {
-    Picker.LeaveThingList();
-    if (stores) StoreEdits();
+  // A command acts on what the thing list shows, whether or not the focus had to leave the list for it. Undo takes
+  // that typing back.
+  commands_.Before = [this](const Command<MainForm>& command) {
+    if (command.Item != IDC_UndoItem) Picker.LeaveThingList();
+    if (command.Stores) StoreEdits();
     return true;
   };
   commands_.After = [this] { RefreshFrame(); };
@@ -83,6 +90,7 @@ void MainForm::WireEvents() {
     RefreshFrame();
   };
   Picker.Narrowed = On(&MainForm::Redisplay);
+  Picker.Typed = [this] { RefreshFrame(); };
   NoteBox.Change = On(&MainForm::NoteBox_Change);
   NoteBox.LostFocus = [this] { Later(On(&MainForm::NoteBox_LostFocus)); };
   FatherCombo.Click = MotherCombo.Click = On(&MainForm::LinkCombo_Click);
@@ -100,6 +108,7 @@ void MainForm::RefreshFrame() {
   if (!document.Writable) caption += " (read only)";
   if (document.Modified || document.PendingEdits) caption += " *";
   if (caption != Caption()) SetCaption(caption);
+  commands_.Refresh();
 }
 
 // The note and the lists grow with the window; the photo keeps its corner.
@@ -123,7 +132,9 @@ void MainForm::AnchorControls() {
 
 void MainForm::Form_Load() {
   TheDocument = {};
+  TheHistory.Clear();
   Global::ProgramTitle = "Larkspur Filer";
+  TheHistory.Changed = [this] { RefreshFrame(); };
   Global::KeepDocument = [this] {
     StoreEdits();
     if (TheDocument.Modified || Covered()) WriteRescueCopy();

@@ -4,7 +4,9 @@
 #include <span>
 #include <string>
 
+#include "document/history.h"
 #include "mainwindow/flag_scope.h"
+#include "mainwindow/main_ids.h"
 #include "mainwindow/thing_picker.h"
 #include "platform/controls.h"
 #include "platform/form.h"
@@ -57,6 +59,16 @@ class MainForm : public Form {
   void EndSession();
   bool LoadDocument(const std::string& full_name, const std::string& name);
 
+  // main_form_undo.cpp: Undo and Redo
+  void UndoItem_Click();
+  void RedoItem_Click();
+  std::string UndoText() const;
+  std::string RedoText() const;
+  bool IsTyping() const { return TheDocument.PendingEdits || Picker.IsTyping(); }
+  bool CanUndo() const { return IsTyping() || TheHistory.CanUndo(); }
+  bool CanRedo() const { return !IsTyping() && TheHistory.CanRedo(); }
+  void ShowStep();
+
   // main_form_edit.cpp: the Edit menu
   void AddPersonItem_Click();
   void DeletePersonItem_Click();
@@ -65,6 +77,8 @@ class MainForm : public Form {
   void RemovePhotoItem_Click();
   void DataButton_Click();
   void DefCatButton_Click();
+  void TickAllItem_Click();
+  bool CanTickAll() const;
 
   // thing_picker.cpp: the View menu
   void AllNamesItem_Click() { Picker.AllNamesItem_Click(); }
@@ -86,12 +100,13 @@ class MainForm : public Form {
   void AboutItem_Click();
 
   // main_form_thing.cpp: the current thing
-  ThingRecord* CurrentRecord() const;
+  const ThingRecord* CurrentRecord() const;
   void StoreEdits();
+  void MakeOneParagraph();
   void Redisplay();
   void FillLinkLists();
   void DisplayThing();
-  void ShowPhoto(ThingRecord& thing);
+  void ShowPhoto();
   void PhotoPic_DoubleClick();
   void FillCategoryList();
   void NoteBox_Change();
@@ -126,7 +141,8 @@ class MainForm : public Form {
   CommandTable<MainForm> commands_{*this, Commands()};
   std::string rescue_name_;  // the rescue copy that goes when the Exit question is answered
   bool asking_to_exit_ = false;
-  bool displaying_ = false;  // controls are being filled: their events are no edits
+  bool displaying_ = false;    // controls are being filled: their events are no edits
+  bool showing_step_ = false;  // what Undo or Redo changed is being shown
   bool shown_before_ = false;
   bool dialog_open_ = false;
 };

@@ -1,6 +1,7 @@
 // MainForm's Edit menu: adding, deleting and renaming things, their photo, and the categories.
-#include <algorithm>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "document/document.h"
 #include "document/fact_form.h"
@@ -11,6 +12,7 @@
 #include "mainwindow/command_line.h"
 #include "mainwindow/main_form.h"
 #include "mainwindow/settings.h"
+#include "mainwindow/tick_all_form.h"
 #include "platform/message.h"
 #include "shell/file_form.h"
 #include "shell/messages.h"
@@ -45,8 +47,6 @@ void MainForm::DeletePersonItem_Click() {
     return;
   }
   DeleteThing(TheDocument.CurrentThing);
-  TheDocument.CurrentThing = std::min(TheDocument.CurrentThing, TheDocument.Things.Count());
-  TheDocument.Modified = true;
   Redisplay();
   RefreshFrame();
   // Not on the button: the next key would delete the next thing.
@@ -71,15 +71,14 @@ void MainForm::RenameItem_Click() {
     Global::Say("Sorry, there is already a thing with that name on file.", Icon::Exclamation);
     return;
   }
-  TheDocument.CurrentThing = RenameThing(TheDocument.CurrentThing, name);
-  TheDocument.Modified = true;
+  RenameThing(TheDocument.CurrentThing, name);
   Redisplay();
   RefreshFrame();
   Global::Say("Record renamed.", Icon::Information);
 }
 
 void MainForm::PhotoButton_Click() {
-  ThingRecord* thing = CurrentRecord();
+  const ThingRecord* thing = CurrentRecord();
   if (thing == nullptr) {
     Global::Say("First choose or add a thing, then click the button to select a portrait file.", Icon::Exclamation);
     return;
@@ -95,19 +94,17 @@ void MainForm::PhotoButton_Click() {
     FileForm(request).ShowModal();
   }
   if (request.Name.empty()) return;
-  thing->PICFILENAME = request.Name;
-  TheDocument.Modified = true;
+  SetPhoto(TheDocument.CurrentThing, request.Name);
   Redisplay();
 }
 
 void MainForm::RemovePhotoItem_Click() {
-  ThingRecord* thing = CurrentRecord();
+  const ThingRecord* thing = CurrentRecord();
   if (thing == nullptr || thing->PICFILENAME.empty()) {
     Global::Say("No photo is displayed to remove.", Icon::Information);
     return;
   }
-  thing->PICFILENAME.clear();
-  TheDocument.Modified = true;
+  SetPhoto(TheDocument.CurrentThing, "");
   Redisplay();
 }
 
@@ -126,8 +123,27 @@ void MainForm::DefCatButton_Click() {
   CatDefForm form;
   form.ShowModal();
   if (!form.Accepted) return;
-  TheDocument.Modified = true;
   Picker.CategoriesRenamed();
   FillCategoryList();
+  Redisplay();
+}
+
+bool MainForm::CanTickAll() const {
+  return !Picker.PersonCombo.Entries().empty() && TheDocument.CategoryNames.Highest() > 0;
+}
+
+void MainForm::TickAllItem_Click() {
+  TickAllForm form;
+  form.ShowModal();
+  if (form.Category == 0) return;
+  std::vector<int> records;
+  for (const ListEntry& entry : Picker.PersonCombo.Entries()) records.push_back(entry.Data);
+  const std::string things =
+      std::to_string(records.size()) + (records.size() == 1 ? " listed thing" : " listed things");
+  const std::string category = "\"" + TheDocument.CategoryNames[form.Category] + "\"";
+  const std::string question = form.On ? "Do you want to tick " + category + " for " + things + "?"
+                                       : "Do you want to take the tick of " + category + " away from " + things + "?";
+  if (!Global::Ask(question, Buttons::OkCancel)) return;
+  TickAll(records, form.Category, form.On);
   Redisplay();
 }

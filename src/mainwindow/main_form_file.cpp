@@ -4,6 +4,7 @@
 #include "document/copies.h"
 #include "document/document.h"
 #include "document/file_lock.h"
+#include "document/history.h"
 #include "document/reader.h"
 #include "document/rescue.h"
 #include "document/save.h"
@@ -29,7 +30,7 @@ bool LoadCopyOf(const std::string& full_name) {
     return false;
   }
   if (!LoadFilerFile(copy, false)) return false;
-  TheDocument.Modified = true;
+  TheHistory.MarkChanged();
   return true;
 }
 
@@ -99,7 +100,7 @@ bool MainForm::LoadDocument(const std::string& full_name, const std::string& nam
 
 void MainForm::SaveItem_Click() {
   const FlagScope scope(dialog_open_);
-  SaveDocument([this] { RefreshFrame(); });
+  SaveDocument();
 }
 
 void MainForm::ExitItem_Click() {

@@ -5,6 +5,7 @@
 
 #include "document/document.h"
 #include "document/text.h"
+#include "document/things.h"
 #include "mainwindow/command_line.h"
 #include "mainwindow/file_names.h"
 #include "mainwindow/main_form.h"
@@ -13,8 +14,8 @@
 #include "shell/messages.h"
 #include "values/numbers.h"
 
-ThingRecord* MainForm::CurrentRecord() const {
-  RecordTable<ThingRecord>& things = TheDocument.Things;
+const ThingRecord* MainForm::CurrentRecord() const {
+  const RecordTable<ThingRecord>& things = TheDocument.Things;
   return things.Holds(TheDocument.CurrentThing) ? &things[TheDocument.CurrentThing] : nullptr;
 }
 
@@ -47,18 +48,25 @@ bool MainForm::ValidateText(std::string& text) {
 void MainForm::StoreEdits() {
   if (!TheDocument.PendingEdits) return;
   TheDocument.PendingEdits = false;
-  ThingRecord* thing = CurrentRecord();
+  const ThingRecord* thing = CurrentRecord();
   if (thing == nullptr) return;
   // All is stored before anything is said: Windows may end while the box is up.
   std::string note = NoteBox.Text();
-  thing->NOTE = Trim(OneParagraph(note));
   // A list without a selection stands for a link that the lists cannot show: it is left as it is.
-  if (FatherCombo.Selected() >= 0) thing->XREF1 = static_cast<std::int16_t>(FatherCombo.SelectedData());
-  if (MotherCombo.Selected() >= 0) thing->XREF2 = static_cast<std::int16_t>(MotherCombo.SelectedData());
-  TheDocument.Modified = true;
+  const auto chosen = [](const DropDownList& list, std::int16_t link) {
+    return list.Selected() >= 0 ? static_cast<std::int16_t>(list.SelectedData()) : link;
+  };
+  ::StoreEdits(TheDocument.CurrentThing, {std::string(Trim(OneParagraph(note))), chosen(FatherCombo, thing->XREF1),
+                                          chosen(MotherCombo, thing->XREF2)});
   if (!ValidateText(note)) return;
   const FlagScope scope(displaying_);
   NoteBox.SetText(note);
+}
+
+// Of what was typed into the note, without a word about it.
+void MainForm::MakeOneParagraph() {
+  const FlagScope scope(displaying_);
+  NoteBox.SetText(OneParagraph(NoteBox.Text()));
 }
 
 void MainForm::Redisplay() {
@@ -87,7 +95,7 @@ int LinkPosition(int link) {
 
 void MainForm::DisplayThing() {
   const FlagScope scope(displaying_);
-  ThingRecord* thing = CurrentRecord();
+  const ThingRecord* thing = CurrentRecord();
   const bool empty = TheDocument.Things.Count() == 0;
   NoteBox.SetVisible(!empty);
   HintLabel.SetVisible(empty);
@@ -109,7 +117,7 @@ void MainForm::DisplayThing() {
   if (thing == nullptr || thing->PICFILENAME.empty()) {
     ResetPicBox();
   } else {
-    ShowPhoto(*thing);
+    ShowPhoto();
   }
 }
 
@@ -128,17 +136,18 @@ std::string PhotoFile(const std::string& name) {
 
 }  // namespace
 
-void MainForm::ShowPhoto(ThingRecord& thing) {
+void MainForm::ShowPhoto() {
+  const ThingRecord& thing = *CurrentRecord();
   try {
     HiddenPic.Load(PhotoFile(thing.PICFILENAME));
     PhotoPic.ShowFrom(HiddenPic);
   } catch (const RuntimeError& error) {
     ResetPicBox();
-    thing.PICFILENAME.clear();
-    TheDocument.Modified = true;
-    Global::Say("I am unable to load the photo file for " + thing.NAME + ", due to error #" + SignedText(error.Number) +
-                    ". The picture file link will be removed.",
-                Icon::Exclamation);
+    if (showing_step_) return;  // a link that Undo has brought back is not given up again
+    const std::string text = "I am unable to load the photo file for " + thing.NAME + ", due to error #" +
+                             SignedText(error.Number) + ". The picture file link will be removed.";
+    SetPhoto(TheDocument.CurrentThing, "");
+    Global::Say(text, Icon::Exclamation);
   }
 }
 
@@ -181,17 +190,12 @@ void MainForm::LinkCombo_Click() {
 
 void MainForm::CatList_ItemCheck(int position) {
   if (displaying_) return;
-  ThingRecord* thing = CurrentRecord();
   const int category = position + 1;
-  if (thing == nullptr || TheDocument.CategoryNames[category].empty()) {
+  if (CurrentRecord() == nullptr || TheDocument.CategoryNames[category].empty()) {
     const FlagScope scope(displaying_);
     CatList.SetChecked(position, !CatList.Checked(position));
     return;
   }
-  if (CatList.Checked(position)) {
-    thing->CATBITMAP |= CategoryBit(category);
-  } else {
-    thing->CATBITMAP &= ~CategoryBit(category);
-  }
-  TheDocument.Modified = true;
+  StoreEdits();  // what was typed is a step of its own
+  Tick(TheDocument.CurrentThing, category, CatList.Checked(position));
 }

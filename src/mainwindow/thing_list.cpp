@@ -45,6 +45,14 @@ bool AreLinks(const std::vector<ListEntry>& entries, bool noun_order) {
   return true;
 }
 
+std::vector<ListEntry> CategoryEntries() {
+  std::vector<ListEntry> entries;
+  for (int number = 1; number <= kCategories; ++number) {
+    if (!TheDocument.CategoryNames[number].empty()) entries.push_back({TheDocument.CategoryNames[number], number});
+  }
+  return entries;
+}
+
 int FindEntryBeginning(const std::vector<ListEntry>& entries, const std::string& beginning) {
   const std::string wanted = UpperCase(beginning);
   for (std::size_t position = 0; position < entries.size(); ++position) {

@@ -31,5 +31,8 @@ std::vector<ListEntry> ListLinks(bool noun_order);
 // True when the entries are what ListLinks gives: found out without making them anew, since they seldom change.
 bool AreLinks(const std::vector<ListEntry>& entries, bool noun_order);
 
+// The categories that have a name, each entry's data being the number.
+std::vector<ListEntry> CategoryEntries();
+
 // The position of the first entry whose text begins with the given one without regard to case, or -1.
 int FindEntryBeginning(const std::vector<ListEntry>& entries, const std::string& beginning);

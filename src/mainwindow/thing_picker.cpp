@@ -179,6 +179,7 @@ void ThingPicker::PersonCombo_Change() {
   if (filling_) return;
   const std::string before = typed_.value_or("");
   const std::string typed = typed_.emplace(PersonCombo.Text());
+  Typed();
   if (typed.size() < before.size() || typed == before) return;
   const int position = FindEntryBeginning(PersonCombo.Entries(), typed);
   if (position < 0) return;
@@ -197,6 +198,7 @@ void ThingPicker::LeaveThingList() {
   const int position = typed_->empty() ? -1 : FindEntryBeginning(listed, PersonCombo.Text());
   if (position < 0) {
     RestoreShownName();
+    Typed();
   } else {
     GoTo(listed[static_cast<std::size_t>(position)].Data);
   }
@@ -207,7 +209,9 @@ void ThingPicker::EnterKey() {
 }
 
 void ThingPicker::EscapeKey() {
-  if (PersonCombo.HasFocus()) RestoreShownName();
+  if (!PersonCombo.HasFocus()) return;
+  RestoreShownName();
+  Typed();
 }
 
 // Shows the current thing's name in the list, also when the filters keep the thing out of it.

@@ -18,6 +18,7 @@ class ThingPicker {
   Event StoreEdits;  // comes before another thing, other names or another order are shown
   Event Picked;      // the current thing is another one, and the list shows it
   Event Narrowed;    // the lists of things are to be filled anew
+  Event Typed;       // something was typed into the list, or what was typed is dropped
 
   // All names of all categories, for a new document.
   void Reset();
@@ -29,6 +30,8 @@ class ThingPicker {
   // What was typed into the list is settled: the thing that it offers becomes the current one; where it offers none,
   // the name of the current one comes back. Every command begins with it, so that it acts on what the list shows.
   void LeaveThingList();
+  // True while there is such a text; Esc drops it.
+  bool IsTyping() const { return typed_.has_value(); }
   // Takes notice of the categories' names, one of which may be gone.
   void CategoriesRenamed();
   bool NounOrder() const { return view_.NounOrder; }

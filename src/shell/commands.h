@@ -31,8 +31,8 @@ class CommandTable {
     form_.MenuClick = [this](int id) { Run(id); };
   }
 
-  // Comes before each command, and is told whether it stores; false keeps the command from running.
-  std::function<bool(bool stores)> Before;
+  // Comes before each command; false keeps it from running.
+  std::function<bool(const Command<F>& command)> Before;
   Event After;
 
   void Run(int id) {
@@ -55,7 +55,7 @@ class CommandTable {
 
  private:
   void Run(const Command<F>& command) {
-    if (Before && !Before(command.Stores)) return;
+    if (Before && !Before(command)) return;
     (form_.*command.Handler)();
     if (After) After();
   }

@@ -4,15 +4,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "document/history.h"
 #include "document/text.h"
 #include "platform/locale.h"
 #include "values/field_types.h"
 #include "values/numbers.h"
 
 namespace {
-
-// A record behind the last one that has room makes room for thirty, itself included.
-constexpr int kDefinitionStep = 29;
 
 bool SameName(std::string_view one, std::string_view other) { return UpperCase(one) == UpperCase(other); }
 
@@ -81,32 +79,19 @@ void RenameSlots(FieldSlots& slots, std::string_view old_keyword, const std::str
 }
 
 // Carries another keyword into the document. Expressions are compared in capitals, but stay as typed.
-void RenameField(const std::string& old_keyword, const std::string& keyword, FieldSlots& working) {
-  RecordTable<ThingRecord>& things = TheDocument.Things;
-  for (int record = 1; record <= things.Count(); ++record) RenameSlots(things[record].Values, old_keyword, keyword);
+void RenameField(Step& step, const std::string& old_keyword, const std::string& keyword, FieldSlots& working) {
+  const RecordTable<ThingRecord>& things = TheDocument.Things;
+  for (int record = 1; record <= things.Count(); ++record) {
+    if (FindSlot(things[record].Values, old_keyword) == nullptr) continue;
+    RenameSlots(step.Thing(record).Values, old_keyword, keyword);
+  }
   RenameSlots(working, old_keyword, keyword);
   const std::string reference = Reference(old_keyword);
   for (int number = 1; number <= TheDocument.Formulas.Count(); ++number) {
-    std::string& formula = TheDocument.Formulas[number].Formula;
-    const std::size_t at = UpperCase(formula).find(reference);
-    if (at != std::string::npos) formula.replace(at, reference.size(), "[" + keyword + "]");
+    const std::size_t at = UpperCase(TheDocument.Formulas[number].Formula).find(reference);
+    if (at == std::string::npos) continue;
+    step.Formula(number).Formula.replace(at, reference.size(), "[" + keyword + "]");
   }
-}
-
-template <class Definition>
-void Store(RecordTable<Definition>& table, int number, const Definition& entry) {
-  table.GrowFor(number, kDefinitionStep);
-  table[number] = entry;
-  table.SetCount(std::max(table.Count(), number));
-  TheDocument.Modified = true;
-}
-
-template <class Definition>
-void Remove(RecordTable<Definition>& table, int number) {
-  for (int record = number; record < table.Count(); ++record) table[record] = std::move(table[record + 1]);
-  table[table.Count()] = {};
-  table.SetCount(table.Count() - 1);
-  TheDocument.Modified = true;
 }
 
 // The slots behind move up, so that the other values keep their order.
@@ -172,14 +157,22 @@ Refusal CheckFormula(const FormulaDefinition& entry, int number, bool fixed) {
 }
 
 void StoreField(int number, const FieldDefinition& entry, FieldSlots& working) {
-  if (TheDocument.Fields.Holds(number)) {
-    const std::string old_keyword = TheDocument.Fields[number].Keyword;
-    if (old_keyword != entry.Keyword) RenameField(old_keyword, entry.Keyword, working);
+  const bool is_new = !TheDocument.Fields.Holds(number);
+  Step step((is_new ? "Add Field " : "Change Field ") + entry.Keyword);
+  if (is_new) {
+    step.InsertField(number);
+  } else if (const std::string old_keyword = TheDocument.Fields[number].Keyword; old_keyword != entry.Keyword) {
+    RenameField(step, old_keyword, entry.Keyword, working);
   }
-  Store(TheDocument.Fields, number, entry);
+  step.Field(number) = entry;
 }
 
-void StoreFormula(int number, const FormulaDefinition& entry) { Store(TheDocument.Formulas, number, entry); }
+void StoreFormula(int number, const FormulaDefinition& entry) {
+  const bool is_new = !TheDocument.Formulas.Holds(number);
+  Step step((is_new ? "Add Formula " : "Change Formula ") + entry.Name);
+  if (is_new) step.InsertFormula(number);
+  step.Formula(number) = entry;
+}
 
 std::string AppendReference(std::string_view expression, std::string_view entry) {
   std::string text(expression);
@@ -244,11 +237,16 @@ std::string DeleteFieldQuestion(int number) {
 
 void DeleteField(int number, FieldSlots& working) {
   const std::string keyword = TheDocument.Fields[number].Keyword;
+  Step step("Delete Field " + keyword);
   for (int record = 1; record <= TheDocument.Things.Count(); ++record) {
-    RemoveSlots(TheDocument.Things[record].Values, keyword);
+    if (FindSlot(TheDocument.Things[record].Values, keyword) == nullptr) continue;
+    RemoveSlots(step.Thing(record).Values, keyword);
   }
   RemoveSlots(working, keyword);
-  Remove(TheDocument.Fields, number);
+  step.RemoveField(number);
 }
 
-void DeleteFormula(int number) { Remove(TheDocument.Formulas, number); }
+void DeleteFormula(int number) {
+  Step step("Delete Formula " + TheDocument.Formulas[number].Name);
+  step.RemoveFormula(number);
+}

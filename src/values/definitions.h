@@ -28,7 +28,7 @@ struct Refusal {
 Refusal CheckField(const FieldDefinition& entry, int number, const FieldSlots& working);
 Refusal CheckFormula(const FormulaDefinition& entry, int number, bool fixed);
 
-// Writes the entry, as a new one when `number` is beyond the count. A field that gets another keyword takes
+// Writes the entry, as a new one when `number` is the one behind the last. A field that gets another keyword takes
 // its values in all things and in `working` along, and the first reference in each formula.
 void StoreField(int number, const FieldDefinition& entry, FieldSlots& working);
 void StoreFormula(int number, const FormulaDefinition& entry);

@@ -118,7 +118,7 @@ TEST_F(ReaderTest, NumbersRecordsByTheirMarkers) {
   // number, not the highest. Moving up resets a record, moving down does not, but goes on counting the values.
   Check(R"(
 [THINGS]/*5; NAME=E -> thing 1/thing 2/thing 3/thing 4/thing 5 name<E>
-[THINGS]/*0;NAME=A/*-3;NAME=B/*x;NAME=C/**;NAME=D/* 7th;NAME=E/*2.5;NOTE=b -> thing 1 name<A>/thing 2 name<B> note<b>
+[THINGS]/*0;NAME=A/*0.9;NAME=B/*x;NAME=C/**;NAME=D/* 7th;NAME=E/*2.5;NOTE=b -> thing 1 name<A>/thing 2 name<B> note<b>
 [THINGS]/*3;NAME=C/*1;NAME=A/*7 -> thing 1 name<A>
 [FIELDS]/*2;NAME=B;TITLE=b/*1;NAME=A;TITLE=a/*2;TITLE=x/*1;NAME=Z/*2; TITLE=c -> field 1 keyword<Z> title<a>/field 2 title<c>
 [THINGS]/*1;NAME=A/*5;NAME=E/*2;NAME=B/*3;NAME=C/*5;NOTE=e -> thing 1 name<A>/thing 2 name<B>/thing 3 name<C>/thing 4/thing 5 note<e>

@@ -76,19 +76,19 @@ class Maker {
   void MakeDocument(int things) {
     TheDocument = {};
     for (int number = 1; number <= kCategories; ++number) {
-      TheDocument.CategoryNames[number] = Chance(5) ? "" : Trimmed();
+      TheDocument.CategoryNames.Writable(number) = Chance(5) ? "" : Trimmed();
     }
     TheDocument.Fields.SetCount(static_cast<int>(Below(15)));
     for (int number = 1; number <= TheDocument.Fields.Count(); ++number) {
-      TheDocument.Fields[number] = {Keyword(), Text(), Chance(3) ? "" : Keyword()};
+      TheDocument.Fields.Writable(number) = {Keyword(), Text(), Chance(3) ? "" : Keyword()};
     }
     TheDocument.Formulas.SetCount(static_cast<int>(Below(15)));
     for (int number = 1; number <= TheDocument.Formulas.Count(); ++number) {
-      TheDocument.Formulas[number] = {Text(), Text(), Text(), Text(), Note()};
+      TheDocument.Formulas.Writable(number) = {Text(), Text(), Text(), Text(), Note()};
     }
     TheDocument.Things.GrowFor(things, 0);
     TheDocument.Things.SetCount(things);
-    for (int number = 1; number <= things; ++number) TheDocument.Things[number] = Thing(things);
+    for (int number = 1; number <= things; ++number) TheDocument.Things.Writable(number) = Thing(things);
   }
 
  private:
@@ -111,7 +111,7 @@ TEST_F(RoundTripTest, BringsNotesBackWhereverTheirBlanksAre) {
   const auto add = [&count](const std::string& note) {
     TheDocument.Things.GrowFor(++count, kLoadStep);
     TheDocument.Things.SetCount(count);
-    TheDocument.Things[count].NOTE = note;
+    TheDocument.Things.Writable(count).NOTE = note;
   };
   for (const std::size_t length : {69u, 70u, 71u, 72u, 139u, 140u, 141u, 142u, 200u}) {
     for (std::size_t first = 0; first + 1 < length; ++first) {
@@ -120,7 +120,7 @@ TEST_F(RoundTripTest, BringsNotesBackWhereverTheirBlanksAre) {
       }
     }
   }
-  TheDocument.Things[1].PICFILENAME.assign(300000, ';');
+  TheDocument.Things.Writable(1).PICFILENAME.assign(300000, ';');
   EXPECT_NO_THROW(RequireRoundTrip());
 }
 

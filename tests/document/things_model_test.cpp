@@ -71,7 +71,7 @@ class ThingsModelTest : public FreshTest {
   void Change() {
     const auto index = static_cast<std::size_t>(Below(model.size()));
     const auto target = random() % (model.size() + 1);
-    ThingRecord& thing = TheDocument.Things[static_cast<int>(index) + 1];
+    ThingRecord& thing = TheDocument.Things.Writable(static_cast<int>(index) + 1);
     const std::size_t which = random() % 2;
     (which == 0 ? thing.XREF1 : thing.XREF2) = static_cast<std::int16_t>(target);
     model[index].Links[which] = target == 0 ? "" : model[target - 1].Name;

@@ -34,7 +34,7 @@ class WriterTest : public FreshTest {
   static ThingRecord& AddThing(const std::string& name, const std::string& note = "") {
     const int number = TheDocument.Things.Count() + 1;
     TheDocument.Things.SetCount(number);
-    ThingRecord& thing = TheDocument.Things[number];
+    ThingRecord& thing = TheDocument.Things.Writable(number);
     thing.NAME = name;
     thing.NOTE = note;
     return thing;
@@ -44,16 +44,16 @@ class WriterTest : public FreshTest {
 TEST_F(WriterTest, WritesANastyDocument) {
   EXPECT_EQ(Saved(),
             Lines({"LARKSPUR V5.0 FILER DATA", "'Larkspur Handy Reference Data File", "", "[END]", "DONE=YES"}));
-  TheDocument.CategoryNames[1] = "Tools; toys";
-  TheDocument.CategoryNames[5] = "~Loan+";
+  TheDocument.CategoryNames.Writable(1) = "Tools; toys";
+  TheDocument.CategoryNames.Writable(5) = "~Loan+";
   TheDocument.Fields.SetCount(3);
-  TheDocument.Fields[1] = {"PRI;CE", "What; it~ cost+", "DOL;~+LAR"};  // types alone stand as they are
-  TheDocument.Fields[3] = {"COLOR", "Colour+ ", ""};
+  TheDocument.Fields.Writable(1) = {"PRI;CE", "What; it~ cost+", "DOL;~+LAR"};  // types alone stand as they are
+  TheDocument.Fields.Writable(3) = {"COLOR", "Colour+ ", ""};
   TheDocument.Formulas.SetCount(4);
-  TheDocument.Formulas[1] = {"A", "One", "DOLLAR", "#0.00", "[PRICE] * 2"};
-  TheDocument.Formulas[2] = {"B", "", "DOL;LAR", "", "[A] +"};
-  TheDocument.Formulas[3] = {"C;", "Three~", "", "0;+", ""};
-  TheDocument.Formulas[4] = {"D", "Four", "", "", "1;2"};
+  TheDocument.Formulas.Writable(1) = {"A", "One", "DOLLAR", "#0.00", "[PRICE] * 2"};
+  TheDocument.Formulas.Writable(2) = {"B", "", "DOL;LAR", "", "[A] +"};
+  TheDocument.Formulas.Writable(3) = {"C;", "Three~", "", "0;+", ""};
+  TheDocument.Formulas.Writable(4) = {"D", "Four", "", "", "1;2"};
 
   AddThing("");
   ThingRecord& thing = AddThing("Big; Red_Barn+", "One~ two;\r\nthree+");
@@ -73,7 +73,7 @@ TEST_F(WriterTest, WritesANastyDocument) {
                    {"P;Q:1"},
                    {"E:5+ "}}};
   AddThing("Links above 0 only").XREF1 = -1;
-  TheDocument.Things[3].XREF2 = 2;
+  TheDocument.Things.Writable(3).XREF2 = 2;
   AddThing("Zoo").XREF1 = 2;
   AddThing("+ ").XREF2 = -32768;
 

@@ -103,7 +103,7 @@ class SaveFaultTest : public FreshTest {
       TheDocument.FileName = TheDocument.ShownFileName = InFolder(scenario.Current);
     }
     TheDocument.Things.SetCount(1);
-    TheDocument.Things[1].NAME = "new" + std::string(70000, 'x');
+    TheDocument.Things.Writable(1).NAME = "new" + std::string(70000, 'x');
     TheDocument.Modified = true;
     if (!scenario.ReadOnlyFile.empty()) Machine::SetReadOnly(scenario.ReadOnlyFile, true);
     contents = DescribeDocument();

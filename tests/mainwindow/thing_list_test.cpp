@@ -14,7 +14,7 @@ class ThingListTest : public FreshTest {
     FreshTest::SetUp();
     for (const char* name : {"Big Red_Barn", "", "Garden Shed", "shed", "Sun Room", "\xE9table"}) InsertThing(name);
     const std::int32_t categories[] = {0, 1, 2, CategoryBit(32), 0, 3};
-    for (int record = 1; record <= 6; ++record) TheDocument.Things[record].CATBITMAP = categories[record - 1];
+    for (int record = 1; record <= 6; ++record) TheDocument.Things.Writable(record).CATBITMAP = categories[record - 1];
   }
   // "text/record" for each entry.
   static std::string Shown(const std::vector<ListEntry>& entries) {
@@ -54,12 +54,12 @@ TEST_F(ThingListTest, PassesTheFilters) {
 
 // Links beyond the last thing are moved along, up to the last number.
 TEST_F(ThingListTest, AddsThingsAtTheirPlace) {
-  TheDocument.Things[1].NAME = "M";  // unsorted: the place is before the first one that is greater
-  TheDocument.Things[1].XREF1 = 9;
+  TheDocument.Things.Writable(1).NAME = "M";  // unsorted: the place is before the first one that is greater
+  TheDocument.Things.Writable(1).XREF1 = 9;
   EXPECT_EQ(InsertThing("C"), 1);
   EXPECT_EQ(InsertThing("SHED"), 6);  // behind its equals
   EXPECT_EQ(TheDocument.Things[2].XREF1, 11);
-  TheDocument.Things[2].XREF1 = kLastRecord;
+  TheDocument.Things.Writable(2).XREF1 = kLastRecord;
   TheDocument.Things.GrowFor(kLastRecord, 0);
   TheDocument.Things.SetCount(kLastRecord - 1);
   EXPECT_EQ(InsertThing("\xF7"), kLastRecord);

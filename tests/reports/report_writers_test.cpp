@@ -86,8 +86,8 @@ TEST_F(ReportWritersTest, AreAsTheyWere) {
   ExpectGolden("NastyValues.PRN", [] { WriteItemValuesReport(0, {1, 2, 3, 5}); });
   ExpectGolden("NastyRooms.PRN", [] { WriteItemValuesReport(CategoryBit(2), {3}); });
   ExpectGolden("NastyHierarchy.PRN", [] { WriteHierarchyReport(1); });
-  TheDocument.Things[5].Values[3].Text = ":a colon first";
-  TheDocument.Things[5].Values[9].Text = "no colon";
+  TheDocument.Things.Writable(5).Values[3].Text = ":a colon first";
+  TheDocument.Things.Writable(5).Values[9].Text = "no colon";
   ExpectGolden("NastyList.PRN", [] { WriteItemListReport(0); });
 }
 
@@ -107,8 +107,8 @@ TEST_F(ReportWritersTest, GoToExtremes) {
 TEST_F(ReportWritersTest, HierarchiesEnd) {
   Load("tests/reports/golden/Family.FIL");
   const std::string nines(79, '9');
-  TheDocument.Things[5].NAME = "_" + nines + " 34";
-  TheDocument.Things[9].NAME = "  " + nines + "__34";
+  TheDocument.Things.Writable(5).NAME = "_" + nines + " 34";
+  TheDocument.Things.Writable(9).NAME = "  " + nines + "__34";
   ExpectGolden("FamilyHierarchies.PRN", [] {
     for (int top = -1; top <= TheDocument.Things.Count() + 1; ++top) WriteHierarchyReport(top);
   });

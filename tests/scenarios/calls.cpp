@@ -23,7 +23,7 @@
 
 namespace {
 
-using Verb = Story::Verb;
+using Called = std::function<void(Story& story, const std::string& with)>;
 
 void FillDocument(Story&, const std::string&) {
   TheDocument.Things.GrowFor(32767, 0);
@@ -70,8 +70,8 @@ void RunFailing(Story&, const std::string&) {
   });
 }
 
-void Call(Story& story, const std::string& rest) {
-  static const std::map<std::string, Verb> kCalls = {
+void Call(const Story::Said& said) {
+  static const std::map<std::string, Called> kCalls = {
       {"MakeNew", [](Story&, const std::string&) { MakeNew(); }},
       {"ReleaseFileLock", [](Story&, const std::string&) { ReleaseFileLock(); }},
       {"Current", [](Story&, const std::string& with) { TheDocument.CurrentThing = std::stoi(with); }},
@@ -82,12 +82,12 @@ void Call(Story& story, const std::string& rest) {
       {"DatePickForm", PickDate},
       {"RunFailing", RunFailing},
   };
-  const std::size_t end = std::min(rest.find(' '), rest.size());
-  const auto call = kCalls.find(rest.substr(0, end));
-  if (call == kCalls.end()) return story.Fail("Nothing is called so");
-  call->second(story, end < rest.size() ? rest.substr(end + 1) : "");
+  const std::size_t end = std::min(said.Rest.find(' '), said.Rest.size());
+  const auto call = kCalls.find(said.Rest.substr(0, end));
+  if (call == kCalls.end()) return said.Teller.Fail("Nothing is called so");
+  call->second(said.Teller, said.Rest.substr(std::min(end + 1, said.Rest.size())));
 }
 
 }  // namespace
 
-std::map<std::string, Verb> CallVerbs() { return {{"call", Call}}; }
+std::map<std::string, Story::Verb> CallVerbs() { return {{"call", {0, Call}}}; }

@@ -7,7 +7,7 @@
 #include <filesystem>
 
 #include "document/document.h"
-#include "platform/locale.h"
+#include "platform/controls.h"
 #include "platform/program.h"
 #include "platform/runtime_error.h"
 #include "shell/messages.h"
@@ -26,13 +26,7 @@ void ReplaceAll(std::string& text, const std::string& from, const std::string& t
 
 // What is another thing on each machine, as stories have it.
 std::vector<std::pair<std::string, std::string>> Stand() {
-  const std::chrono::year_month_day today = Today();
-  return {{TestFiles::Folder(), "{folder}"},
-          {ShortDate(static_cast<int>(today.year()), static_cast<unsigned>(today.month()),
-                     static_cast<unsigned>(today.day())),
-           "{today}"},
-          {"Version " FILER_VERSION, "Version {version}"},
-          {"\r\n", "{n}"}};
+  return {{TestFiles::Folder(), "{folder}"}, {"Version " FILER_VERSION, "Version {version}"}, {"\r\n", "{n}"}};
 }
 
 // As stories have it: what is the machine's own by its name, what is no plain character as {E9}.
@@ -47,6 +41,12 @@ std::string Plain(const std::string& line) {
   }
   plain.erase(plain.find_last_not_of(' ') + 1);
   return plain;
+}
+
+// The first word, and what stands behind it.
+std::pair<std::string, std::string> Parted(const std::string& text) {
+  const std::size_t end = std::min(text.find(' '), text.size());
+  return {text.substr(0, end), text.substr(std::min(end + 1, text.size()))};
 }
 
 // A click on these closes a form.
@@ -127,13 +127,13 @@ void Story::Step() {
   const std::size_t open = Hands::OpenForms().size();
   Do(Expanded(now_->Text));
   const bool stays = leaves && Hands::OpenForms().size() >= open && !Hands::OpenForms().back()->Closed();
-  if (stays) Say("stays");
+  if (stays) Sees.Note("stays");
   Sees.LookAround();
 }
 
 bool Story::TakeReply(const std::string& text) {
-  const std::size_t end = std::min(text.find(' '), text.size());
-  Reply reply{text.substr(0, end), Unquoted(Expanded(text.substr(std::min(end + 1, text.size())))), now_->Line};
+  const auto [word, rest] = Parted(text);
+  Reply reply{word, Unquoted(Expanded(rest)), now_->Line};
   constexpr const char* kKinds[] = {"ok", "cancel", "yes", "no", "answers", "chooses"};
   if (std::find(std::begin(kKinds), std::end(kKinds), reply.Kind) == std::end(kKinds)) return false;
   given_.push_back(std::move(reply));
@@ -147,14 +147,45 @@ void Story::Do(const std::string& text) {
     verbs.merge(MachineVerbs());
     return verbs;
   }();
-  const std::size_t end = std::min(text.find(' '), text.size());
-  const std::string word = text.substr(0, end);
-  const std::string rest = end < text.size() ? text.substr(end + 1) : "";
-  if (const auto verb = kVerbs.find(word); verb != kVerbs.end()) return verb->second(*this, rest);
-  const std::size_t times = rest.find("times ");
-  if (times != 0 || word.find_first_not_of("0123456789") != std::string::npos)
-    return Fail("There is no act \"" + word + "\"");
-  for (int left = std::stoi(word); left > 0; --left) Do(rest.substr(6));
+  const auto [word, rest] = Parted(text);
+  const auto verb = kVerbs.find(word);
+  if (verb == kVerbs.end() && rest.starts_with("times ")) {
+    for (int left = std::stoi(word); left > 0; --left) Do(Parted(rest).second);
+    return;
+  }
+  if (verb == kVerbs.end()) return Fail("There is no act \"" + word + "\"");
+  const auto& [traits, act] = verb->second;
+  Said said{*this, user, rest, 0, ""};
+  if ((traits & kControl) != 0) {
+    const auto [name, behind] = Parted(rest);
+    said.Id = Names::ControlOf(name);
+    said.Text = Unquoted(behind);
+    if (said.Id == 0) return Fail("There is no name " + name);
+    if ((traits & kFocus) != 0) Foresee(said, traits);
+  }
+  if ((traits & kUntold) == 0) return act(said);
+  const bool quiet = std::exchange(Quiet, true);
+  act(said);
+  Sees.LookAround();  // what was given beforehand is no news
+  Sees.LookAtDocument();
+  Quiet = quiet;
+}
+
+// Labels and pictures take no focus.
+void Story::Foresee(const Said& said, unsigned traits) {
+  const auto& controls = Hands::ControlsOf(*Hands::OpenForms().back());
+  const auto found = controls.find(said.Id);
+  if (found == controls.end() || dynamic_cast<const Label*>(found->second) != nullptr ||
+      dynamic_cast<const Picture*>(found->second) != nullptr) {
+    return;
+  }
+  Sees.Foresee({said.Id, (traits & kShows) != 0 ? std::optional(said.Text) : std::nullopt, (traits & kMarks) != 0});
+}
+
+std::string Story::Given() const {
+  std::string text;
+  for (const std::string& line : now_->Given) text += Expanded(line) + "\r\n";
+  return text;
 }
 
 std::string Story::Expanded(std::string text) {
@@ -232,9 +263,9 @@ void Story::FormCame(Form& form) {
   if (open.size() > 1 && Sees.Knows(*open[open.size() - 2])) Sees.LookAt(*open[open.size() - 2]);
   Sees.LookAround();
   while (!form.Closed() && next_ < acts_.size()) Step();
-  const std::string name = Names::OfForm(Hands::TemplateOf(form));
+  const std::string name = Names::Of(Hands::TemplateOf(form)).Name;
   if (!form.Closed()) Fail(name + " was left open");
-  if (!Leaves(*now_)) Say(name + " closes");
+  if (!Leaves(*now_) && Sees.Knows(form)) Say(name + " closes");
   Sees.Forget(form);
 }
 

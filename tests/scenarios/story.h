@@ -15,16 +15,17 @@
 //   home, empty                       the main window shows Home.FIL, or a new document; untold
 // A person's acts, on the topmost window; CONTROL is a name of resource.h, of a row LetterLabel[S], CategoryNameBox[2]
 //   start COMMANDLINE, viewer COMMANDLINE, shutdown (the system asks), leave (unasked)
-//   type CONTROL "text", click CONTROL, focus CONTROL, pick CONTROL "entry", pick-at CONTROL 0, tick CONTROL "entry"
+//   type CONTROL "text", click CONTROL, focus CONTROL, pick CONTROL "entry", tick CONTROL "entry"
 //   menu ITEM, close, key Enter (Escape, Down, PageDown, Help, ..., with Shift+ or Ctrl+ on a surface; Ctrl+A, Ctrl+C)
-//   drag SURFACE 1,2 3,4 (column, row; from 0), shift-drag SURFACE 1,2 3,4, double-click SURFACE 1,2
-//   wheel SURFACE 3, shift-wheel SURFACE 3, ctrl-wheel SURFACE 1, page-down SURFACE 2, page-across SURFACE -1
+//   drag SURFACE 1,2 3,4 (column, row; from 0), double-click SURFACE 1,2, wheel SURFACE 3, page SURFACE 2 (or 2 across)
+//   drag and wheel with "shift" at the end, wheel with "ctrl"
 //   A click on OKButton or CancelButton closes a form; one that does not is told of ("stays").
 //   3 times ACT, quietly ACT (untold)
 // Standing before the act whose questions they answer; a plain OK box needs none
 //   ok, cancel, yes, no, answers "text" (an input box), chooses "file" (a file dialog)
 // Looking closer
-//   document (what changed in it since last told), show FILE, lock FILE (can another write it?), all CONTROL, clipboard
+//   document (what changed in it since last told), entry ITEM (what it says), show FILE, clipboard,
+//   lock FILE (can another write it?)
 // What code does: calls.cpp. In memory only: tests/support/headless/machine_verbs.cpp
 #pragma once
 
@@ -43,7 +44,20 @@
 
 class Story : public FreshTest, public Listener {
  public:
-  using Verb = std::function<void(Story& story, const std::string& rest)>;
+  // An act: what stands behind its word; if that begins with the name of a control, its id and what stands behind it.
+  struct Said {
+    Story& Teller;
+    User& Person;
+    std::string Rest;
+    int Id = 0;
+    std::string Text;
+  };
+  // Of a verb: nothing of it is told; it names a control; it gives that the focus, shows its text there, marks it.
+  enum Traits : unsigned { kUntold = 1, kControl = 2, kFocus = 4, kShows = 8, kMarks = 16 };
+  struct Verb {
+    unsigned Is = 0;
+    std::function<void(const Said& said)> Act;
+  };
 
   Story(std::shared_ptr<StoryFile> file, std::size_t number);
   ~Story() override;
@@ -59,8 +73,7 @@ class Story : public FreshTest, public Listener {
     form_ = std::move(form);
     return opened;
   }
-  const std::vector<std::string>& Given() const { return now_->Given; }
-  User& Person() { return user; }
+  std::string Given() const;  // the lines "| ..." of the act
   static std::string Expanded(std::string text);
   static std::string Unquoted(const std::string& text);
   Recorder Sees;
@@ -81,6 +94,7 @@ class Story : public FreshTest, public Listener {
   void TestBody() override;
   void Run();
   void Step();
+  void Foresee(const Said& said, unsigned traits);
   bool TakeReply(const std::string& text);
   void CheckReplies();
   std::optional<Reply> Take(std::initializer_list<const char*> kinds, const std::string& question);

@@ -1,4 +1,4 @@
-// The calendar: against the library's own over the 400 years after which it begins anew.
+// The calendar, against the library's own over the 400 years after which it begins anew.
 #include "shell/calendar.h"
 
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 
 #include "document/document.h"
 #include "document/file_lock.h"
+#include "document/history.h"
 #include "document/segments.h"
 #include "mainwindow/command_line.h"
 #include "mainwindow/settings.h"
@@ -15,6 +16,7 @@ void FreshTest::SetUp() {
 void FreshTest::StartFresh() {
   ReleaseFileLock();
   TheDocument = {};
+  TheHistory.Clear();
   TheRecentFiles = {};
   TheStart = {};
   StartSegments(0);

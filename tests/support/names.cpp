@@ -3,25 +3,13 @@
 
 #include <filesystem>
 #include <fstream>
-#include <map>
-#include <set>
 #include <sstream>
-#include <utility>
 
 namespace {
 
-struct Template {
-  std::map<int, std::pair<std::string, int>> Names;  // and the place in its row, from 0
-  std::set<std::string> Rows;
-  std::map<int, std::string> Captions;
-  std::map<int, bool> Lines;
-  std::vector<int> Items;
-};
-
 struct Book {
   std::map<std::string, int> Ids;  // "IDC_PersonCombo"
-  std::map<int, std::string> Forms;
-  std::map<int, Template> Templates;
+  std::map<int, Names::Template> Templates;
 };
 
 void ReadIds(const std::filesystem::path& file, Book& book) {
@@ -30,9 +18,7 @@ void ReadIds(const std::filesystem::path& file, Book& book) {
     std::istringstream words(line);
     std::string define, name;
     int id = 0;
-    if (!(words >> define >> name >> id) || define != "#define" || name.size() < 5) continue;
-    book.Ids[name] = id;
-    if (name.starts_with("IDD_")) book.Forms[id] = name.substr(4);
+    if (words >> define >> name >> id && define == "#define") book.Ids[name] = id;
   }
 }
 
@@ -49,45 +35,53 @@ std::string Between(const std::string& text) {
   return first == last ? "" : text.substr(first + 1, last - first - 1);
 }
 
+// The letter tabs are told apart by their letters, other rows by numbers from 1 on.
+std::string InRow(const std::string& name, int place) {
+  const bool letters = name.starts_with("Letter");
+  return name + "[" + (letters ? std::string(1, static_cast<char>('A' + place)) : std::to_string(place + 1)) + "]";
+}
+
+void ReadControl(const std::string& line, const Book& book, Names::Template& form) {
+  const std::size_t at = line.find("IDC_");
+  const std::string kind = WordAt(line, std::min(line.find_first_not_of(' '), line.size()));
+  const bool accelerator = kind.empty() || line.find(kind + ",") != std::string::npos;
+  if (at == std::string::npos || accelerator) return;
+  const std::string id_name = WordAt(line, at), name = id_name.substr(4);
+  const int first = book.Ids.at(id_name);
+  const bool in_row = line.compare(at + id_name.size(), 3, " + ") == 0;
+  const int place = in_row ? std::stoi(line.substr(at + id_name.size() + 3)) : 0;
+  form.Controls[first + place] = in_row ? InRow(name, place) : name;
+  if (in_row) form.Controls[first] = InRow(name, 0);
+  if (kind == "MENUITEM") {
+    form.MenuItems.push_back(first);
+  } else {
+    form.Texts[first + place] = Between(line.substr(0, at));
+    if (line.find("ES_MULTILINE") != std::string::npos) form.Lines.insert(first);
+  }
+}
+
 void ReadTemplates(const std::filesystem::path& file, Book& book) {
   std::ifstream in(file);
-  Template* current = nullptr;
+  Names::Template* current = nullptr;
   for (std::string line; std::getline(in, line);) {
-    if (line.starts_with("IDD_")) current = &book.Templates[book.Ids[WordAt(line, 0)]];
-    if (current == nullptr) continue;
-    if (line.starts_with("CAPTION")) current->Captions[0] = Between(line);
-    const std::size_t at = line.find("IDC_");
-    const std::string kind = WordAt(line, std::min(line.find_first_not_of(' '), line.size()));
-    if (at == std::string::npos || kind.empty() || line.find(kind + ",") != std::string::npos)
-      continue;  // accelerators
-    const std::string name = WordAt(line, at);
-    const bool in_row = line.compare(at + name.size(), 3, " + ") == 0;
-    const int place = in_row ? std::stoi(line.substr(at + name.size() + 3)) : 0;
-    const int id = book.Ids[name] + place;
-    if (in_row) current->Rows.insert(name.substr(4));
-    current->Names[id] = {name.substr(4), place};
-    if (kind == "MENUITEM") {
-      current->Items.push_back(id);
-    } else {
-      current->Captions[id] = Between(line.substr(0, at));
-      current->Lines[id] = line.find("ES_MULTILINE") != std::string::npos;
+    if (line.starts_with("IDD_")) {
+      current = &book.Templates[book.Ids.at(WordAt(line, 0))];
+      current->Name = WordAt(line, 0).substr(4);
     }
+    if (current == nullptr) continue;
+    if (line.starts_with("CAPTION")) current->Caption = Between(line);
+    ReadControl(line, book, *current);
   }
 }
 
 const Book& TheBook() {
   static const Book kBook = [] {
     Book book;
-    const std::filesystem::path source = std::filesystem::path(FILER_SOURCE_DIR "/src");
-    ReadIds(source / "resource.h", book);
     std::vector<std::filesystem::path> templates;
-    for (const auto& room : std::filesystem::directory_iterator(source)) {
-      if (!room.is_directory() || room.path().filename() == "platform") continue;
-      for (const auto& file : std::filesystem::directory_iterator(room)) {
-        const std::string name = file.path().filename().string();
-        if (name.ends_with("_ids.h")) ReadIds(file.path(), book);
-        if (name.ends_with(".rc")) templates.push_back(file.path());
-      }
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(FILER_SOURCE_DIR "/src")) {
+      const std::string name = entry.path().filename().string();
+      if (name == "resource.h" || name.ends_with("_ids.h")) ReadIds(entry.path(), book);
+      if (name.ends_with("_form.rc")) templates.push_back(entry.path());
     }
     for (const auto& file : templates) ReadTemplates(file, book);
     return book;
@@ -95,21 +89,12 @@ const Book& TheBook() {
   return kBook;
 }
 
-const Template& Of(int form) {
+}  // namespace
+
+const Names::Template& Names::Of(int form) {
   static const Template kNone;
   const auto found = TheBook().Templates.find(form);
   return found == TheBook().Templates.end() ? kNone : found->second;
-}
-
-}  // namespace
-
-std::string Names::OfControl(int form, int id) {
-  const auto found = Of(form).Names.find(id);
-  if (found == Of(form).Names.end()) return std::to_string(id);
-  const auto& [name, place] = found->second;
-  if (!Of(form).Rows.contains(name)) return name;
-  const bool letters = name.starts_with("Letter");
-  return name + "[" + (letters ? std::string(1, static_cast<char>('A' + place)) : std::to_string(place + 1)) + "]";
 }
 
 int Names::ControlOf(const std::string& name) {
@@ -120,22 +105,3 @@ int Names::ControlOf(const std::string& name) {
   const std::string index = name.substr(bracket + 1, name.size() - bracket - 2);
   return found->second + (index[0] >= 'A' ? index[0] - 'A' : std::stoi(index) - 1);
 }
-
-std::string Names::OfForm(int template_id) {
-  const auto found = TheBook().Forms.find(template_id);
-  return found == TheBook().Forms.end() ? std::to_string(template_id) : found->second;
-}
-
-std::string Names::Caption(int form, int id) {
-  const auto& captions = Of(form).Captions;
-  const auto found = captions.find(id);
-  return found == captions.end() ? "" : found->second;
-}
-
-bool Names::HasLines(int form, int id) {
-  const auto& lines = Of(form).Lines;
-  const auto found = lines.find(id);
-  return found != lines.end() && found->second;
-}
-
-std::vector<int> Names::MenuItems(int form) { return Of(form).Items; }

@@ -95,7 +95,7 @@ TEST_F(EvaluatorTest, AsksAboutHighInterestEvenWhenQuiet) {
 
 TEST_F(EvaluatorTest, ExpandsReferences) {
   TheDocument.Things.SetCount(1);
-  auto& slots = TheDocument.Things[1].Values;
+  auto& slots = TheDocument.Things.Writable(1).Values;
   const char* const texts[] = {":nothing",     "",         "PRICE:12.50",    "QTY:", "TIME:10:30",
                                "LOOP:[loop]1", "PRICE:99", "TWO:[two][two]", "A:1"};
   for (std::size_t slot = 0; slot < std::size(texts); ++slot) slots[slot].Text = texts[slot];
