@@ -1,6 +1,5 @@
 // The reports, and the lines that all of them are made of. Most are compared with the golden files beside this one,
-// which a run with FILER_UPDATE=1 writes anew.
-#include <cstdlib>
+// which a run with --update writes anew.
 #include <fstream>
 #include <functional>
 #include <iterator>
@@ -15,6 +14,7 @@
 #include "reports/print_file.h"
 #include "support/fresh_test.h"
 #include "support/rows.h"
+#include "support/update.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ class ReportWritersTest : public FreshTest {
   static void ExpectGolden(const std::string& name, const std::function<void()>& write) {
     const std::string written = Written(write);
     const std::string golden = "tests/reports/golden/" + name;
-    if (std::getenv("FILER_UPDATE") != nullptr) {
+    if (UpdatesGolden) {
       std::ofstream(FILER_SOURCE_DIR "/" + golden, std::ios::binary) << written;
     }
     EXPECT_EQ(written, SourceFile(golden)) << name;

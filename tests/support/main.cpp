@@ -1,12 +1,14 @@
-// Runs the tests; with --update, stories write what they see into their files.
+// Runs the tests; with --update, stories and golden files are written as they are seen.
 #include <gtest/gtest.h>
 
 #include <string_view>
 
 #include "scenarios/story.h"
+#include "support/update.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  RegisterStories(argc > 1 && std::string_view(argv[1]) == "--update");
+  UpdatesGolden = argc > 1 && std::string_view(argv[1]) == "--update";
+  RegisterStories(UpdatesGolden);
   return RUN_ALL_TESTS();
 }

@@ -87,7 +87,8 @@ TEST_F(DefinitionsTest, ChecksRunInTheirOrder) {
 }
 
 TEST_F(DefinitionsTest, RenamedAndDeletedFieldsTakeTheirValuesAlong) {
-  working = Slots({"QTY:9", "PRICE:7", "A:1", "PRICE:8", "B:3", "C:4", "D:5", "QTY:2", "E:6", "QTY:10"});  // damaged
+  working = Slots({"QTY:9", "PRICE:7", "A:1", "PRICE:8", "B:3", "C:4", "D:5", "QTY:2", "QTY:10", "E:6"});  // damaged
+  AddThing("Full", {"A:", "B:", "C:", "D:", "E:", "F:", "G:", "H:", "I:", "QTY:last"});
   StoreField(1, {"COST", "Cost", "DOLLAR"}, working);
   StoreField(1, {"COST", "Price", "LONG"}, working);  // the same keyword again renames nothing
   DeleteField(2, working);
@@ -100,6 +101,7 @@ formula 2 name<MORE> title<More>
 thing 1 name<Barn> slot1<COLOUR:red: dark> slot2<COST:12.50>
 thing 2 name<Shed> slot1<COST:3> slot2<COLOUR:>
 thing 3 name<Zoo> slot1<PRICER:1> slot2<XPRICE:2>
+thing 4 name<Full> slot1<A:> slot2<B:> slot3<C:> slot4<D:> slot5<E:> slot6<F:> slot7<G:> slot8<H:> slot9<I:>
 )");
   std::string joined;
   for (const FieldValueSlot& slot : working) joined += slot.Text + "|";

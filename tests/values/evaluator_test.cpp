@@ -73,7 +73,7 @@ INTRATE -0,05 => 0 Invalid interest value -5% is replaced with 0.  (For interest
   std::string text = "30000000";
   EXPECT_FALSE(Global::StoreNumberByType(text, "DOLLAR", '.', false));
   EXPECT_EQ(text, "");
-  EXPECT_TRUE(Global::StoreNumberByType(text, "INTEGER", '.', false));
+  EXPECT_TRUE(Global::StoreNumberByType(text, "INTEGER", ',', false));
   EXPECT_EQ(text, "0");
 }
 

@@ -1,15 +1,16 @@
 // What of a report stands in the window and on paper. The files beside this one hold what is done, flush left, and
-// below it, indented, the whole page that is then to be seen. With FILER_UPDATE=1 a run writes the pages anew.
+// below it, indented, the whole page that is then to be seen. A run with --update writes the pages anew.
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
+#include <cstdio>
 #include <fstream>
 #include <functional>
 #include <iterator>
 #include <map>
 #include <sstream>
 
+#include "support/update.h"
 #include "viewer/print_layout.h"
 #include "viewer/report_view.h"
 
@@ -149,7 +150,6 @@ class PagesTest : public testing::TestWithParam<const char*> {};
 
 TEST_P(PagesTest, AreAsWritten) {
   const std::string name = std::string(FILER_SOURCE_DIR "/tests/viewer/") + GetParam();
-  const bool updates = std::getenv("FILER_UPDATE") != nullptr;
   std::ifstream file(name, std::ios::binary);
   const std::string written{std::istreambuf_iterator<char>(file), {}};
   ASSERT_TRUE(written.ends_with("\n")) << name;
@@ -161,11 +161,11 @@ TEST_P(PagesTest, AreAsWritten) {
       if (!line.starts_with("    ")) told += line + "\n" + (line.starts_with("== ") ? "" : Done(line, view));
     }
     all += (all.empty() ? "" : "\n") + told;
-    if (!updates) {
+    if (!UpdatesGolden) {
       EXPECT_EQ(told, story + "\n");
     }
   }
-  if (updates) std::ofstream(name, std::ios::binary) << all;
+  if (UpdatesGolden) std::ofstream(name, std::ios::binary) << all;
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, PagesTest,
