@@ -183,6 +183,10 @@ struct History::Entry {
   int After = 0;
   std::vector<Change> Changes = {};
 
+  void TurnBack() noexcept {
+    std::for_each(Changes.rbegin(), Changes.rend(), [](Change& change) { Turn(change); });
+    TheDocument.CurrentThing = Before;
+  }
   // Keeps what a change must know before it is made.
   template <class Kind>
   Kind& Keep(Kind change) {
@@ -215,9 +219,7 @@ std::string History::RedoTitle() const { return CanRedo() ? undone_.front().Titl
 
 bool History::Undo() {
   if (done_.empty()) return false;
-  Entry& entry = done_.back();
-  for (auto change = entry.Changes.rbegin(); change != entry.Changes.rend(); ++change) Turn(*change);
-  TheDocument.CurrentThing = entry.Before;
+  done_.back().TurnBack();
   undone_.splice(undone_.begin(), done_, std::prev(done_.end()));
   Tell();
   return true;
@@ -262,9 +264,7 @@ void History::Begin(std::string title) {
 }
 
 void History::TakeBack() {
-  Entry& entry = open_.back();
-  for (auto change = entry.Changes.rbegin(); change != entry.Changes.rend(); ++change) Turn(*change);
-  TheDocument.CurrentThing = entry.Before;
+  open_.back().TurnBack();
   open_.clear();
 }
 

@@ -45,7 +45,7 @@ std::string WriteRescueCopy() {
   const std::string beside = FolderOf(Global::FullFileName(working_folder, TheDocument.FileName));
   for (const std::string& folder : {beside, working_folder, CurrentFolder(), DocumentsFolder(), TemporaryFolder()}) {
     if (folder.empty()) continue;
-    const std::string name = FreeRescueName(folder);
+    std::string name = FreeRescueName(folder);
     if (WriteWhole(name)) return name;
   }
   return {};
