@@ -7,6 +7,7 @@
 #include "document/segments.h"
 #include "mainwindow/command_line.h"
 #include "mainwindow/settings.h"
+#include "shell/messages.h"
 
 void FreshTest::SetUp() {
   TestFiles::Start();
@@ -17,6 +18,7 @@ void FreshTest::StartFresh() {
   ReleaseFileLock();
   TheDocument = {};
   TheHistory.Clear();
+  Global::ProgramTitle = "Larkspur Filer";
   TheRecentFiles = {};
   TheStart = {};
   StartSegments(0);
