@@ -12,7 +12,6 @@
 namespace {
 
 constexpr std::size_t kNeverSaved = History::kMostSteps + 1;
-constexpr int kGrowth = 49;
 
 // A link of a thing: its record number twice, and one more for the second link.
 using LinkPlace = std::uint16_t;
@@ -311,7 +310,7 @@ std::string& Step::CategoryName(int number) {
 }
 
 void Step::InsertThing(int record) {
-  TheDocument.Things.GrowFor(TheDocument.Things.Count() + 1, kGrowth);
+  TheDocument.Things.GrowFor(TheDocument.Things.Count() + 1, kLoadStep);
   TheHistory.open_.back().KeepAndTurn(ThingComing{record, true, false, LinksTo(kLastRecord), {}});
 }
 
@@ -322,7 +321,7 @@ void Step::RemoveThing(int record) {
 void Step::MoveThing(int from, int to) { TheHistory.open_.back().KeepAndTurn(ThingMove{from, to}); }
 
 void Step::InsertField(int number) {
-  TheDocument.Fields.GrowFor(TheDocument.Fields.Count() + 1, kGrowth);
+  TheDocument.Fields.GrowFor(TheDocument.Fields.Count() + 1, kLoadStep);
   TheHistory.open_.back().KeepAndTurn(Coming<FieldDefinition>{&Document::Fields, number, false, {}});
 }
 
@@ -331,7 +330,7 @@ void Step::RemoveField(int number) {
 }
 
 void Step::InsertFormula(int number) {
-  TheDocument.Formulas.GrowFor(TheDocument.Formulas.Count() + 1, kGrowth);
+  TheDocument.Formulas.GrowFor(TheDocument.Formulas.Count() + 1, kLoadStep);
   TheHistory.open_.back().KeepAndTurn(Coming<FormulaDefinition>{&Document::Formulas, number, false, {}});
 }
 

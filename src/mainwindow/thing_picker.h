@@ -35,7 +35,6 @@ class ThingPicker {
   // Takes notice of the categories' names, one of which may be gone.
   void CategoriesRenamed();
   bool NounOrder() const { return view_.NounOrder; }
-  const ThingListView& View() const { return view_; }
 
   void EnterKey();
   void EscapeKey();
