@@ -7,7 +7,7 @@
 #include "platform/controls.h"
 #include "support/hands.h"
 #include "support/names.h"
-#include "viewer/page_text.h"
+#include "support/page_text.h"
 
 namespace {
 

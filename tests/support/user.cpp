@@ -177,9 +177,9 @@ void User::ClosesWindow() {
 
 std::string User::Sees(int id) { return SightOf(id).Text; }
 bool User::SeesEnabled(int id) { return SightOf(id).Enabled; }
+bool User::SeesBold(int id) { return SightOf(id).Bold; }
 bool User::SeesVisible(int id) { return SightOf(id).Visible; }
 bool User::SeesFocusOn(int id) { return SightOf(id).Focused; }
-bool User::SeesBold(int id) { return SightOf(id).Bold; }
 std::vector<std::string> User::SeesEntries(int id) { return SightOf(id).Entries; }
 
 std::string User::SeesSelected(int id) {
@@ -194,18 +194,6 @@ std::vector<std::string> User::SeesTicked(int id) {
     if (sight.Ticks[index]) texts.push_back(sight.Entries[index]);
   }
   return texts;
-}
-
-bool User::SeesBorder(int id) {
-  return Asked<Label>(id, [](const Label& label) { return label.Border(); });
-}
-
-bool User::SeesMarked(int id) {
-  return Asked<Button>(id, [](const Button& button) { return button.BackColor() == BackColor::Marked; });
-}
-
-bool User::SeesPicture(int id) {
-  return Asked<Picture>(id, [](const Picture& box) { return !box.Empty(); });
 }
 
 Page User::SeesPage(int id) { return Asked<Surface>(id, Hands::PageOn); }
@@ -241,5 +229,3 @@ void User::AnswersInput(std::string_view prompt, std::string_view answer) {
 void User::UsesForm(int template_id, std::function<void()> acts) {
   Expected().Expect(Expectations::Window(template_id), "", std::move(acts));
 }
-
-void User::ChoosesFile(std::string_view name) { Expected().Expect(Expectations::File(), std::string(name)); }

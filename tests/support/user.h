@@ -44,11 +44,8 @@ class User {
   std::string SeesCaption();
   bool SeesEnabled(int id);
   bool SeesVisible(int id);
-  bool SeesFocusOn(int id);
   bool SeesBold(int id);
-  bool SeesBorder(int id);                       // around a label
-  bool SeesMarked(int id);                       // a button of another colour
-  bool SeesPicture(int id);                      // something in a picture box
+  bool SeesFocusOn(int id);
   std::vector<std::string> SeesEntries(int id);  // list, drop-down or check list
   std::string SeesSelected(int id);              // the selected entry's text, empty for none
   std::vector<std::string> SeesTicked(int id);
@@ -63,5 +60,4 @@ class User {
   void Reads(std::string_view text, Icon icon) { Answers(text, Answer::Ok, icon, Buttons::Ok); }
   void AnswersInput(std::string_view prompt, std::string_view answer);  // an empty answer cancels
   void UsesForm(int template_id, std::function<void()> acts);           // a modal form, up to its closing
-  void ChoosesFile(std::string_view name);                              // the system's file dialog; empty cancels
 };

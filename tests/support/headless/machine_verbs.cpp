@@ -10,7 +10,7 @@
 
 #include "platform/headless/machine.h"
 #include "scenarios/story.h"
-#include "viewer/page_text.h"
+#include "support/page_text.h"
 
 namespace {
 
