@@ -60,10 +60,10 @@ Presence TestPresence(const std::string& target) {
 bool MayReplace(const std::string& target, bool overwrite_confirmed) {
   if (!SameFile(target, Global::FullFileName(TheStart.WorkingFolder, TheDocument.FileName))) {
     return overwrite_confirmed ||
-           Global::Ask("You are about to overwrite an existing file.  Continue?", Buttons::OkCancel);
+           Global::AskBeforeLoss("You are about to overwrite an existing file.  Continue?", Buttons::OkCancel);
   }
   return TheDocument.Writable ||
-         Global::Ask(
+         Global::AskBeforeLoss(
              "You opened this file for read only.  If you are sharing this file with other users, by saving it you "
              "risk clobbering their work. Proceed anyway?",
              Buttons::OkCancel);

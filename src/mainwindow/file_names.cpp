@@ -28,6 +28,17 @@ std::string FolderOf(std::string_view file_name) {
   return std::string(file_name.substr(0, is_root ? start : end));
 }
 
+std::string ShortenedName(const std::string& name, std::size_t most) {
+  constexpr std::string_view kSeparators = "\\/";
+  const std::size_t root = name.find_first_of(kSeparators, 2);
+  if (name.size() <= most || root == std::string::npos) return name;
+  const std::string head = name.substr(0, root + 1) + "...";
+  const std::size_t room = most - std::min(most, head.size());
+  const std::size_t own = NameStart(name) - 1;
+  const std::size_t tail = std::min(own, name.find_first_of(kSeparators, name.size() - room));
+  return tail <= root ? name : head + name.substr(tail);
+}
+
 std::size_t TypeDot(std::string_view file_name) {
   const auto dot = file_name.rfind('.');
   return dot != std::string_view::npos && dot >= NameStart(file_name) ? dot : std::string_view::npos;

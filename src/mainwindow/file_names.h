@@ -21,6 +21,10 @@ std::string FolderOf(std::string_view file_name);
 std::size_t NameStart(std::string_view file_name);
 std::string NameWithoutFolder(std::string_view file_name);
 
+// A full name of at most `most` characters, for showing: "C:\...\Toys\Home.FIL". The drive or machine stays, and as
+// many of the last folders as there is room for; the file's own name always stays whole.
+std::string ShortenedName(const std::string& name, std::size_t most);
+
 // The position of the "." before a file name's type, or npos. A folder's name may hold a "." as well.
 std::size_t TypeDot(std::string_view file_name);
 

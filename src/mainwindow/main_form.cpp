@@ -15,6 +15,12 @@
 #include "resource.h"
 #include "shell/messages.h"
 
+namespace {
+
+constexpr std::size_t kLongestInCaption = 64;  // characters; a window of the usual width shows what follows as well
+
+}  // namespace
+
 std::span<const Command<MainForm>> MainForm::Commands() {
   using F = MainForm;
   // What does not store leaves the current thing alone, or does so when it comes to that.
@@ -80,6 +86,7 @@ void MainForm::WireEvents() {
   commands_.After = [this] { RefreshFrame(); };
   OpenButton.Click = [this] { OpenButton_Click(); };
   ExitButton.Click = [this] { ExitButton_Click(); };
+  KeyDown = [this](Key key) { return Picker.KeyDown(key); };
   EnterKey = [this] { Picker.EnterKey(); };
   EscapeKey = [this] { Picker.EscapeKey(); };
   HelpKey = [this] { commands_.Run(IDC_ManualItem); };
@@ -103,31 +110,41 @@ void MainForm::WireEvents() {
 
 void MainForm::RefreshFrame() {
   const Document& document = TheDocument;
+  const bool modified = document.Modified || document.PendingEdits;
   std::string caption = Global::ProgramTitle;
-  if (!document.ShownFileName.empty()) caption += " - " + document.ShownFileName;
+  if (!document.ShownFileName.empty()) caption += " - " + ShortenedName(document.ShownFileName, kLongestInCaption);
   if (!document.Writable) caption += " (read only)";
-  if (document.Modified || document.PendingEdits) caption += " *";
+  if (modified) caption += " *";
   if (caption != Caption()) SetCaption(caption);
+  StatusLabel.SetText(Picker.Summary() + (document.Writable ? "" : " - read only"));
+  ModifiedLabel.SetText(modified ? "Modified" : "");
   commands_.Refresh();
 }
 
-// The note and the lists grow with the window; the photo keeps its corner.
+// The note, the photo and the category list share what the window gets larger; the letters spread over its width.
 void MainForm::AnchorControls() {
-  for (Control* control :
-       std::initializer_list<Control*>{&HelpButton, &ExitButton, &Picker.CategoryFilterLabel, &PhotoLabel, &PhotoPic,
-                                       &PhotoButton, &DataButton, &CatLabel}) {
-    Anchor(*control, kEdgeTop | kEdgeRight);
-  }
-  Anchor(Picker.PersonCombo, kEdgeLeft | kEdgeTop | kEdgeRight);
-  Anchor(HintLabel, kEdgeLeft | kEdgeTop | kEdgeRight);
-  Anchor(NoteBox, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
-  for (Control* control : std::initializer_list<Control*>{&FatherCombo, &MotherCombo}) {
-    Anchor(*control, kEdgeLeft | kEdgeRight | kEdgeBottom);
-  }
-  Anchor(FatherLabel, kEdgeLeft | kEdgeBottom);
-  Anchor(MotherLabel, kEdgeLeft | kEdgeBottom);
-  Anchor(CatList, kEdgeTop | kEdgeRight | kEdgeBottom);
-  Anchor(DefCatButton, kEdgeRight | kEdgeBottom);
+  constexpr int kNote = 60;   // percent of the width
+  constexpr int kPhoto = 60;  // percent of the height
+  constexpr int kHalf = (kNote + 100) / 2;
+  const auto anchor = [this](const Follow& follow, std::initializer_list<Control*> controls) {
+    for (Control* control : controls) Anchor(*control, follow);
+  };
+  Picker.Spread([this](Label& tab, int left, int right) { Anchor(tab, {left, 0, right, 0}); });
+  anchor({100, 0, 100, 0}, {&HelpButton, &ExitButton});
+  anchor({0, 0, kNote, 0}, {&Picker.PersonCombo, &HintLabel});
+  anchor({0, 0, kNote, 100}, {&NoteBox});
+  anchor({0, 100, 0, 100}, {&FatherLabel, &MotherLabel});
+  anchor({0, 100, kNote, 100}, {&FatherCombo, &MotherCombo});
+  anchor({kNote, 0, 100, 0}, {&Picker.CategoryFilterLabel, &PhotoLabel});
+  anchor({kNote, 0, 100, kPhoto}, {&PhotoPic});
+  anchor({kNote, kPhoto, kHalf, kPhoto}, {&PhotoButton});
+  anchor({kHalf, kPhoto, 100, kPhoto}, {&DataButton});
+  anchor({kNote, kPhoto, 100, kPhoto}, {&CatLabel});
+  anchor({kNote, kPhoto, 100, 100}, {&CatList});
+  anchor({kNote, 100, 100, 100}, {&DefCatButton});
+  anchor({0, 100, 100, 100}, {&StatusLabel});
+  anchor({100, 100, 100, 100}, {&ModifiedLabel});
+  MayShrink(60);
 }
 
 void MainForm::Form_Load() {

@@ -136,6 +136,8 @@ class MainForm : public Form {
   Label CatLabel{*this, IDC_CatLabel};
   CheckList CatList{*this, IDC_CatList};
   Button DefCatButton{*this, IDC_DefCatButton};
+  Label StatusLabel{*this, IDC_StatusLabel};
+  Label ModifiedLabel{*this, IDC_ModifiedLabel};
 
   std::string command_line_;
   CommandTable<MainForm> commands_{*this, Commands()};

@@ -45,7 +45,7 @@ void MainForm::MakeNew() {
 
 // Asks before an open file is left. A document that was never opened is not asked about.
 bool MainForm::MayAbandon() {
-  return !TheDocument.DocumentOpen || Global::Ask(
+  return !TheDocument.DocumentOpen || Global::AskBeforeLoss(
                                           "A file is already opened.  Are you sure you want to"
                                           " abandon any unsaved changes?",
                                           Buttons::OkCancel, Icon::Information);
@@ -55,10 +55,10 @@ bool MainForm::MayAbandon() {
 // stay.
 bool MainForm::KeepUnasked() {
   if (TheDocument.DocumentOpen || !TheDocument.Modified || !WriteRescueCopy().empty()) return true;
-  return Global::Ask(
+  return Global::AskBeforeLoss(
       "Your changes are not saved, and a rescue copy of them could not be written to any folder.  Do you want to "
       "abandon them?",
-      Buttons::OkCancel, Icon::Exclamation, DefaultButton::Last);
+      Buttons::OkCancel, Icon::Exclamation);
 }
 
 void MainForm::NewItem_Click() {
@@ -113,7 +113,7 @@ void MainForm::ExitItem_Click() {
 // The answer settles what the end of Windows had asked for as well.
 bool MainForm::MayExit() {
   const FlagScope asking(asking_to_exit_);
-  const bool exits = Global::Ask("Exit Larkspur Filer without saving your changes?", Buttons::YesNo);
+  const bool exits = Global::AskBeforeLoss("Exit Larkspur Filer without saving your changes?", Buttons::YesNo);
   SetShutdownReason({});
   if (!rescue_name_.empty()) EraseQuietly(std::exchange(rescue_name_, {}));
   return exits;

@@ -4,6 +4,8 @@
 #define IDC_UndoItem 1260
 #define IDC_RedoItem 1261
 #define IDC_TickAllItem 1262
+#define IDC_StatusLabel 1046
+#define IDC_ModifiedLabel 1047
 
 #define IDD_TickAllForm 140
 #define IDC_CategoryCombo 1270

@@ -23,6 +23,15 @@ std::vector<ListEntry> ListThings(const ThingListView& view) {
   return entries;
 }
 
+std::string ListSummary(const ThingListView& view, int listed) {
+  const int things = TheDocument.Things.Count();
+  std::string summary = listed == things ? "" : std::to_string(listed) + " of ";
+  summary += std::to_string(things) + (things == 1 ? " thing" : " things");
+  if (view.SelectedCategory != 0) summary += " - " + TheDocument.CategoryNames[view.SelectedCategory];
+  if (!view.StartingLetter.empty()) summary += " - letter " + view.StartingLetter;
+  return summary;
+}
+
 std::vector<ListEntry> ListLinks(bool noun_order) {
   const auto& things = TheDocument.Things;
   std::vector<ListEntry> entries;

@@ -25,6 +25,9 @@ std::string ShownName(const ThingRecord& thing, bool noun_order);
 // Things without a name are left out.
 std::vector<ListEntry> ListThings(const ThingListView& view);
 
+// What the view shows, in a line: "20 of 64 things - Furniture - letter B".
+std::string ListSummary(const ThingListView& view, int listed);
+
 // An empty entry with data 0 and then every thing, so that record i stands at position i.
 std::vector<ListEntry> ListLinks(bool noun_order);
 

@@ -13,10 +13,16 @@
 enum class UnloadMode { ControlMenu, Code, WindowsShutdown };
 
 // Keys that a form can be told of. Help is F1.
-enum class Key { Enter, Escape, Left, Right, Up, Down, PageUp, PageDown, Home, End, Help };
+enum class Key { Enter, Escape, Left, Right, Up, Down, PageUp, PageDown, Home, End, Help, Space };
 
-// The edges of the form that a control keeps its distance to when the form is resized.
-enum Edges : unsigned { kEdgeLeft = 1, kEdgeTop = 2, kEdgeRight = 4, kEdgeBottom = 8 };
+// How far the sides of a control go when the form grows: in percent of what the form gets wider (Left, Right) and
+// higher (Top, Bottom).
+struct Follow {
+  int Left = 0;
+  int Top = 0;
+  int Right = 0;
+  int Bottom = 0;
+};
 
 class Form {
  public:
@@ -90,9 +96,11 @@ class Form {
   virtual void Form_QueryUnload(bool& /*cancel*/, UnloadMode /*mode*/) {}
   virtual void Form_Unload() {}
 
-  // Says how a control follows the form's size (left and top unless said). A form with at least one
-  // such control can be resized, but never below its template's size.
-  void Anchor(Control& control, unsigned edges);
+  // Says how a control follows the form's size; the others stay where they are. A form with at least one such control
+  // can be resized, but never below its template's size, or `units` (dialog units) lower where MayShrink says so. It
+  // opens no larger than the screen has room.
+  void Anchor(Control& control, const Follow& follow);
+  void MayShrink(int units);
 
   // Takes out of the form what lies between the tops of two controls: `next` and all that stands at its height or
   // below moves up to where `first` is, and the form gets lower by as much. For rows whose controls are hidden,

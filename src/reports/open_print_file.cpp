@@ -48,7 +48,7 @@ bool MayOverwrite(const std::string& full_name) {
     Say("Can't test for presence of output file" + DueToError(error), Icon::Exclamation);
     return false;
   }
-  return Ask(
+  return AskBeforeLoss(
       "You are about to overwrite an existing file that is neither a print file nor a temporary file (not of type "
       ".PRN or .TMP). Are you wure you want to do that?",
       Buttons::OkCancel);

@@ -107,6 +107,6 @@ void OpenForm::ShowModal() {
   do {
     request_.Name = ChooseFile(choice);
     if (!choice.ForWriting || request_.Name.empty() || !Files::Exists(request_.Name)) return;
-    request_.OverwriteConfirmed = Global::Ask("File already exists.  Overwrite?", Buttons::YesNo);
+    request_.OverwriteConfirmed = Global::AskBeforeLoss("File already exists.  Overwrite?", Buttons::YesNo);
   } while (!request_.OverwriteConfirmed);
 }

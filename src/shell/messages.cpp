@@ -16,6 +16,8 @@ namespace {
 
 int messages_said = 0;
 
+bool Agrees(Answer answer) { return answer == Answer::Yes || answer == Answer::Ok; }
+
 }  // namespace
 
 void Say(std::string_view text, Icon icon) {
@@ -25,9 +27,12 @@ void Say(std::string_view text, Icon icon) {
 
 int MessagesSaid() { return messages_said; }
 
-bool Ask(std::string_view question, Buttons buttons, Icon icon, DefaultButton default_button) {
-  const Answer answer = MsgBox(question, ProgramTitle, buttons, icon, default_button);
-  return answer == Answer::Yes || answer == Answer::Ok;
+bool Ask(std::string_view question, Buttons buttons, Icon icon) {
+  return Agrees(MsgBox(question, ProgramTitle, buttons, icon));
+}
+
+bool AskBeforeLoss(std::string_view question, Buttons buttons, Icon icon) {
+  return Agrees(MsgBox(question, ProgramTitle, buttons, icon, DefaultButton::Last));
 }
 
 void SayAndEnd(std::string_view text) {

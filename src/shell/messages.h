@@ -21,8 +21,10 @@ void Say(std::string_view text, Icon icon = Icon::None);
 int MessagesSaid();
 
 // Asks a question; true for Yes or OK.
-bool Ask(std::string_view question, Buttons buttons, Icon icon = Icon::None,
-         DefaultButton default_button = DefaultButton::First);
+bool Ask(std::string_view question, Buttons buttons, Icon icon = Icon::None);
+
+// The same before something is lost: Enter presses the button that keeps it.
+bool AskBeforeLoss(std::string_view question, Buttons buttons, Icon icon = Icon::None);
 
 // Says with the stop icon why the program cannot go on, and ends it; the document is kept first.
 [[noreturn]] void SayAndEnd(std::string_view text);

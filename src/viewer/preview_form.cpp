@@ -28,9 +28,9 @@ PreviewForm::PreviewForm(const ReportText& text, std::string name)
   HelpKey = Global::HelpOn(HelpPages::kViewer);
   PreviewSurface.KeyDown = [this](const KeyPress& key) { PreviewSurface_KeyDown(key); };
   PreviewSurface.Wheel = [this](const WheelTurn& turn) { GoTo(page_ + (turn.Cells > 0 ? 1 : -1)); };
-  Anchor(PreviewSurface, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
-  Anchor(PrintButton, kEdgeTop | kEdgeRight);
-  Anchor(CancelButton, kEdgeTop | kEdgeRight);
+  Anchor(PreviewSurface, {0, 0, 100, 100});
+  Anchor(PrintButton, {100, 0, 100, 0});
+  Anchor(CancelButton, {100, 0, 100, 0});
 }
 
 void PreviewForm::Form_Load() {

@@ -65,10 +65,10 @@ ViewerForm::ViewerForm(const std::string& command_line)
   EnterKey = [this] { FindNextItem_Click(); };
   EscapeKey = [this] { EscapeKey_Pressed(); };
   HelpKey = [this] { ContentsItem_Click(); };
-  Anchor(ReportSurface, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
-  Anchor(FileLabel, kEdgeLeft | kEdgeRight | kEdgeBottom);
-  Anchor(LinesLabel, kEdgeRight | kEdgeBottom);
-  Anchor(ZoomLabel, kEdgeRight | kEdgeBottom);
+  Anchor(ReportSurface, {0, 0, 100, 100});
+  Anchor(FileLabel, {0, 100, 100, 100});
+  Anchor(LinesLabel, {100, 100, 100, 100});
+  Anchor(ZoomLabel, {100, 100, 100, 100});
 }
 
 void ViewerForm::Form_Load() {

@@ -26,7 +26,7 @@ std::string ChooseNameToWrite(const std::string& report) {
     std::string name = ChooseFile(choice);
     if (name.empty()) return name;
     if (TypeDot(name) == std::string::npos) name += ".TXT";
-    if (!Files::Exists(name) || Global::Ask("File already exists.  Overwrite?", Buttons::YesNo)) return name;
+    if (!Files::Exists(name) || Global::AskBeforeLoss("File already exists.  Overwrite?", Buttons::YesNo)) return name;
   }
 }
 

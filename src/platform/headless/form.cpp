@@ -105,7 +105,8 @@ bool Form::MenuChecked(int id) const { return peer_->MenuTicked.contains(id); }
 
 // Nothing has a place here.
 void Form::PlaceBelow(const Control& /*control*/) {}
-void Form::Anchor(Control& /*control*/, unsigned /*edges*/) {}
+void Form::Anchor(Control& /*control*/, const Follow& /*follow*/) {}
+void Form::MayShrink(int /*units*/) {}
 void Form::RemoveRows(const Control& /*first*/, const Control& /*next*/) {}
 
 Control* Form::Peer::Find(int id) const {

@@ -33,6 +33,7 @@ struct Control::Peer {
   bool Bold = false;
   std::string Tip;
   bool Border = false;    // label
+  bool TabStop = false;   // label
   bool ReadOnly = false;  // text box
   int TextLimit = 0;      // text box
   BackColor Back = BackColor::ButtonFace;

@@ -58,6 +58,8 @@ bool TurnsDropDownUnasked(const Form::Peer& form, const MSG& message) {
 
 std::optional<Key> KeyOfCode(WPARAM code) {
   switch (code) {
+    case VK_SPACE:
+      return Key::Space;
     case VK_LEFT:
       return Key::Left;
     case VK_RIGHT:
@@ -163,7 +165,8 @@ void Form::Later(Event event) {
   PostMessageA(peer_->Window, WM_NULL, 0, 0);  // wakes the message loop
 }
 
-void Form::Anchor(Control& control, unsigned edges) { peer_->Sizes.Anchor(control.PeerOf().Window, edges); }
+void Form::Anchor(Control& control, const Follow& follow) { peer_->Sizes.Anchor(control.PeerOf().Window, follow); }
+void Form::MayShrink(int units) { peer_->Sizes.MayShrink(units); }
 void Form::RemoveRows(const Control& first, const Control& next) {
   peer_->Sizes.RemoveRows(first.PeerOf().Window, next.PeerOf().Window);
 }
