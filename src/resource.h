@@ -132,6 +132,7 @@
 #define IDC_ProgramTitleLabel 1550
 #define IDC_VersionLabel 1551
 #define IDC_DescriptionLabel 1552
+#define IDC_CopyrightLabel 1553
 
 // ReportForm
 #define IDC_CatFrame 1500

@@ -100,7 +100,8 @@ void MainForm::WireEvents() {
   Picker.Typed = [this] { RefreshFrame(); };
   NoteBox.Change = On(&MainForm::NoteBox_Change);
   NoteBox.LostFocus = [this] { Later(On(&MainForm::NoteBox_LostFocus)); };
-  FatherCombo.Click = MotherCombo.Click = On(&MainForm::LinkCombo_Click);
+  FatherCombo.Click = On(&MainForm::FatherCombo_Click);
+  MotherCombo.Click = On(&MainForm::MotherCombo_Click);
   PhotoPic.DoubleClick = On(&MainForm::PhotoPic_DoubleClick);
   CatList.ItemCheck = [this](int position) {
     CatList_ItemCheck(position);

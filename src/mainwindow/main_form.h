@@ -111,7 +111,9 @@ class MainForm : public Form {
   void FillCategoryList();
   void NoteBox_Change();
   void NoteBox_LostFocus();
-  void LinkCombo_Click();
+  void FatherCombo_Click();
+  void MotherCombo_Click();
+  void LinkChosen();
   void CatList_ItemCheck(int position);
 
   Button NewButton{*this, IDC_NewButton};

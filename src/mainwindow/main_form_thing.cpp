@@ -184,7 +184,11 @@ void MainForm::NoteBox_LostFocus() {
   NoteBox.SetText(note);
 }
 
-void MainForm::LinkCombo_Click() {
+void MainForm::FatherCombo_Click() { LinkChosen(); }
+
+void MainForm::MotherCombo_Click() { LinkChosen(); }
+
+void MainForm::LinkChosen() {
   if (!displaying_) TheDocument.PendingEdits = true;
 }
 

@@ -57,6 +57,12 @@ class Form {
   void Close();
   bool Closed() const;
 
+  // Where the window stands, as a text to keep, and to give to a form that is not shown yet: it then appears there, as
+  // far as the screens of today have room. For forms that can be resized; otherwise, and for any other text, nothing
+  // comes of it.
+  std::string Place() const;
+  void SetPlace(std::string_view place);
+
   std::string Caption() const;
   void SetCaption(std::string_view caption);
 

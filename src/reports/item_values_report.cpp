@@ -24,6 +24,9 @@ namespace {
 // As the header's "L=31" tells the viewer.
 constexpr std::size_t kNameWidth = 31;
 
+// A column is as wide as its title, so that no two are cut to the same words, but for long ones.
+constexpr std::size_t kWholeTitle = 16;
+
 // A column: how its values are shown, and what they come to.
 class Column {
  public:
@@ -55,7 +58,7 @@ class Column {
   }
 
   std::size_t Width() const {
-    std::size_t width = Name.size();
+    std::size_t width = std::max(Name.size(), std::min(Title.size(), kWholeTitle));
     for (const std::string& cell : Cells) width = std::max(width, cell.size());
     return width;
   }

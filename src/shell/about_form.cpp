@@ -2,18 +2,22 @@
 #include "shell/about_form.h"
 
 #include "resource.h"
+#include "shell/help.h"
 #include "shell/messages.h"
 
-AboutForm::AboutForm(const std::string& description)
+AboutForm::AboutForm(const std::string& description, const char* help_page)
     : Form(IDD_AboutForm),
       TitleLabel(*this, IDC_ProgramTitleLabel),
       VersionLabel(*this, IDC_VersionLabel),
+      CopyrightLabel(*this, IDC_CopyrightLabel),
       DescriptionLabel(*this, IDC_DescriptionLabel),
       OKButton(*this, IDC_OKButton) {
   SetCaption("About " + Global::ProgramTitle);
   TitleLabel.SetText(Global::ProgramTitle);
   TitleLabel.SetBold(true);
   VersionLabel.SetText("Version " FILER_VERSION);
+  CopyrightLabel.SetText(FILER_COPYRIGHT);
   DescriptionLabel.SetText(description);
+  HelpKey = Global::HelpOn(help_page);
   OKButton.Click = EscapeKey = [this] { Close(); };
 }

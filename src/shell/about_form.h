@@ -8,12 +8,13 @@
 
 class AboutForm : public Form {
  public:
-  // The description says in a sentence what the program is for.
-  explicit AboutForm(const std::string& description);
+  // The description says in a sentence what the program is for; `help_page` is what F1 shows.
+  AboutForm(const std::string& description, const char* help_page);
 
  private:
   Label TitleLabel;
   Label VersionLabel;
+  Label CopyrightLabel;
   Label DescriptionLabel;
   Button OKButton;
 };

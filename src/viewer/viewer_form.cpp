@@ -159,7 +159,7 @@ void ViewerForm::PreviewItem_Click() { PreviewForm(view_.Text(), FileTitle()).Sh
 void ViewerForm::ContentsItem_Click() { Global::ShowHelpPage(HelpPages::kViewer); }
 
 void ViewerForm::AboutItem_Click() {
-  AboutForm("Shows, searches and prints the reports of Larkspur Filer.").ShowModal();
+  AboutForm("Shows, searches and prints the reports of Larkspur Filer.", HelpPages::kViewer).ShowModal();
 }
 
 void ViewerForm::Refresh() {

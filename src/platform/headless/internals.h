@@ -72,6 +72,7 @@ struct Form::Peer {
   Form* Self = nullptr;
   int Template = 0;
   std::string Caption;
+  std::string PlaceText;
   std::map<int, Control*> Controls;
   std::vector<Control*> InOrder;  // as constructed: the tab order
   Control* Focus = nullptr;

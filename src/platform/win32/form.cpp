@@ -204,7 +204,7 @@ void Form::Peer::Appear(Form* owner) {
   OpenForms().push_back(Self);
   Shown = true;
   Appearing = true;
-  ShowWindow(Window, Modal ? SW_SHOW : SW_SHOWDEFAULT);
+  ShowWindow(Window, Stood && Stood->Maximized ? SW_SHOWMAXIMIZED : Modal ? SW_SHOW : SW_SHOWDEFAULT);
   if (!IsWindowVisible(Window)) ShowWindow(Window, SW_SHOW);
   SetActiveWindow(Window);
   if (!Modal) SetForegroundWindow(Window);

@@ -1,5 +1,4 @@
-// A form's window: made from the template with menu, accelerators and fonts, placed, and its messages.
-#include <algorithm>
+// A form's window: made from the template with menu, accelerators and fonts, and its messages.
 #include <utility>
 
 #include "platform/win32/internals.h"
@@ -25,29 +24,6 @@ void GiveIcon(HWND window, int size, WPARAM which) {
   HANDLE icon = LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_Program), IMAGE_ICON, GetSystemMetrics(size),
                            GetSystemMetrics(size), LR_SHARED);
   if (icon != nullptr) SendMessageA(window, WM_SETICON, which, reinterpret_cast<LPARAM>(icon));
-}
-
-RECT WorkAreaOf(HWND window, DWORD otherwise) {
-  MONITORINFO monitor{};
-  monitor.cbSize = sizeof monitor;
-  GetMonitorInfoA(MonitorFromWindow(window, otherwise), &monitor);
-  return monitor.rcWork;
-}
-
-// Moves the window there, but keeps it on the work area, and no larger than that if it can be resized; the upper left
-// corner counts most.
-void MoveOnto(const RECT& area, HWND window, LONG left, LONG top, bool resizes) {
-  RECT rect{};
-  GetWindowRect(window, &rect);
-  LONG width = rect.right - rect.left;
-  LONG height = rect.bottom - rect.top;
-  if (resizes) {
-    width = std::min(width, area.right - area.left);
-    height = std::min(height, area.bottom - area.top);
-  }
-  left = std::max(std::min(left, area.right - width), area.left);
-  top = std::max(std::min(top, area.bottom - height), area.top);
-  SetWindowPos(window, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // The system makes no form larger than the screen, with controls beyond its edge; what they follow is the template's
@@ -103,25 +79,6 @@ void Form::Peer::AddMenu() {
   GetWindowRect(Window, &whole);
   SetWindowPos(Window, nullptr, 0, 0, whole.right - whole.left, whole.bottom - whole.top + before.bottom - after.bottom,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void Form::Peer::Place(HWND owner) const {
-  // Twice, since the form changes its size on the way to a screen of another resolution.
-  for (int pass = 0; pass < 2; ++pass) {
-    RECT own{};
-    GetWindowRect(Window, &own);
-    if (Below != nullptr) {
-      RECT above{};
-      GetWindowRect(Below->PeerOf().Window, &above);
-      MoveOnto(WorkAreaOf(Below->PeerOf().Window, MONITOR_DEFAULTTONEAREST), Window, above.left, above.bottom, false);
-      continue;
-    }
-    const RECT area = WorkAreaOf(owner == nullptr ? Window : owner, MONITOR_DEFAULTTONEAREST);
-    RECT around = area;
-    if (owner != nullptr && !IsIconic(owner)) GetWindowRect(owner, &around);
-    MoveOnto(area, Window, (around.left + around.right - (own.right - own.left)) / 2,
-             (around.top + around.bottom - (own.bottom - own.top)) / 2, Sizes.Resizes());
-  }
 }
 
 HFONT Form::Peer::Bold() {

@@ -7,12 +7,19 @@
 
 #include <exception>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/form.h"
 #include "platform/win32/control_peer.h"
 #include "platform/win32/layout.h"
+
+// Where a form stood on the screen when it was there last.
+struct StoodAt {
+  RECT Rect;
+  bool Maximized;
+};
 
 struct Form::Peer {
   Form* Self = nullptr;
@@ -25,6 +32,7 @@ struct Form::Peer {
   std::map<int, std::string> MenuTexts;
   Layout Sizes;
   const Control* Below = nullptr;
+  std::optional<StoodAt> Stood;
 
   Control* Focus = nullptr;  // has the focus, or gets it back when the form becomes active
   Form* Disabled = nullptr;  // the form below, while this one is modal above it
