@@ -136,7 +136,7 @@ void SetPhoto(int record, const std::string& file_name) {
   step.Thing(record).PICFILENAME = file_name;
 }
 
-void SetValues(int record, const std::array<FieldValueSlot, kFieldValues>& values) {
+void SetValues(int record, const FieldSlots& values) {
   Step step(Titled("Change Values of", record));
   step.Thing(record).Values = values;
 }

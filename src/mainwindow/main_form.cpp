@@ -10,9 +10,10 @@
 #include "document/things.h"
 #include "mainwindow/address_titles.h"
 #include "mainwindow/command_line.h"
-#include "mainwindow/file_names.h"
+#include "mainwindow/main_ids.h"
 #include "mainwindow/settings.h"
 #include "resource.h"
+#include "shell/file_names.h"
 #include "shell/messages.h"
 
 std::span<const Command<MainForm>> MainForm::Commands() {

@@ -5,6 +5,8 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "resource.h"
+#include "shell/shell_ids.h"
 
 class AboutForm : public Form {
  public:
@@ -12,8 +14,8 @@ class AboutForm : public Form {
   explicit AboutForm(const std::string& description);
 
  private:
-  Label TitleLabel;
-  Label VersionLabel;
-  Label DescriptionLabel;
-  Button OKButton;
+  Label TitleLabel{*this, IDC_ProgramTitleLabel};
+  Label VersionLabel{*this, IDC_VersionLabel};
+  Label DescriptionLabel{*this, IDC_DescriptionLabel};
+  Button OKButton{*this, IDC_OKButton};
 };
