@@ -25,7 +25,8 @@ void FieldValueSlot::Set(std::string_view keyword, std::string_view value) {
 // An unused slot has no keyword, not an empty one.
 const FieldValueSlot* FindSlot(const FieldSlots& slots, std::string_view keyword) {
   const auto found = std::find_if(slots.begin(), slots.end(), [keyword](const FieldValueSlot& slot) {
-    return slot.Text.find(':') == keyword.size() && UpperCase(slot.Keyword()) == UpperCase(keyword);
+    if (slot.Text.find(':') != keyword.size()) return false;
+    return slot.Text.starts_with(keyword) || UpperCase(slot.Keyword()) == UpperCase(keyword);  // most are in capitals
   });
   return found == slots.end() ? nullptr : &*found;
 }

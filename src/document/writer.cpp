@@ -184,6 +184,7 @@ void WriteThing(LineWriter& out, int number) {
   WriteLinks(out, thing);
   if (thing.CATBITMAP != 0) out.Plain("CATBITMAP=").Plain(thing.CATBITMAP).EndLine();
   for (const FieldValueSlot& slot : thing.Values) {
+    if (slot.Text.empty()) continue;
     const std::string_view keyword = slot.Keyword();
     if (!keyword.empty()) out.Plain("%").Escaped(keyword).Plain("=").EndLine(slot.Value());
   }
