@@ -7,21 +7,9 @@
 #include <string>
 #include <string_view>
 
+#include "document/field_slots.h"
 #include "document/record_table.h"
 
-// A thing's value of one user-defined field: keyword, ":", value ("PRICE:12.50"); empty when unused.
-// The value may hold further colons.
-struct FieldValueSlot {
-  std::string Text;
-
-  // The text before the first ":"; empty without one, or when it comes first.
-  std::string_view Keyword() const;
-  // The text after the first ":"; empty without one.
-  std::string_view Value() const;
-  bool operator==(const FieldValueSlot&) const = default;
-};
-
-inline constexpr int kFieldValues = 10;
 inline constexpr int kCategories = 32;
 
 struct ThingRecord {
@@ -32,7 +20,7 @@ struct ThingRecord {
   std::int16_t XREF2 = 0;
   std::int32_t CATBITMAP = 0;              // category k is bit k - 1: category 32 is the sign bit
   mutable std::int16_t HierarchyMark = 0;  // working mark of the hierarchy report, never saved
-  std::array<FieldValueSlot, kFieldValues> Values;
+  FieldSlots Values;
   bool operator==(const ThingRecord&) const = default;
 };
 

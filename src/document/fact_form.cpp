@@ -89,7 +89,7 @@ void FactForm::ShowField() {
 }
 
 void FactForm::ShowValue() {
-  shown_ = field_ == 0 ? std::string() : ValueOf(working_, TheDocument.Fields[field_].Keyword);
+  shown_ = field_ == 0 ? std::string_view() : ValueOf(working_, TheDocument.Fields[field_].Keyword);
   DataBox.SetText(shown_);
 }
 

@@ -10,9 +10,11 @@
 #include "document/things.h"
 #include "mainwindow/address_titles.h"
 #include "mainwindow/command_line.h"
-#include "mainwindow/file_names.h"
+#include "mainwindow/main_ids.h"
 #include "mainwindow/settings.h"
+#include "platform/registry.h"
 #include "resource.h"
+#include "shell/file_names.h"
 #include "shell/messages.h"
 
 namespace {
@@ -161,6 +163,7 @@ void MainForm::Form_Load() {
   PhotoButton.SetBackColor(DataButton.BackColor());
   HiddenPic.SetVisible(false);
   AnchorControls();
+  SetPlace(Remembered("MainForm"));
   HintLabel.SetText(
       "There are no things yet.\r\n\r\nChoose Edit, Add Thing to add the first one, or File, Open to open a file.");
   MakeNew();

@@ -40,6 +40,7 @@ class MainForm : public Form {
   void Form_Load() override;
   void Form_Activate() override;
   void Form_QueryUnload(bool& cancel, UnloadMode mode) override;
+  void Form_Unload() override;
   Event On(void (MainForm::*handler)());
   void WireEvents();
   void AnchorControls();

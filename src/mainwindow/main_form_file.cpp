@@ -7,14 +7,15 @@
 #include "document/history.h"
 #include "document/reader.h"
 #include "document/rescue.h"
-#include "document/save.h"
-#include "mainwindow/command_line.h"
 #include "mainwindow/main_form.h"
+#include "mainwindow/save.h"
 #include "mainwindow/settings.h"
 #include "platform/files.h"
 #include "platform/program.h"
 #include "shell/file_form.h"
 #include "shell/messages.h"
+#include "shell/replace_file.h"
+#include "shell/start_options.h"
 
 namespace {
 
@@ -106,8 +107,12 @@ void MainForm::SaveItem_Click() {
 void MainForm::ExitItem_Click() {
   RefreshFrame();
   if (TheDocument.Modified && !MayExit()) return;
+  Close();
+}
+
+void MainForm::Form_Unload() {
+  Remember("MainForm", Place());
   ReleaseFileLock();
-  EndProgram();
 }
 
 // The answer settles what the end of Windows had asked for as well.
@@ -128,6 +133,6 @@ void MainForm::EndSession() {
     SetShutdownReason("Larkspur Filer has changes that are not saved.");
     if (asking_to_exit_ || !MayExit()) return;
   }
-  ReleaseFileLock();
-  EndProgram();
+  Form_Unload();
+  EndProgram();  // dialogs that are open above the window are not waited for
 }

@@ -4,14 +4,14 @@
 #include <vector>
 
 #include "document/document.h"
-#include "document/text.h"
 #include "document/things.h"
-#include "mainwindow/command_line.h"
-#include "mainwindow/file_names.h"
 #include "mainwindow/main_form.h"
 #include "platform/files.h"
+#include "platform/text.h"
+#include "shell/file_names.h"
 #include "shell/launch.h"
 #include "shell/messages.h"
+#include "shell/start_options.h"
 #include "values/numbers.h"
 
 const ThingRecord* MainForm::CurrentRecord() const {

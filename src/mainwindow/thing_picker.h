@@ -5,12 +5,12 @@
 #include <optional>
 #include <string>
 
+#include "mainwindow/main_ids.h"
 #include "mainwindow/thing_list.h"
 #include "platform/control_array.h"
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
-#include "resource.h"
 
 class ThingPicker {
  public:

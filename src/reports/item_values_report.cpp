@@ -10,8 +10,8 @@
 #include "document/document.h"
 #include "document/fact_values.h"
 #include "document/names.h"
-#include "document/text.h"
 #include "platform/locale.h"
+#include "platform/text.h"
 #include "reports/item_list_report.h"
 #include "reports/print_file.h"
 #include "values/evaluator.h"
@@ -38,7 +38,7 @@ class Column {
   std::vector<std::string> Cells;
 
   // The next thing's value; one that is no number is shown, but does not count.
-  void Add(const std::string& stored) {
+  void Add(std::string_view stored) {
     Cells.push_back(Shown(stored));
     const auto number = StoredNumber(stored, separator_);
     if (!number) return;
@@ -64,7 +64,7 @@ class Column {
   }
 
  private:
-  std::string Shown(const std::string& stored) const { return FormatValue(stored, type_, format_); }
+  std::string Shown(std::string_view stored) const { return FormatValue(stored, type_, format_); }
 
   std::string type_;
   std::string format_;

@@ -5,6 +5,8 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "resource.h"
+#include "shell/shell_ids.h"
 
 class AboutForm : public Form {
  public:
@@ -12,9 +14,9 @@ class AboutForm : public Form {
   AboutForm(const std::string& description, const char* help_page);
 
  private:
-  Label TitleLabel;
-  Label VersionLabel;
-  Label CopyrightLabel;
-  Label DescriptionLabel;
-  Button OKButton;
+  Label TitleLabel{*this, IDC_ProgramTitleLabel};
+  Label VersionLabel{*this, IDC_VersionLabel};
+  Label CopyrightLabel{*this, IDC_CopyrightLabel};
+  Label DescriptionLabel{*this, IDC_DescriptionLabel};
+  Button OKButton{*this, IDC_OKButton};
 };

@@ -2,10 +2,11 @@
 #include "shell/messages.h"
 
 #include <exception>
+#include <new>
 #include <utility>
 
 #include "platform/program.h"
-#include "values/numbers.h"
+#include "platform/text.h"
 
 namespace Global {
 
@@ -18,11 +19,20 @@ int messages_said = 0;
 
 bool Agrees(Answer answer) { return answer == Answer::Yes || answer == Answer::Ok; }
 
+std::string WhatOf(const std::exception& error) {
+  const bool no_memory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
+  return no_memory ? std::string(ErrorDescription(kOutOfMemory)) : error.what();
+}
+
 }  // namespace
 
 void Say(std::string_view text, Icon icon) {
   ++messages_said;
   MsgBox(text, ProgramTitle, Buttons::Ok, icon);
+}
+
+void SayUnless(bool quiet, std::string_view text) {
+  if (!quiet) Say(text, Icon::Exclamation);
 }
 
 int MessagesSaid() { return messages_said; }
@@ -47,13 +57,13 @@ void RunForm(Form& form, const Event& start) {
   } catch (const std::exception& error) {
     const char* const what =
         form.Closed() ? "The program could not be started: " : "The command could not be completed: ";
-    Say(what + std::string(error.what()), Icon::Exclamation);
+    Say(what + WhatOf(error), Icon::Exclamation);
   }
   while (!form.Closed()) {
     try {
       form.RunUntilClosed();
     } catch (const std::exception& error) {
-      Say(std::string("The command could not be completed: ") + error.what(), Icon::Exclamation);
+      Say("The command could not be completed: " + WhatOf(error), Icon::Exclamation);
     }
   }
 }

@@ -5,19 +5,11 @@
 #include <utility>
 
 #include "platform/printing.h"
-#include "resource.h"
 #include "shell/help.h"
 #include "viewer/print_report.h"
-#include "viewer/viewer_ids.h"
 
 PreviewForm::PreviewForm(const ReportText& text, std::string name)
     : Form(IDD_PreviewForm),
-      PreviousButton(*this, IDC_PreviousButton),
-      NextButton(*this, IDC_NextButton),
-      PageLabel(*this, IDC_PageLabel),
-      PrintButton(*this, IDC_PrintButton),
-      CancelButton(*this, IDC_CancelButton),
-      PreviewSurface(*this, IDC_PreviewSurface),
       text_(text),
       name_(std::move(name)),
       layout_(std::make_unique<PrintLayout>(text, name_, PrinterSheet())) {

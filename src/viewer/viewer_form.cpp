@@ -5,10 +5,10 @@
 #include <array>
 #include <utility>
 
-#include "mainwindow/file_names.h"
 #include "platform/clipboard.h"
 #include "resource.h"
 #include "shell/about_form.h"
+#include "shell/file_names.h"
 #include "shell/help.h"
 #include "shell/messages.h"
 #include "viewer/preview_form.h"

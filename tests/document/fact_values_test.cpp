@@ -13,7 +13,7 @@ TEST(FactValuesTest, AValueGoesIntoItsSlotOrTheFirstFreeOne) {
   EXPECT_TRUE(PutValue(slots, "L", "") && PutValue(slots, "G", "2"));
   EXPECT_FALSE(PutValue(slots, "L", "1"));
   EXPECT_EQ(JoinedSlots(slots), "I:1|H:x:y|B:3|J:1|K:1|:x|D:1:|E:1|F:1|G:2|");
-  EXPECT_EQ(ValueOf(slots, "H") + ValueOf(slots, "L"), "x:y");
+  EXPECT_EQ(std::string(ValueOf(slots, "H")) + "/" + std::string(ValueOf(slots, "L")), "x:y/");
   EXPECT_TRUE(PutValue(slots, "I", ""));
   EXPECT_EQ(JoinedSlots(PackValues(slots)), "H:x:y|B:3|J:1|K:1|:x|D:1:|E:1|F:1|G:2||");
 }

@@ -4,7 +4,7 @@
 #include <random>
 
 #include "document/document.h"
-#include "document/text.h"
+#include "platform/text.h"
 #include "support/fresh_test.h"
 
 namespace {

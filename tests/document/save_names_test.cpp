@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "document/save.h"
+#include "mainwindow/save.h"
 #include "mainwindow/settings.h"
 
 namespace {

@@ -4,10 +4,10 @@
 #include <cstdint>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/names.h"
 #include "document/reader.h"
 #include "mainwindow/settings.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/headless/internals.h"
 #include "platform/locale.h"

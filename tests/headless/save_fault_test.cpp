@@ -4,10 +4,10 @@
 #include <map>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/reader.h"
 #include "document/rescue.h"
-#include "document/save.h"
+#include "mainwindow/save.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/headless/internals.h"
 #include "platform/headless/machine.h"

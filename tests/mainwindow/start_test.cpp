@@ -5,9 +5,10 @@
 #include "document/document.h"
 #include "mainwindow/address_titles.h"
 #include "mainwindow/command_line.h"
-#include "mainwindow/file_names.h"
 #include "mainwindow/settings.h"
 #include "platform/program.h"
+#include "shell/file_names.h"
+#include "shell/replace_file.h"
 #include "support/fresh_test.h"
 #include "support/rows.h"
 

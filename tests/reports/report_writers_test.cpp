@@ -5,8 +5,8 @@
 #include <iterator>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/reader.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "reports/hierarchy_report.h"
 #include "reports/item_list_report.h"

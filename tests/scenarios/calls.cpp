@@ -10,9 +10,9 @@
 #include <stdexcept>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/file_lock.h"
 #include "mainwindow/command_line.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "reports/open_print_file.h"
 #include "scenarios/story.h"

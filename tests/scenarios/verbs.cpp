@@ -3,9 +3,9 @@
 #include <iterator>
 #include <sstream>
 
-#include "document/file_handles.h"
 #include "mainwindow/main_form.h"
 #include "platform/clipboard.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/runtime_error.h"
 #include "scenarios/story.h"

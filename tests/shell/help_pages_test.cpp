@@ -4,9 +4,9 @@
 #include <iterator>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/reader.h"
 #include "document/writer.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "support/fresh_test.h"
 #include "values/evaluator.h"

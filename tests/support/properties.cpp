@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/file_lock.h"
 #include "document/reader.h"
 #include "document/writer.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "shell/messages.h"
 #include "support/files.h"

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/runtime_error.h"
+#include "platform/text.h"
 #include "support/rows.h"
 #include "values/field_types.h"
 #include "values/templates.h"

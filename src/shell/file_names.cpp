@@ -1,5 +1,5 @@
 // Full names out of folders and file names: see file_names.h.
-#include "mainwindow/file_names.h"
+#include "shell/file_names.h"
 
 #include <algorithm>
 
