@@ -62,7 +62,8 @@ TEST_F(ControlsTest, LimitAndReadOnlyBindThePersonNotTheCode) {
   for (const bool read_only : {true, false}) {
     EXPECT_NE(form.LinesBox.ReadOnly(), read_only);
     form.LinesBox.SetReadOnly(read_only);
-    Does([&] { form.LinesBox.SetText("code"); }, "LinesBox Change code");
+    Does([&] { form.LinesBox.SetText(read_only ? "bound" : "free"); },
+         read_only ? "LinesBox Change bound" : "LinesBox Change free");
     if (read_only) Does([&] { EXPECT_NONFATAL_FAILURE(user.Types(IDC_LinesBox, "typed"), "5013"); }, "");
   }
   Does([&] { user.Types(IDC_LinesBox, "typed"); }, "LinesBox Change typed");

@@ -110,15 +110,18 @@ TEST_F(FormTest, WhatAHandlerThrowsComesOutAfterTheFormHasGone) {
   form.FirstButton.Click = [&] { bare.ShowModal(); };  // through both forms
   form.SecondButton.Click = [&] { form.Later(throws); };
   bare.TextSurface.Wheel = [&](const WheelTurn&) { throws(); };
-  for (const Event& act :
-       std::initializer_list<Event>{[&] { user.Types(IDC_LineBox, "x"); }, [&] { user.MovesTo(IDC_LinesBox); },
-                                    [&] { user.Picks(IDC_EntryList, "a"); }, [&] { user.Ticks(IDC_TickList, "a"); },
-                                    [&] { user.Presses(Key::Help); }, [&] { user.ChoosesMenu(IDC_PlainItem); },
-                                    [&] { user.Clicks(IDC_SecondButton); },
-                                    [&] {
-                                      user.UsesForm(IDD_BareForm, [&] { user.TurnsWheel(IDC_TextSurface, 1); });
-                                      user.Clicks(IDC_FirstButton);
-                                    }}) {
+  const Event acts[] = {[&] { user.Types(IDC_LineBox, "x"); },
+                        [&] { user.Picks(IDC_EntryList, "a"); },
+                        [&] { user.Ticks(IDC_TickList, "a"); },
+                        [&] { user.Presses(Key::Help); },
+                        [&] { user.ChoosesMenu(IDC_PlainItem); },
+                        [&] { user.Clicks(IDC_SecondButton); },
+                        [&] {
+                          user.UsesForm(IDD_BareForm, [&] { user.TurnsWheel(IDC_TextSurface, 1); });
+                          user.Clicks(IDC_FirstButton);
+                        },
+                        [&] { user.MovesTo(IDC_LinesBox); }};
+  for (const Event& act : acts) {
     user.UsesForm(IDD_TestForm, act);
     EXPECT_THROW(form.ShowModal(), std::out_of_range);
     EXPECT_TRUE(form.Closed());

@@ -49,10 +49,12 @@ const std::string kCannotLock =
     "I have loaded the plan file, but I cannot lock it for writing.  If you make changes, you must save to a "
     "different file.|";
 
-// Long enough for what fails to leave a part.
+// What is new is long enough for what fails to leave a part.
+const std::string kNewName = "new" + std::string(70000, 'x');
+
 std::string TextOf(const std::string& name) {
   return Lines({"LARKSPUR V5.0 FILER DATA", "'Larkspur Handy Reference Data File", "", "[THINGS]", "",
-                "*1; NAME=" + name + std::string(70000, 'x'), "", "[END]", "DONE=YES"});
+                "*1; NAME=" + name, "", "[END]", "DONE=YES"});
 }
 
 class SaveFaultTest : public FreshTest {
@@ -88,7 +90,7 @@ class SaveFaultTest : public FreshTest {
       TheDocument.FileName = TheDocument.ShownFileName = InFolder(scenario.Current);
     }
     TheDocument.Things.SetCount(1);
-    TheDocument.Things.Writable(1).NAME = "new" + std::string(70000, 'x');
+    TheDocument.Things.Writable(1).NAME = kNewName;
     TheDocument.Modified = true;
     if (!scenario.ReadOnlyFile.empty()) Machine::SetReadOnly(scenario.ReadOnlyFile, true);
     contents = DescribeDocument();
@@ -179,7 +181,7 @@ class SaveFaultTest : public FreshTest {
     return true;
   }
 
-  const std::string new_text = TextOf("new");
+  const std::string new_text = TextOf(kNewName);
   std::string target;
   std::string contents;  // of the document
   std::optional<std::string> settings;

@@ -124,10 +124,12 @@ TEST_F(StartTest, SettingsAreWritten) {
 
   // Behind its own folder the separator is doubled.
   TestFiles::MakeFolder("ini");
-  TheStart.SettingsFolder = InFolder("ini\\");
   TheRecentFiles = {};
+  for (const char* folder : {"ini", "ini\\"}) {
+    TheStart.SettingsFolder = InFolder(folder);
+    EXPECT_EQ(SettingsFileName(), InFolder(R"(ini\\Torvane.INI)"));
+  }
   RememberRecentFile("A");
-  EXPECT_EQ(SettingsFileName(), InFolder(R"(ini\\Torvane.INI)"));
   EXPECT_EQ(TestFiles::Get(R"(ini\Torvane.INI)"), Lines({"TORVANE V5.0 INI", "[TOP10FILES]", "*1; NAME=A"}));
 }
 

@@ -71,22 +71,6 @@ DOLLAR 30000000 => !Failed to round your number to pennies due to error # 6!Fail
              });
 }
 
-TEST_F(EvaluatorTest, AsksAboutHighInterestEvenWhenQuiet) {
-  const auto asked = [this](Answer answer, const std::string& expression) {
-    user.Answers("Are you sure that you want to use an interest rate greater than 100%?", answer, Icon::None,
-                 Buttons::YesNo);
-    return Value(expression, "INTRATE");
-  };
-  EXPECT_EQ(asked(Answer::Yes, "1.5"), "150%");
-  {
-    const Global::InterestQuestionOnce once;
-    EXPECT_EQ(asked(Answer::No, "1.5"), "0");
-    const Global::InterestQuestionOnce within;
-    EXPECT_EQ(Value("2.5", "INTRATE"), "0");  // the answer holds
-  }
-  EXPECT_EQ(asked(Answer::Yes, "2.5"), "250%");
-}
-
 TEST_F(EvaluatorTest, ExpandsReferences) {
   TheDocument.Things.SetCount(1);
   auto& slots = TheDocument.Things.Writable(1).Values;
