@@ -92,7 +92,7 @@ class HistoryTest : public FreshTest {
 };
 
 TEST_F(HistoryTest, EachStateComesBackInBothDirections) {
-  for (unsigned seed = 1; seed <= 6; ++seed) {
+  for (unsigned seed = 1; seed <= 8; ++seed) {
     SCOPED_TRACE(seed);
     random.seed(seed);
     TheDocument = {};
@@ -105,7 +105,7 @@ TEST_F(HistoryTest, EachStateComesBackInBothDirections) {
       const int count = TheDocument.Things.Count();
       ASSERT_TRUE(count == 0 || TheDocument.CurrentThing <= count) << at;
     };
-    for (int step = 0; step < 1000; ++step) {
+    for (int step = 0; step < 400; ++step) {
       const int choice = Below(20);
       if (choice == 0 && at > 0) {
         EXPECT_TRUE(TheHistory.Undo());

@@ -98,7 +98,9 @@ TEST_F(EvaluatorTest, EndsOnLongExpressions) {
   std::string sum = "1", product = "1";
   for (int term = 0; term < 5000; ++term) sum += "+1", product += "*1+0";
   EXPECT_EQ(Value(sum) + " " + Value(product), "5001 1");
-  EXPECT_EQ(Value(std::string(20000, '(') + "2" + std::string(20000, ')')), "2");
+  std::string nested(20000, '(');
+  nested += '2';
+  EXPECT_EQ(Value(nested.append(20000, ')')), "2");
 }
 
 }  // namespace
