@@ -98,7 +98,8 @@ TEST_F(ControlsTest, PropertiesAreOfOneControlEach) {
   for (const bool marked : {true, false}) {
     const BackColor color = marked ? BackColor::Marked : BackColor::ButtonFace;
     EXPECT_TRUE(form.TitleLabel.Border() != marked && form.FirstButton.BackColor() != color);
-    form.TitleLabel.SetBorder(marked), form.FirstButton.SetBackColor(color);
+    form.TitleLabel.SetBorder(marked);
+    form.FirstButton.SetBackColor(color);
     EXPECT_TRUE(form.TitleLabel.Border() == marked && form.FirstButton.BackColor() == color);
   }
 }
@@ -124,7 +125,8 @@ TEST_F(ControlsTest, FocusIsLostAndGotBeforeAnythingElseAndNotToBoxesAboveTheFor
   Does([&] { user.MovesTo(IDC_LinesBox); }, "NameCombo lost, LinesBox got");
   Does([&] { user.Clicks(IDC_TitleLabel), user.Clicks(IDC_PhotoPic), user.ChoosesMenu(IDC_PlainItem); },
        "TitleLabel Click, PhotoPic Click, Menu 5040");
-  form.LineBox.SetEnabled(false), form.FirstButton.SetVisible(false);
+  form.LineBox.SetEnabled(false);
+  form.FirstButton.SetVisible(false);
   Does([&] { form.LineBox.SetFocus(), form.FirstButton.SetFocus(), form.TitleLabel.SetFocus(); }, "");
   user.Reads("above", Icon::None);
   user.AnswersInput("above", "x");

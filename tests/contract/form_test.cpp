@@ -3,7 +3,6 @@
 
 #include <gtest/gtest-spi.h>
 
-#include "contract/error_of.h"
 #include "contract/test_form.h"
 #include "platform/program.h"
 
@@ -22,7 +21,8 @@ TEST_F(FormTest, LivesFromLoadToUnloadAndMayRefuseToGo) {
     EXPECT_TRUE(user.SeesFocusOn(IDC_LinesBox));
     form.Refuses = true;
     Does([&] { form.Close(); }, "QueryUnload Code");
-    EXPECT_FALSE(std::exchange(form.Refuses, false) && form.Closed());
+    EXPECT_FALSE(form.Closed());
+    form.Refuses = false;
   });
   form.OnLoad = [] { throw ProgramEnded(); };
   EXPECT_THROW(form.Show(), ProgramEnded);

@@ -3,6 +3,8 @@
 #include "document/history.h"
 
 #include <algorithm>
+#include <array>
+#include <functional>
 #include <random>
 
 #include "document/things.h"
@@ -60,31 +62,27 @@ class HistoryTest : public FreshTest {
     const int fields = TheDocument.Fields.Count(), formulas = TheDocument.Formulas.Count();
     const std::string fresh = FreshName(), name = count == 0 ? "" : TheDocument.Things[record].NAME;
     FieldSlots slots;
-    for (int field = 1; field <= fields && field <= kFieldValues; ++field) {
-      slots[static_cast<std::size_t>(field - 1)].Text = TheDocument.Fields[field].Keyword + ":" + Word();
+    for (int number = 1; number <= fields && number <= kFieldValues; ++number) {
+      slots[static_cast<std::size_t>(number - 1)].Text = TheDocument.Fields[number].Keyword + ":" + Word();
     }
     CategoryNameTable categories = TheDocument.CategoryNames;
     categories.Writable(1 + Below(32)) = Word();
+    const ThingEdits edits = {Below(3) == 0 ? "note" : Word(), Link(), Link()};
+    const FieldDefinition field = {Word(), "title", ""};
+    const FormulaDefinition formula = {Word(), "title", "", "", "[" + Word() + "]"};
+    const std::vector<int> some = {1, record, count};
     const std::function<void()> commands[] = {
         [&] { Rename("", fresh, [&] { AddThing(fresh); }); },
-        [&] {
-          StoreEdits(record, {Below(3) == 0 ? "note" : Word(), Link(), Link()});
-        },
+        [&] { StoreEdits(record, edits); },
         [&] { Rename(name, fresh, [&] { RenameThing(record, fresh); }); },
         [&] { Rename(name, "", [&] { DeleteThing(record); }); },
         [&] { Tick(record, 1 + Below(32), Heads()); },
-        [&] {
-          TickAll({1, record, count}, 1 + Below(32), Heads());
-        },
+        [&] { TickAll(some, 1 + Below(32), Heads()); },
         [&] { SetPhoto(record, Heads() ? "" : Word() + ".jpg"); },
         [&] { SetCategoryNames(categories); },
-        [&] {
-          StoreField(1 + Below(fields + 1), {Word(), "title", ""}, slots);
-        },
+        [&] { StoreField(1 + Below(fields + 1), field, slots); },
         [&] { fields > 0 && Heads() ? DeleteField(1 + Below(fields), slots) : SetValues(record, slots); },
-        [&] {
-          StoreFormula(1 + Below(formulas + 1), {Word(), "title", "", "", "[" + Word() + "]"});
-        },
+        [&] { StoreFormula(1 + Below(formulas + 1), formula); },
         [&] { formulas > 0 ? DeleteFormula(1 + Below(formulas)) : void(); },
     };
     commands[count == 0 ? 0 : Below(14) % 12]();  // the first ones more often

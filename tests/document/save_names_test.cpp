@@ -1,4 +1,6 @@
 // The name that the Save command proposes for a document without one.
+#include <tuple>
+
 #include "document/save.h"
 #include "mainwindow/settings.h"
 #include "support/rows.h"

@@ -1,8 +1,5 @@
 // What the program reads at its start: the command line, file names and the settings file; and its address titles.
-#include <algorithm>
-
 #include "document/copies.h"
-#include "document/document.h"
 #include "mainwindow/address_titles.h"
 #include "mainwindow/command_line.h"
 #include "mainwindow/file_names.h"

@@ -66,7 +66,7 @@ INTRATE -0,05 => 0!Invalid interest value -5% is replaced with 0.  (For interest
 DOLLAR 30000000 => !Failed to round your number to pennies due to error # 6!Failed to store number 30000000 due to error # 6: Overflow)",
              [&](const std::string& given) {
                auto [type, text] = Halves(given, ' ');
-               Global::StoreNumberByType(text, type, '.', false);
+               Global::StoreNumberByType(text, type, ',', false);
                return text + said.Take();
              });
 }
@@ -94,9 +94,22 @@ abc => ABC | [LOOP] =>  | [TWO] => )",
              });
 }
 
+TEST_F(EvaluatorTest, FindsOperations) {
+  int first = 0, last = 0;
+  char sign = 0;
+  EXPECT_TRUE(Global::FindOperation("1+-2*3-4", "*/", first, last, sign));
+  EXPECT_TRUE(first == 3 && last == 6 && sign == '*');
+  EXPECT_FALSE(Global::FindOperation("-3", "+-", first, last, sign));
+  EXPECT_EQ(Global::NextOperator("1E-5-2", 1, sign), 5);
+  EXPECT_EQ(Global::LastPositionOf("abcab", "ab") + 10 * Global::LastPositionOf("abc", "x"), 4);
+}
+
 TEST_F(EvaluatorTest, EndsOnLongExpressions) {
   std::string sum = "1", product = "1";
-  for (int term = 0; term < 5000; ++term) sum += "+1", product += "*1+0";
+  for (int term = 0; term < 5000; ++term) {
+    sum += "+1";
+    product += "*1+0";
+  }
   EXPECT_EQ(Value(sum) + " " + Value(product), "5001 1");
   std::string nested(20000, '(');
   nested += '2';
