@@ -113,8 +113,7 @@ class MainForm : public Form {
   void NoteBox_Change();
   void NoteBox_LostFocus();
   void FatherCombo_Click();
-  void MotherCombo_Click();
-  void LinkChosen();
+  void MotherCombo_Click() { FatherCombo_Click(); }
   void CatList_ItemCheck(int position);
 
   Button NewButton{*this, IDC_NewButton};

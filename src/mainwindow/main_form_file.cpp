@@ -12,6 +12,7 @@
 #include "mainwindow/settings.h"
 #include "platform/files.h"
 #include "platform/program.h"
+#include "platform/registry.h"
 #include "shell/file_form.h"
 #include "shell/messages.h"
 #include "shell/replace_file.h"

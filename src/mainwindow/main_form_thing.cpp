@@ -184,11 +184,7 @@ void MainForm::NoteBox_LostFocus() {
   NoteBox.SetText(note);
 }
 
-void MainForm::FatherCombo_Click() { LinkChosen(); }
-
-void MainForm::MotherCombo_Click() { LinkChosen(); }
-
-void MainForm::LinkChosen() {
+void MainForm::FatherCombo_Click() {
   if (!displaying_) TheDocument.PendingEdits = true;
 }
 

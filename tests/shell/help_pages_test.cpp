@@ -5,10 +5,8 @@
 
 #include "document/document.h"
 #include "document/reader.h"
-#include "document/writer.h"
-#include "platform/file_handles.h"
-#include "platform/files.h"
 #include "support/fresh_test.h"
+#include "support/rows.h"
 #include "values/evaluator.h"
 #include "values/field_types.h"
 #include "values/templates.h"
@@ -34,14 +32,8 @@ std::vector<std::string> Between(const std::string& text, const std::string& bef
 
 // The text of a piece of a page: without tags, entities as characters.
 std::string Plain(std::string text) {
-  for (const std::string& tag : Between(text, "<", ">")) text.erase(text.find("<" + tag), tag.size() + 2);
-  const std::pair<std::string, std::string> entities[] = {{"&lt;", "<"}, {"&gt;", ">"}, {"&amp;", "&"}};
-  for (const auto& [entity, character] : entities) {
-    for (auto at = text.find(entity); at != std::string::npos; at = text.find(entity, at + 1)) {
-      text.replace(at, entity.size(), character);
-    }
-  }
-  return text;
+  for (const std::string& tag : Between(text, "<", ">")) text = Replaced(text, "<" + tag + ">", "");
+  return Replaced(Replaced(Replaced(text, "&lt;", "<"), "&gt;", ">"), "&amp;", "&");
 }
 
 // The rows of all tables of a class with that many columns, headings left out.
@@ -62,9 +54,8 @@ std::vector<std::vector<std::string>> RowsOf(const std::string& table_class, std
 class HelpPagesTest : public FreshTest {};
 
 TEST_F(HelpPagesTest, CalculationsAndFormulasComeOutAsTheySay) {
-  std::array<FieldValueSlot, kFieldValues> slots{};
-  const char* const values[] = {"PRICE:12.50", "QTY:4", "CHANCE:55%", "WEIGHT:0.75"};
-  for (std::size_t slot = 0; slot < std::size(values); ++slot) slots[slot].Text = values[slot];
+  const std::array<FieldValueSlot, kFieldValues> slots = {
+      {{"PRICE:12.50"}, {"QTY:4"}, {"CHANCE:55%"}, {"WEIGHT:0.75"}}};
   const auto rows = RowsOf("checked", 4);
   EXPECT_GT(rows.size(), 40U);
   for (const auto& row : rows) {
@@ -83,18 +74,12 @@ TEST_F(HelpPagesTest, FormatsShowWhatTheySay) {
 
 TEST_F(HelpPagesTest, TheDataFileLoadsAndIsSavedAsItStands) {
   const auto examples = Between(ReadPage("Larkspur_DataFile.htm"), "<pre id=\"example-file\">", "</pre>");
-  ASSERT_EQ(examples.size(), 1U);
-  std::string bytes;
-  for (const char each : Plain(examples[0])) bytes += each == '\n' ? std::string("\r\n") : std::string(1, each);
+  const std::string bytes = Replaced(Plain(examples.at(0)), "\n", "\r\n");
   TestFiles::Put("Example.FIL", bytes);
   MakeNew();
   ASSERT_TRUE(LoadFilerFile(InFolder("Example.FIL")));
   EXPECT_EQ(TheDocument.Things.Count(), 3);
-  Files::Open(kDataFileHandle, InFolder("Again.FIL"), Files::Mode::Output);
-  SaveFilerFile(kDataFileHandle);
-  Files::Close(kDataFileHandle);
-  EXPECT_EQ(TestFiles::Get("Again.FIL"), bytes);
-  MakeNew();
+  EXPECT_EQ(Saved("Again.FIL"), bytes);
 }
 
 }  // namespace
