@@ -63,7 +63,7 @@ void PickDate(Story& story, const std::string& with) {
 }
 
 void RunFailing(Story&, const std::string&) {
-  AboutForm about("A form to run.");
+  AboutForm about("A form to run.", "");
   Global::RunForm(about, [&about] {
     about.Show();
     throw std::runtime_error("no luck");
