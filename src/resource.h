@@ -57,7 +57,7 @@
 // The letter tabs: IDC_LetterLabel is A, + 25 is Z.
 #define IDC_LetterLabel 1100
 
-// MainForm's menu
+// MainForm's menu; finding is ViewerForm's, too
 #define IDC_NewItem 1200
 #define IDC_OpenItem 1201
 #define IDC_SaveItem 1202
@@ -81,6 +81,9 @@
 #define IDC_ManualItem 1240
 #define IDC_FilerHelpItem 1241
 #define IDC_AboutItem 1242
+#define IDC_FindItem 1626
+#define IDC_FindNextItem 1627
+#define IDC_FindPreviousItem 1628
 
 // FileForm
 #define IDC_NameLabel 1300
@@ -121,12 +124,11 @@
 #define IDC_InsertDateItem 1436
 #define IDC_HelpItem 1437
 
+#define IDC_PickList 1440  // PickListForm
+
 // DatePickForm and PreviewForm
 #define IDC_PreviousButton 1454
 #define IDC_NextButton 1455
-
-// PickListForm
-#define IDC_PickList 1440
 
 // AboutForm
 #define IDC_ProgramTitleLabel 1550

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "document/record_table.h"
+#include "document/trail.h"
 
 // A thing's value of one user-defined field: keyword, ":", value ("PRICE:12.50"); empty when unused.
 // The value may hold further colons.
@@ -77,6 +78,7 @@ struct Document {
   std::string FileName;       // the name to save to; empty for a new document
   std::string ShownFileName;  // the same name, as shown
   int CurrentThing = 0;       // record number of the thing shown, 0 for none
+  Trail Visited;              // the things that were the current one
   bool Modified = false;      // kept by the history: set by every change, cleared by a save
   bool Writable = true;       // the file may be written in place
   bool LockHeld = false;      // other programs are kept from writing the file

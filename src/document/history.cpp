@@ -31,7 +31,7 @@ std::vector<LinkPlace> LinksTo(int record) {
   return places;
 }
 
-// Gives every link of every thing the number that `renumber` returns for it.
+// Gives every link of every thing, and the way back to the things shown before, the number that `renumber` returns.
 template <class Renumber>
 void RenumberLinks(Renumber renumber) {
   auto& things = TheDocument.Things;
@@ -40,6 +40,7 @@ void RenumberLinks(Renumber renumber) {
     thing.XREF1 = static_cast<std::int16_t>(renumber(int{thing.XREF1}));
     thing.XREF2 = static_cast<std::int16_t>(renumber(int{thing.XREF2}));
   }
+  TheDocument.Visited.Follow(renumber);
 }
 
 // Moves a record to another number, and those between by one.

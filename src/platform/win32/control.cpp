@@ -78,6 +78,7 @@ Control::Control(Form& owner, int id, Kind kind) : peer_(std::make_unique<Peer>(
     peer.Send(LVM_SETEXTENDEDLISTVIEWSTYLE, style, style);
     peer.After(WM_SIZE);
   }
+  if (kind == Kind::RowList) peer.BeginRowList();
 }
 
 Control::~Control() {
@@ -221,6 +222,8 @@ void Control::Peer::After(UINT message) {
     RECT inside{};
     GetClientRect(Window, &inside);
     Send(LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(inside.right, 0));
+  } else if (What == Kind::RowList && message == WM_SIZE) {
+    SizeColumns();
   } else if (What == Kind::Picture && message == WM_SIZE) {
     InvalidateRect(Window, nullptr, FALSE);
   } else if (What == Kind::Button && Back == ::BackColor::Marked) {

@@ -7,12 +7,15 @@
 
 #include <exception>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "platform/form.h"
 #include "platform/win32/control_peer.h"
 #include "platform/win32/layout.h"
+
+class Drops;
 
 struct Form::Peer {
   Form* Self = nullptr;
@@ -23,6 +26,8 @@ struct Form::Peer {
   HWND TipWindow = nullptr;
   std::map<int, Control*> Controls;
   std::map<int, std::string> MenuTexts;
+  int EntriesCount = 0;               // of SetMenuEntries
+  std::shared_ptr<Drops> TakesDrops;  // null: no file may be dropped
   Layout Sizes;
   const Control* Below = nullptr;
 
@@ -55,6 +60,7 @@ struct Form::Peer {
   void Carry(std::exception_ptr failure);
   void RethrowCarried();
   HFONT Bold();
+  void TakeDrops();
   HWND Tips();  // the window of the tool tips, made when the first one is set
   void RemakeFonts();
 
