@@ -28,9 +28,7 @@ class Word {
       const char letter = PlainLetters()[code];
       const std::size_t before = last == 0 ? kNowhere : plain_.rfind(letter, last - 1);
       if (before != kNowhere) steps_[code] = static_cast<std::uint32_t>(last - before);
-      if (letter != plain_[last]) continue;
-      repeat_ = steps_[code];
-      steps_[code] = 0;
+      if (letter == plain_[last]) steps_[code] = 0;
     }
   }
 
@@ -38,28 +36,32 @@ class Word {
 
   // Where it first is in a text, or kNowhere.
   std::size_t In(std::string_view text) const {
-    const PlainBytes& bytes = PlainLetters();
     const std::size_t last = plain_.size() - 1;
     for (std::size_t end = last; end < text.size();) {
-      const std::uint32_t step = steps_[static_cast<unsigned char>(text[end])];
-      if (step != 0) {
-        end += step;
-        continue;
-      }
-      std::size_t matched = 0;
-      while (matched < last && bytes[static_cast<unsigned char>(text[end - last + matched])] == plain_[matched]) {
-        ++matched;
-      }
-      if (matched == last) return end - last;
-      end += repeat_;
+      const std::uint32_t step = StepAt(text[end]);
+      if (step == 0 && EndsAt(text, end)) return end - last;
+      // A short step must wait for the one before; looking at each byte need not.
+      end += last >= kLongSteps ? std::max(step, 1U) : 1;
+      while (last < kLongSteps && end < text.size() && StepAt(text[end]) != 0) ++end;
     }
     return kNowhere;
   }
 
  private:
+  static constexpr std::size_t kLongSteps = 4;
+
+  std::uint32_t StepAt(char byte) const { return steps_[static_cast<unsigned char>(byte)]; }
+
+  // The last letter fits: the others as well.
+  bool EndsAt(std::string_view text, std::size_t end) const {
+    const PlainBytes& bytes = PlainLetters();
+    const std::string_view before = text.substr(end + 1 - plain_.size(), plain_.size() - 1);
+    return std::equal(before.begin(), before.end(), plain_.begin(),
+                      [&bytes](char one, char other) { return bytes[static_cast<unsigned char>(one)] == other; });
+  }
+
   std::string plain_;
   std::array<std::uint32_t, 256> steps_{};  // by the text's byte at the end: how far on the next place is; 0: look here
-  std::uint32_t repeat_ = 1;                // how far it is when the byte is right and the others are not
 };
 
 std::vector<Word> WordsOf(std::string_view text) {
