@@ -24,6 +24,9 @@
 #define IDC_OpenItem 1201
 #define IDC_ExitItem 1203
 #define IDC_AboutItem 1242
+#define IDC_FindItem 1626
+#define IDC_FindNextItem 1627
+#define IDC_FindPreviousItem 1628
 #define IDC_NameLabel 1300
 #define IDC_NameBox 1301
 #define IDC_BrowseButton 1302

@@ -30,6 +30,7 @@ void MakeNew() {
   document.Writable = true;
   document.PendingEdits = false;
   document.CurrentThing = 0;
+  document.Visited.Clear();
   document.DocumentOpen = false;
   document.FileName.clear();
   document.ShownFileName.clear();

@@ -9,6 +9,7 @@
 
 #include "document/field_slots.h"
 #include "document/record_table.h"
+#include "document/trail.h"
 
 inline constexpr int kCategories = 32;
 
@@ -65,6 +66,7 @@ struct Document {
   std::string FileName;       // the name to save to; empty for a new document
   std::string ShownFileName;  // the same name, as shown
   int CurrentThing = 0;       // record number of the thing shown, 0 for none
+  Trail Visited;              // the things that were the current one
   bool Modified = false;      // kept by the history: set by every change, cleared by a save
   bool Writable = true;       // the file may be written in place
   bool LockHeld = false;      // other programs are kept from writing the file

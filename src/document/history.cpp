@@ -54,6 +54,7 @@ void Follow(Renumbering renumber) {
     thing.XREF2 = static_cast<std::int16_t>(renumber(thing.XREF2));
   }
   TheDocument.CurrentThing = renumber(TheDocument.CurrentThing);
+  TheDocument.Visited.Follow(renumber);
 }
 
 // Moves a record to another number, and those between by one.

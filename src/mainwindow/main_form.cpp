@@ -33,9 +33,13 @@ std::span<const Command<MainForm>> MainForm::Commands() {
       {IDC_NewItem, &F::NewButton, &F::NewItem_Click},
       {IDC_OpenItem, nullptr, &F::OpenItem_Click},
       {IDC_SaveItem, &F::SaveButton, &F::SaveItem_Click},
+      {IDC_RecentItem, nullptr, &F::RecentItem_Click, nullptr, nullptr, true, kRecentFiles},
       {IDC_ExitItem, nullptr, &F::ExitItem_Click},
       {IDC_UndoItem, nullptr, &F::UndoItem_Click, &F::CanUndo, &F::UndoText, false},
       {IDC_RedoItem, nullptr, &F::RedoItem_Click, &F::CanRedo, &F::RedoText, false},
+      {IDC_FindItem, nullptr, &F::Have<&F::Finder, &ThingFinder::FindItem_Click>},
+      {IDC_FindNextItem, nullptr, &F::Have<&F::Finder, &ThingFinder::FindNextItem_Click>},
+      {IDC_FindPreviousItem, nullptr, &F::Have<&F::Finder, &ThingFinder::FindPreviousItem_Click>},
       {IDC_AddPersonItem, &F::AddPersonButton, &F::AddPersonItem_Click},
       kNotStoring(IDC_DeletePersonItem, &F::DeletePersonItem_Click, &F::DeleteButton),
       {IDC_RenameItem, nullptr, &F::RenameItem_Click},
@@ -44,12 +48,21 @@ std::span<const Command<MainForm>> MainForm::Commands() {
       {IDC_DataItem, &F::DataButton, &F::DataButton_Click},
       {IDC_DefCatItem, &F::DefCatButton, &F::DefCatButton_Click},
       {IDC_TickAllItem, nullptr, &F::TickAllItem_Click, &F::CanTickAll},
-      kNotStoring(IDC_AllNamesItem, &F::AllNamesItem_Click),
-      kNotStoring(IDC_StartingLetterItem, &F::StartingLetterItem_Click),
-      kNotStoring(IDC_AllCategoryItem, &F::AllCategoryItem_Click),
-      kNotStoring(IDC_SelCategoryItem, &F::SelCategoryItem_Click),
-      kNotStoring(IDC_GivenNameItem, &F::GivenNameItem_Click),
-      kNotStoring(IDC_SurnameOrderItem, &F::SurnameOrderItem_Click),
+      kNotStoring(IDC_AllNamesItem, &F::Have<&F::Picker, &ThingPicker::AllNamesItem_Click>),
+      kNotStoring(IDC_StartingLetterItem, &F::Have<&F::Picker, &ThingPicker::StartingLetterItem_Click>),
+      kNotStoring(IDC_AllCategoryItem, &F::Have<&F::Picker, &ThingPicker::AllCategoryItem_Click>),
+      kNotStoring(IDC_SelCategoryItem, &F::Have<&F::Picker, &ThingPicker::SelCategoryItem_Click>),
+      kNotStoring(IDC_GivenNameItem, &F::Have<&F::Picker, &ThingPicker::GivenNameItem_Click>),
+      kNotStoring(IDC_SurnameOrderItem, &F::Have<&F::Picker, &ThingPicker::SurnameOrderItem_Click>),
+      {IDC_GoXRef1Item, nullptr, &F::Have<&F::Finder, &ThingFinder::GoXRef1Item_Click>,
+       &F::CanFind<&ThingFinder::CanGoXRef1>},
+      {IDC_GoXRef2Item, nullptr, &F::Have<&F::Finder, &ThingFinder::GoXRef2Item_Click>,
+       &F::CanFind<&ThingFinder::CanGoXRef2>},
+      {IDC_LinksHereItem, nullptr, &F::Have<&F::Finder, &ThingFinder::LinksHereItem_Click>,
+       &F::CanFind<&ThingFinder::HasLinksHere>},
+      {IDC_BackItem, nullptr, &F::Have<&F::Finder, &ThingFinder::BackItem_Click>, &F::CanFind<&ThingFinder::CanGoBack>},
+      {IDC_ForwardItem, nullptr, &F::Have<&F::Finder, &ThingFinder::ForwardItem_Click>,
+       &F::CanFind<&ThingFinder::CanGoForward>},
       kNotStoring(IDC_AddressRepItem, &F::AddressRepItem_Click),
       kNotStoring(IDC_ItemValuesItem, &F::ItemValuesItem_Click),
       kNotStoring(IDC_DescendantItem, &F::DescendantItem_Click),
@@ -92,6 +105,13 @@ void MainForm::WireEvents() {
   EnterKey = [this] { Picker.EnterKey(); };
   EscapeKey = [this] { Picker.EscapeKey(); };
   HelpKey = [this] { commands_.Run(IDC_ManualItem); };
+  MayDrop = [this](const std::string& file) {
+    return IsDataFile(file) || (CurrentRecord() != nullptr && IsPicture(file));
+  };
+  Drop = [this](const std::string& file) {
+    DropFile(file);
+    RefreshFrame();
+  };
   Picker.StoreEdits = [this] { StoreEdits(); };
   Picker.Picked = [this] {
     DisplayThing();
@@ -169,6 +189,7 @@ void MainForm::Form_Load() {
   MakeNew();
   TheStart = command_line_.empty() ? StartOptions{} : ParseCommandLine(command_line_);
   LoadSettings();
+  ShowRecentFiles();
   TheDocument.Writable = true;
   if (!TheStart.StartFile.empty()) {
     LoadDocument(Global::FullFileName(TheStart.WorkingFolder, TheStart.StartFile), TheStart.StartFile);

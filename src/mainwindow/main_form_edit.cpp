@@ -81,8 +81,11 @@ void MainForm::PhotoButton_Click() {
     const FlagScope scope(dialog_open_);
     FileForm(request).ShowModal();
   }
-  if (request.Name.empty()) return;
-  SetPhoto(TheDocument.CurrentThing, request.Name);
+  if (!request.Name.empty()) UsePhoto(request.Name);
+}
+
+void MainForm::UsePhoto(const std::string& name) {
+  SetPhoto(TheDocument.CurrentThing, name);
   Redisplay();
 }
 

@@ -1,5 +1,6 @@
 // MainForm's File menu: New, Open, Save, Exit, and the end of Windows.
 #include <utility>
+#include <vector>
 
 #include "document/copies.h"
 #include "document/document.h"
@@ -7,7 +8,9 @@
 #include "document/history.h"
 #include "document/reader.h"
 #include "document/rescue.h"
+#include "mainwindow/command_line.h"
 #include "mainwindow/main_form.h"
+#include "mainwindow/recent_entries.h"
 #include "mainwindow/save.h"
 #include "mainwindow/settings.h"
 #include "platform/files.h"
@@ -40,6 +43,7 @@ bool LoadCopyOf(const std::string& full_name) {
 
 void MainForm::MakeNew() {
   ::MakeNew();
+  Finder.Reset();
   Picker.Reset();
   FillCategoryList();
   Redisplay();
@@ -69,7 +73,8 @@ void MainForm::NewItem_Click() {
   AddPersonButton.SetFocus();
 }
 
-void MainForm::OpenItem_Click() {
+// Opens the file of that name, or without one that which the user chooses.
+void MainForm::OpenFile(const std::string& chosen) {
   if (!MayAbandon()) return;
   FileRequest request;
   request.Mode = FileRequest::Kind::Read;
@@ -77,14 +82,40 @@ void MainForm::OpenItem_Click() {
   request.Pattern = std::string("*.") + kDataFileExtension;
   request.Name = TheRecentFiles.Count > 0 ? TheRecentFiles[1] : TheDocument.FileName;
   request.MayBeMissing = [](const std::string& name) { return !NewestWholeCopy(name).empty(); };
-  {
+  if (chosen.empty()) {
     const FlagScope scope(dialog_open_);
     FileForm(request).ShowModal();
+  } else if (!TakeName(request, chosen)) {
+    return;
   }
   if (request.Name.empty() || !KeepUnasked()) return;
   const bool loaded = LoadDocument(request.Name, request.Name);
   if (loaded && TheDocument.Things.Count() > 0) TheDocument.CurrentThing = 1;
   Redisplay();
+}
+
+void MainForm::RecentItem_Click() {
+  const std::vector<std::string> names = RecentNames();
+  const auto chosen = static_cast<std::size_t>(commands_.Chosen());
+  if (chosen < names.size()) OpenFile(names[chosen]);
+}
+
+void MainForm::ShowRecentFiles() {
+  std::vector<std::string> entries;
+  for (const std::string& name : RecentNames()) {
+    entries.push_back(RecentEntry(static_cast<int>(entries.size()) + 1, name));
+  }
+  SetMenuEntries(IDC_RecentItem, IDC_ExitItem, entries);
+}
+
+void MainForm::DropFile(const std::string& name) {
+  Picker.LeaveThingList();
+  StoreEdits();
+  if (IsDataFile(name)) {
+    OpenFile(name);
+  } else if (CurrentRecord() != nullptr) {
+    UsePhoto(name);
+  }
 }
 
 // Clears the document and reads a file into it; `name` is how the document calls the file then.
@@ -103,6 +134,7 @@ bool MainForm::LoadDocument(const std::string& full_name, const std::string& nam
 void MainForm::SaveItem_Click() {
   const FlagScope scope(dialog_open_);
   SaveDocument();
+  ShowRecentFiles();
 }
 
 void MainForm::ExitItem_Click() {

@@ -96,6 +96,7 @@ int LinkPosition(int link) {
 void MainForm::DisplayThing() {
   const FlagScope scope(displaying_);
   const ThingRecord* thing = CurrentRecord();
+  if (thing != nullptr) TheDocument.Visited.Visit(TheDocument.CurrentThing);
   const bool empty = TheDocument.Things.Count() == 0;
   NoteBox.SetVisible(!empty);
   HintLabel.SetVisible(empty);
@@ -184,7 +185,7 @@ void MainForm::NoteBox_LostFocus() {
   NoteBox.SetText(note);
 }
 
-void MainForm::FatherCombo_Click() {
+void MainForm::LinkChosen() {
   if (!displaying_) TheDocument.PendingEdits = true;
 }
 

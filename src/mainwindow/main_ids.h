@@ -55,6 +55,14 @@
 #define IDC_TickAllItem 1262
 #define IDC_StatusLabel 1046
 #define IDC_ModifiedLabel 1047
+#define IDC_GoXRef1Item 1263
+#define IDC_GoXRef2Item 1264
+#define IDC_LinksHereItem 1265
+#define IDC_BackItem 1266
+#define IDC_ForwardItem 1267
+
+// The recent files: IDC_RecentItem is the latest, + 9 the tenth.
+#define IDC_RecentItem 1290
 
 // CatPickForm
 #define IDD_CatPickForm 112

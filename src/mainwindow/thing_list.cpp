@@ -54,6 +54,31 @@ bool AreLinks(const std::vector<ListEntry>& entries, bool noun_order) {
   return true;
 }
 
+namespace {
+
+bool LinksTo(const ThingRecord& thing, int record) { return thing.XREF1 == record || thing.XREF2 == record; }
+
+}  // namespace
+
+bool HasLinksTo(int record) {
+  const auto& things = TheDocument.Things;
+  int from = 1;
+  while (from <= things.Count() && !LinksTo(things[from], record)) ++from;
+  return record != 0 && from <= things.Count();
+}
+
+std::vector<ListEntry> ListLinksTo(int record, bool noun_order) {
+  const auto& things = TheDocument.Things;
+  std::vector<ListEntry> entries;
+  for (int from = 1; from <= things.Count(); ++from) {
+    const ThingRecord& thing = things[from];
+    if (!LinksTo(thing, record)) continue;
+    const char* which = thing.XREF1 != record ? " (XRef 2)" : thing.XREF2 != record ? " (XRef 1)" : " (XRef 1 and 2)";
+    entries.push_back({ShownName(thing, noun_order) + which, from});
+  }
+  return entries;
+}
+
 std::vector<ListEntry> CategoryEntries() {
   std::vector<ListEntry> entries;
   for (int number = 1; number <= kCategories; ++number) {

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/control.h"
 
@@ -81,8 +82,17 @@ class Form {
   void SetMenuText(int id, std::string_view text);  // "&" and tab as in a template; the template's own comes first
   std::string MenuText(int id) const;               // as set last, empty before
 
+  // Puts entries with the ids first, first + 1, ... above the entry `before`, and a separator behind them, in place of
+  // those that the last call put there.
+  void SetMenuEntries(int first, int before, const std::vector<std::string>& texts);
+
   // The entry or accelerator was chosen; only enabled entries are told of.
   std::function<void(int id)> MenuClick;
+
+  // One file, by its full name, is dragged over the form, which no other form covers: whether it may be dropped, which
+  // the pointer shows; and it was dropped there, as with Later. Several at once never may, nor may anything else.
+  std::function<bool(const std::string& file)> MayDrop;
+  std::function<void(const std::string& file)> Drop;
 
   // Enter or Esc was pressed and the form has no button with id 1 or 2 to take it.
   Event EnterKey;

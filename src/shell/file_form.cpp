@@ -71,16 +71,21 @@ void FileForm::BrowseButton_Click() {
   OKButton.SetFocus();
 }
 
+bool TakeName(FileRequest& request, std::string_view typed) {
+  const std::string name = Global::FullFileName(request.Folder, Trim(typed));
+  const bool must_open = request.Mode == FileRequest::Kind::Read && !name.empty();
+  const bool passes = request.MayBeMissing && !Files::Exists(name) && request.MayBeMissing(name);
+  if (must_open && !passes && !CanBeOpened(name)) return false;
+  request.Name = name;
+  return true;
+}
+
 void FileForm::OKButton_Click() {
-  const std::string name = Global::FullFileName(request_.Folder, Trim(NameBox.Text()));
-  const bool must_open = request_.Mode == FileRequest::Kind::Read && !name.empty();
-  const bool passes = request_.MayBeMissing && !Files::Exists(name) && request_.MayBeMissing(name);
-  if (must_open && !passes && !CanBeOpened(name)) {
+  if (TakeName(request_, NameBox.Text())) {
+    Close();
+  } else {
     NameBox.SetFocus();
-    return;
   }
-  request_.Name = name;
-  Close();
 }
 
 void FileForm::CancelButton_Click() { Close(); }

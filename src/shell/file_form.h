@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "platform/controls.h"
 #include "platform/form.h"
@@ -23,6 +24,10 @@ struct FileRequest {
   // Read: whether FileForm is to let a full name through that no file has; empty: none.
   std::function<bool(const std::string& name)> MayBeMissing;
 };
+
+// Takes what was typed for the request's answer, with its folder; to be read, a file must be there and open, or be one
+// that may be missing. False, after a message, when it does not.
+bool TakeName(FileRequest& request, std::string_view typed);
 
 class FileForm : public Form {
  public:

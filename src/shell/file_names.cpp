@@ -2,6 +2,7 @@
 #include "shell/file_names.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 #include "platform/locale.h"
 #include "platform/program.h"
@@ -42,6 +43,22 @@ std::string ShortenedName(const std::string& name, std::size_t most) {
 std::size_t TypeDot(std::string_view file_name) {
   const auto dot = file_name.rfind('.');
   return dot != std::string_view::npos && dot >= NameStart(file_name) ? dot : std::string_view::npos;
+}
+
+namespace {
+
+bool IsOfType(std::string_view file_name, std::initializer_list<std::string_view> types) {
+  const std::size_t dot = TypeDot(file_name);
+  const std::string type = dot == std::string_view::npos ? std::string() : UpperCase(file_name.substr(dot + 1));
+  return std::find(types.begin(), types.end(), type) != types.end();
+}
+
+}  // namespace
+
+bool IsDataFile(std::string_view file_name) { return IsOfType(file_name, {"FIL"}); }
+
+bool IsPicture(std::string_view file_name) {
+  return IsOfType(file_name, {"JPG", "JPEG", "PNG", "BMP", "GIF", "TIF", "TIFF"});
 }
 
 namespace {

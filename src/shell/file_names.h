@@ -28,6 +28,10 @@ std::string ShortenedName(const std::string& name, std::size_t most);
 // The position of the "." before a file name's type, or npos. A folder's name may hold a "." as well.
 std::size_t TypeDot(std::string_view file_name);
 
+// True for the names of a document's file and of a picture's, by their types.
+bool IsDataFile(std::string_view file_name);
+bool IsPicture(std::string_view file_name);
+
 // True for two full names of one file.
 bool SameFile(std::string_view one, std::string_view other);
 

@@ -19,6 +19,7 @@
 //   menu ITEM, close, key Enter (Escape, Down, PageDown, Help, ..., with Shift+ or Ctrl+ on a surface; Ctrl+A, Ctrl+C)
 //   drag SURFACE 1,2 3,4 (column, row; from 0), double-click SURFACE 1,2, wheel SURFACE 3, page SURFACE 2 (or 2 across)
 //   drag and wheel with "shift" at the end, wheel with "ctrl"
+//   drop FILE (with the mouse, on the main window)
 //   A click on OKButton or CancelButton closes a form; one that does not is told of ("stays").
 //   3 times ACT, quietly ACT (untold)
 // Standing before the act whose questions they answer; a plain OK box needs none

@@ -80,6 +80,11 @@ void PageBar(const Said& said) {
   said.Person.PagesBar(said.Id, across ? Surface::Bar::Across : Surface::Bar::Down, std::stoi(said.Text));
 }
 
+void DropFile(const Said& said) {
+  if (!Hands::Drop(*Hands::OpenForms().front(), InFolder(said.Rest))) said.Teller.Say("refused");
+  Hands::Settle();
+}
+
 void ShowFile(const Said& said) {
   const auto bytes = TestFiles::Get(said.Rest);
   if (!bytes) return said.Teller.Say("there is no " + said.Rest);
@@ -153,6 +158,7 @@ std::map<std::string, Story::Verb> PersonVerbs() {
       {"tick", {kFocus, [](const Said& said) { said.Person.Ticks(said.Id, said.Text); }}},
       {"menu", {kControl, [](const Said& said) { said.Person.ChoosesMenu(said.Id); }}},
       {"entry", {kControl, TellEntry}},
+      {"drop", {0, DropFile}},
       {"close", {0, [](const Said& said) { said.Person.ClosesWindow(); }}},
       {"key", {0, PressKey}},
       {"drag", {kControl, Drag}},

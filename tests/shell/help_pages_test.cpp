@@ -4,6 +4,8 @@
 #include <iterator>
 
 #include "document/document.h"
+#include "document/find.h"
+#include "document/names.h"
 #include "document/reader.h"
 #include "support/fresh_test.h"
 #include "support/rows.h"
@@ -37,9 +39,10 @@ std::string Plain(std::string text) {
 }
 
 // The rows of all tables of a class with that many columns, headings left out.
-std::vector<std::vector<std::string>> RowsOf(const std::string& table_class, std::size_t columns) {
+std::vector<std::vector<std::string>> RowsOf(const std::string& table_class, std::size_t columns,
+                                             const std::string& name = "Larkspur_Formulas.htm") {
   std::vector<std::vector<std::string>> rows;
-  const std::string page = ReadPage("Larkspur_Formulas.htm");
+  const std::string page = ReadPage(name);
   for (const std::string& table : Between(page, "<table class=\"" + table_class + "\">", "</table>")) {
     for (const std::string& row : Between(table, "<tr>", "</tr>")) {
       std::vector<std::string> cells = Between(row, "<td>", "</td>");
@@ -63,6 +66,28 @@ TEST_F(HelpPagesTest, CalculationsAndFormulasComeOutAsTheySay) {
     const std::string result = Global::EvaluateExpression(expression, StorageType(row[1]), true);
     EXPECT_EQ(result, row[2]) << row[0];
     EXPECT_EQ(FormatValue(result, row[1], ""), row[3]) << row[0];
+  }
+}
+
+TEST_F(HelpPagesTest, FindsWhatItSays) {
+  TestFiles::Put("Household.FIL", ReadPage("../samples/Household.FIL"));
+  ASSERT_TRUE(LoadFilerFile("Household.FIL"));
+  const std::vector<std::string> places = {"Everything", "Names", "Notes", "Values", "Categories"};
+  const std::vector<std::string> signs = {"is",        "is not",   "less than", "at most",
+                                          "more than", "at least", "is empty",  "is not empty"};
+  const auto number_of = [](const std::vector<std::string>& all, const std::string& text) {
+    return std::find(all.begin(), all.end(), text) - all.begin();
+  };
+  const auto rows = RowsOf("checked-find", 6, "Larkspur_FindForm.htm");
+  EXPECT_GT(rows.size(), 10U);
+  for (const auto& row : rows) {
+    FindRequest request{row[0], static_cast<FindPlace>(number_of(places, row[1])), {row[2], Comparison::Is, row[4]}};
+    if (!row[3].empty()) request.Value.How = static_cast<Comparison>(number_of(signs, row[3]));
+    std::string found;
+    for (const Hit& hit : FindThings(request)) {
+      found += (found.empty() ? "" : ", ") + JoinUnderscoredWords(TheDocument.Things[hit.Record].NAME);
+    }
+    EXPECT_EQ(found, row[5]) << row[0] << row[2];
   }
 }
 

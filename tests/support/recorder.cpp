@@ -121,7 +121,8 @@ void SeeInside(const Control& control, const Hands::Sight& sight, std::map<std::
   }
   if (!ticked.empty()) told[" ticked"] = Joined(ticked);
   if (!sight.Entries.empty()) told[":"] = InLines(sight.Entries);
-  const bool box = dynamic_cast<const ListBox*>(&control) != nullptr;
+  const bool box =
+      dynamic_cast<const ListBox*>(&control) != nullptr || dynamic_cast<const RowList*>(&control) != nullptr;
   if (box && sight.Selected >= 0) told[""] = Quoted(sight.Entries.at(static_cast<std::size_t>(sight.Selected)));
   const auto* surface = dynamic_cast<const Surface*>(&control);
   if (surface == nullptr) return;

@@ -101,6 +101,12 @@ std::string Form::MenuText(int id) const {
   return found == peer_->MenuTexts.end() ? std::string() : found->second;
 }
 
+void Form::SetMenuEntries(int first, int /*before*/, const std::vector<std::string>& texts) {
+  for (int count = 0; count < peer_->EntriesCount; ++count) peer_->MenuTexts.erase(first + count);
+  peer_->EntriesCount = static_cast<int>(texts.size());
+  for (const std::string& text : texts) peer_->MenuTexts[first++] = text;
+}
+
 bool Form::MenuChecked(int id) const { return peer_->MenuTicked.contains(id); }
 
 // Nothing has a place here.

@@ -51,6 +51,7 @@ struct Control::Peer {
   bool OnPaper = false;             // surface
   bool EnteredBefore = false;       // combo
   std::map<Surface::Bar, SurfaceBar> Bars;
+  int Rows = 0, Columns = 0;  // row list
 
   void MarkAll();
   void Entered();           // got the focus: a text box marks its text, a combo the first time
@@ -84,6 +85,7 @@ struct Form::Peer {
   std::set<int> MenuGreyed;
   std::set<int> MenuTicked;
   std::map<int, std::string> MenuTexts;
+  int EntriesCount = 0;  // of SetMenuEntries
 
   Control* Find(int id) const;       // nullptr when there is none
   void MoveFocus(Control* control);  // raises LostFocus and GotFocus while the form is shown

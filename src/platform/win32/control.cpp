@@ -78,6 +78,7 @@ Control::Control(Form& owner, int id, Kind kind) : peer_(std::make_unique<Peer>(
     peer.Send(LVM_SETEXTENDEDLISTVIEWSTYLE, style, style);
     peer.After(WM_SIZE);
   }
+  if (kind == Kind::RowList) peer.BeginRowList();
 }
 
 Control::~Control() {
@@ -232,6 +233,8 @@ void Control::Peer::After(UINT message) {
       item.state = item.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
       Send(LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&item));
     }
+  } else if (What == Kind::RowList && message == WM_SIZE) {
+    SizeColumns();
   } else if (What == Kind::Picture && message == WM_SIZE) {
     InvalidateRect(Window, nullptr, FALSE);
   } else if (What == Kind::Label && (message == WM_SETFOCUS || message == WM_KILLFOCUS)) {

@@ -124,6 +124,7 @@ Form::Form(int template_id) : peer_(std::make_unique<Peer>()) {
 
 Form::~Form() {
   peer_->Gone();
+  peer_->TakesDrops.reset();
   SetWindowLongPtrA(peer_->Window, DWLP_USER, 0);
   DestroyWindow(peer_->Window);
   if (peer_->BoldFont != nullptr) DeleteObject(peer_->BoldFont);
@@ -201,6 +202,7 @@ void Form::Peer::Appear(Form* owner) {
       EnableWindow(owner_window, FALSE);
     }
   }
+  if (Self->MayDrop) TakeDrops();
   OpenForms().push_back(Self);
   Shown = true;
   Appearing = true;

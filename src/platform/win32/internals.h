@@ -7,6 +7,7 @@
 
 #include <exception>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,6 +21,7 @@ struct StoodAt {
   RECT Rect;
   bool Maximized;
 };
+class Drops;
 
 struct Form::Peer {
   Form* Self = nullptr;
@@ -30,6 +32,8 @@ struct Form::Peer {
   HWND TipWindow = nullptr;
   std::map<int, Control*> Controls;
   std::map<int, std::string> MenuTexts;
+  int EntriesCount = 0;               // of SetMenuEntries
+  std::shared_ptr<Drops> TakesDrops;  // null: no file may be dropped
   Layout Sizes;
   const Control* Below = nullptr;
   std::optional<StoodAt> Stood;
@@ -63,6 +67,7 @@ struct Form::Peer {
   void Carry(std::exception_ptr failure);
   void RethrowCarried();
   HFONT Bold();
+  void TakeDrops();
   HWND Tips();  // the window of the tool tips, made when the first one is set
   void RemakeFonts();
 

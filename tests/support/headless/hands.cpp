@@ -76,6 +76,11 @@ Hands::Sight Hands::LookAt(const Control& control) {
               peer.Bold,     control.HasFocus(), {},
               peer.Selected, peer.Ticks,         {peer.MarkFirst, peer.MarkLast}};
   for (const ListEntry& entry : peer.Entries) sight.Entries.push_back(entry.Text);
+  const auto* list = dynamic_cast<const RowList*>(&control);
+  for (int row = 0; list != nullptr && row < list->Rows(); ++row) {
+    sight.Entries.push_back(list->CellText(row, 0));
+    for (int column = 1; column < peer.Columns; ++column) sight.Entries.back() += " / " + list->CellText(row, column);
+  }
   return sight;
 }
 
@@ -124,6 +129,7 @@ void Hands::Drag(Surface& surface, Cell from, Cell to, bool shift) {
 
 void Hands::DoubleClick(Control& control, Cell at) {
   if (const auto* picture = dynamic_cast<Picture*>(&control)) return Raise(picture->DoubleClick);
+  if (auto* list = dynamic_cast<RowList*>(&control)) return list->Select(at.Row), Raise(list->DoubleClick);
   const auto& surface = dynamic_cast<Surface&>(control);
   Raise(surface.Mouse, MousePress{MousePress::Act::Press, at});
   Raise(surface.Mouse, MousePress{MousePress::Act::DoubleClick, at});
@@ -152,6 +158,12 @@ void Hands::Close(Form& form) {
   } else {
     peer.Unload(UnloadMode::ControlMenu);
   }
+}
+
+bool Hands::Drop(Form& form, const std::string& file) {
+  const bool takes = !form.Covered() && Raise(form.MayDrop, file);
+  if (takes) form.Later([&form, file] { Raise(form.Drop, file); });
+  return takes;
 }
 
 void Hands::ShutDown(Form& form) { form.PeerOf().Unload(UnloadMode::WindowsShutdown); }
