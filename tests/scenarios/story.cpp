@@ -181,6 +181,7 @@ void Story::Fail(const std::string& why) {
 }
 
 void Story::Leave() {
+  if (form_) Sees.Forget(*form_);
   form_.reset();
   StartFresh();
 }

@@ -8,7 +8,7 @@
 // A person's acts, on the topmost window. CONTROL is a name of resource.h, of a row LetterLabel[S], CategoryNameBox[2].
 //   CONTROL                    clicks a button, label, picture, or chooses a menu entry
 //   CONTROL "text"             picks or ticks the entry of that text; where there is none, types
-//   focus CONTROL, key Enter (Escape, Down, PageDown, Help, ..., with Shift+ or Ctrl+ on a surface; Ctrl+A, Ctrl+C)
+//   focus CONTROL, key Enter (Escape, Down, PageDown, Help, ..., with Shift+ or Ctrl+ on a surface; Ctrl+A; several)
 //   start COMMANDLINE, viewer COMMANDLINE, leave (unasked), close, shutdown (the system asks)
 //   drag SURFACE 1,2 3,4 (column, row; from 0), double-click SURFACE 1,2, wheel SURFACE 3, page SURFACE 2 (or 2 across)
 //   drag and wheel with "shift" at the end, wheel with "ctrl"
@@ -17,7 +17,7 @@
 //   "text" or cancel           to an input box or a file dialog
 //   acts                       in a form; those that leave it open may also stand in lines of their own
 // Looking closer
-//   entry ITEM (what it says), show FILE, clipboard
+//   show FILE, clipboard
 // What code does: prints NAME (opens a print file as reports do), fails (runs a form whose start fails)
 // Given, untold; FILE and FOLDER are names in the test's folder, which "{folder}" stands for; {E9} is a byte
 //   given FILE [FILE]          a file of tests/scenarios/given, under that name
@@ -25,7 +25,8 @@
 //   data FILE text / text      a data file: these lines stand between its first and last
 //   folder FOLDER, erase FILE, read-only FILE, writable FILE
 //   held FILE, kept FILE, released    another program keeps others from writing it, from everything; lets go
-//   home                       the main window shows Home.FIL; quietly ACT; full (as many things as can be)
+//   home [FILE], shows text / text    the main window shows Home.FIL or another given file, or one of these lines
+//   quietly ACT; full          as many things as can be
 // In memory only: tests/support/headless/machine_verbs.cpp
 #pragma once
 

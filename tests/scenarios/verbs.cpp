@@ -52,18 +52,37 @@ void StartViewer(Story& story, User&, const std::string& command_line) {
   story.Open(std::make_unique<ViewerForm>(command_line)).Start();
 }
 
+// A file of the folder "given", or one of these lines, in the main window.
+void ShowGiven(Story& story, User& person, const std::string& rest) {
+  const std::string name = rest.empty() ? "Home.FIL" : rest;
+  Give(story, person, name);
+  Start(story, person, name);
+}
+
+void ShowLines(Story& story, User& person, const std::string& lines) {
+  PutData(story, person, "Shown.FIL " + lines);
+  Start(story, person, "Shown.FIL");
+}
+
 bool Has(const std::string& text, const char* word) { return text.find(word) != std::string::npos; }
 
 Cell CellOf(const std::string& text) { return {std::stoi(text), std::stoi(text.substr(text.find(',') + 1))}; }
 
-void PressKey(Story& story, User& person, const std::string& rest) {
+void PressKeys(Story& story, User& person, const std::string& rest) {
   constexpr const char* kKeys[] = {"Enter",  "Escape",   "Left", "Right", "Up",  "Down",
                                    "PageUp", "PageDown", "Home", "End",   "Help"};
-  const std::string name = rest.substr(rest.rfind('+') + 1);
-  if (name.size() == 1) return person.PressesControl(name[0]);
-  const auto found = std::find(std::begin(kKeys), std::end(kKeys), name);
-  if (found == std::end(kKeys)) return story.Fail("There is no key " + name);
-  person.Presses(KeyPress{static_cast<Key>(found - std::begin(kKeys)), Has(rest, "Shift+"), Has(rest, "Ctrl+")});
+  std::istringstream in(rest);
+  for (std::string key; in >> key;) {
+    const std::string name = key.substr(key.rfind('+') + 1);
+    const auto found = std::find(std::begin(kKeys), std::end(kKeys), name);
+    if (name.size() == 1) {
+      person.PressesControl(name[0]);
+    } else if (found != std::end(kKeys)) {
+      person.Presses(KeyPress{static_cast<Key>(found - std::begin(kKeys)), Has(key, "Shift+"), Has(key, "Ctrl+")});
+    } else {
+      story.Fail("There is no key " + name);
+    }
+  }
 }
 
 void ShowFile(Story& story, User&, const std::string& name) {
@@ -72,13 +91,6 @@ void ShowFile(Story& story, User&, const std::string& name) {
     const bool whole = line.ends_with('\r') && !in.eof();
     story.Say("| " + (whole ? line.substr(0, line.size() - 1) : line + " (no line's end)"));
   }
-}
-
-void TellEntry(Story& story, User&, const std::string& name) {
-  const Form& form = *Hands::OpenForms().back();
-  const int item = Names::ControlOf(name);
-  const std::string text = form.MenuText(item);
-  story.Say('"' + text.substr(0, text.find('\t')) + (form.MenuEnabled(item) ? "\"" : "\", greyed"));
 }
 
 void OpenPrint(Story& story, User&, const std::string& typed) {
@@ -122,11 +134,8 @@ const Story::Verbs& GivenVerbs() {
       {"held", [](Story&, User&, const std::string& name) { TestFiles::HoldByOther(name, false); }},
       {"kept", [](Story&, User&, const std::string& name) { TestFiles::HoldByOther(name, true); }},
       {"released", [](Story&, User&, const std::string&) { TestFiles::ReleaseByOther(); }},
-      {"home",
-       [](Story& story, User& person, const std::string&) {
-         Give(story, person, "Home.FIL");
-         Start(story, person, "Home.FIL");
-       }},
+      {"home", ShowGiven},
+      {"shows", ShowLines},
       {"full", [](Story&, User&, const std::string&) {
          TheDocument.Things.GrowFor(32767, 0);
          TheDocument.Things.SetCount(32767);
@@ -145,7 +154,7 @@ const Story::Verbs& PersonVerbs() {
          Hands::ShutDown(*Hands::OpenForms().front());  // dialogs have no say
          Hands::Settle();
        }},
-      {"key", PressKey},
+      {"key", PressKeys},
       {"focus",
        [](Story& story, User& person, const std::string& name) {
          const int id = Names::ControlOf(name);
@@ -162,7 +171,6 @@ const Story::Verbs& PersonVerbs() {
       {"page", On([](User& person, int id, const std::string& how) {
          person.PagesBar(id, Has(how, "across") ? Surface::Bar::Across : Surface::Bar::Down, std::stoi(how));
        })},
-      {"entry", TellEntry},
       {"show", ShowFile},
       {"clipboard", [](Story& story, User&, const std::string&) { story.Say('"' + ClipboardText() + '"'); }},
       {"prints", OpenPrint},

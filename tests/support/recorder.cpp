@@ -190,8 +190,9 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
     if (topmost ? sight.Focused : old != before.Controls.end() && old->second.contains("focus")) told["focus"];
   }
   for (const int item : names.MenuItems) {
-    // What an entry says that the program words itself, an act asks for.
-    if (!form.MenuEnabled(item) && form.MenuText(item).empty()) state.Controls[item]["greyed"];
+    const std::string text = form.MenuText(item);  // of those that the program words itself
+    if (!text.empty()) state.Controls[item][""] = Quoted(text.substr(0, text.find('\t')));
+    if (!form.MenuEnabled(item)) state.Controls[item]["greyed"];
     if (form.MenuChecked(item)) state.Controls[item]["checked"];
   }
   return state;

@@ -37,8 +37,9 @@ void Recorder::LookAtFiles() {
     if (old != files_.end() && old->second == file.second) continue;
     const auto copied =
         std::find_if(files_.begin(), files_.end(), [&](const auto& each) { return each.second == file.second; });
-    Note("file " + file.first + (old == files_.end() ? " came" : " written") +
-         (copied == files_.end() ? "" : ", what " + copied->first + " was"));
+    const auto lines = std::count(file.second.begin(), file.second.end(), '\n');
+    Note("file " + file.first + (old == files_.end() ? " came, " : " written, ") +
+         (copied == files_.end() ? std::to_string(lines) + " lines" : "what " + copied->first + " was"));
   }
   for (const auto& [name, bytes] : files_) {
     if (!now.contains(name)) Note("file " + name + " is gone");
