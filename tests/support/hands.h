@@ -51,7 +51,7 @@ void Close(Form& form);
 void ShutDown(Form& form);  // the system asks whether it may
 void Settle();              // lets everything happen that an act set off
 
-// The command lines of the programs started since the last call; only the in-memory machine knows.
-std::vector<std::string> StartedPrograms();
+// The programs started and the pages printed since the last call, in words; only the in-memory machine knows.
+std::vector<std::string> MachineNews();
 
 }  // namespace Hands

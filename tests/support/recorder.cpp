@@ -274,7 +274,7 @@ void Recorder::Note(const std::string& raw) {
 void Recorder::LookAround() {
   LookAtFiles();
   LookAtLocks();
-  for (const std::string& line : Hands::StartedPrograms()) Note("starts " + line);
+  for (const std::string& news : Hands::MachineNews()) Note(news);
   LookAtDocument();
   const auto open = Hands::OpenForms();
   std::erase_if(forms_, [&](const auto& known) {

@@ -78,22 +78,21 @@ Looks LooksOf(const ReportView& view) {
   if (view.Seeks()) looks["hit"] = pair(view.HitNumber(), " of ", view.HitCount());
   if (view.HasSelection()) looks["selected"] = Joined(Parts(view.SelectedText(), "\r\n"));
   const auto rows = RowsOf(page, true);
-  for (std::size_t row = 0; row < rows.size(); ++row) looks[(row < 10 ? "| " : "|") + std::to_string(row)] = rows[row];
+  for (std::size_t row = 0; row < rows.size(); ++row)
+    looks[(row < 10 ? "| " : "|") + std::to_string(row) + ":"] = rows[row];
   return looks;
 }
 
-// What differs: in one line, and the rows below it.
+// What differs, in lines of some length.
 std::vector<std::string> NewsOf(Looks before, Looks now) {
+  constexpr std::size_t kWidth = 112;
   std::vector<std::string> news(1);
   for (const auto& look : Looks(before)) now[look.first];
   for (const auto& [what, text] : now) {
     if (before[what] == text) continue;
     const std::string line = what + " " + (text.empty() && what[0] != '|' ? "no more" : text);
-    if (what[0] == '|') {
-      news.push_back(line);
-    } else {
-      news[0] += (news[0].empty() ? "" : "; ") + line;
-    }
+    if (!news.back().empty() && news.back().size() + line.size() > kWidth) news.emplace_back();
+    news.back() += (news.back().empty() ? "" : "; ") + line;
   }
   return news;
 }

@@ -4,12 +4,11 @@
 //   no-starts                  starting a program gives no process
 //   program-folder FOLDER      where the program lies; today YEAR MONTH DAY
 //   registry KEY NAME TEXT     a value of the user's, "-" for the default one; unregister KEY
-//   printer FIRST LAST [SHEETS [HEIGHT]], printer 0 (cancels); printed: tells the pages
+//   printer FIRST LAST [SHEETS [HEIGHT]], printer 0 (cancels)
 #include <sstream>
 
 #include "platform/headless/machine.h"
 #include "scenarios/story.h"
-#include "support/page_text.h"
 
 namespace {
 
@@ -26,13 +25,6 @@ void SetPrinter(Story&, User&, const std::string& rest) {
   if (in >> range.First >> range.Last) printer.Chosen = range;
   in >> printer.PaperLeft >> printer.Paper.Height;
   Machine::SetPrinter(printer);
-}
-
-void TellPrinted(Story& story, User&, const std::string&) {
-  for (const Page& page : Machine::PrintedPages()) {
-    const auto rows = RowsOf(page);
-    story.Say(std::to_string(rows.size()) + " rows: " + rows.at(1) + " ... " + rows.back());
-  }
 }
 
 void SetToday(Story&, User&, const std::string& rest) {
@@ -53,8 +45,7 @@ const Story::Verbs& MachineVerbs() {
       {"registry", SetRegistry},
       {"unregister",
        [](Story&, User&, const std::string& key) { Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, key); }},
-      {"printer", SetPrinter},
-      {"printed", TellPrinted}};
+      {"printer", SetPrinter}};
   return kVerbs;
 }
 
