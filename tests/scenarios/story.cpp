@@ -48,8 +48,17 @@ std::string Expanded(std::string text) {
   return text;
 }
 
-// Parted by ", ", except in quotes.
-std::deque<std::string> PartsOf(const std::string& act) {
+// A click on these closes a form.
+bool Leaves(const std::string& part) { return part == "OKButton" || part == "CancelButton"; }
+
+}  // namespace
+
+std::pair<std::string, std::string> Parted(const std::string& text) {
+  const std::size_t end = std::min(text.find(' '), text.size());
+  return {text.substr(0, end), text.substr(std::min(end + 1, text.size()))};
+}
+
+std::deque<std::string> Story::PartsOf(const std::string& act) {
   std::deque<std::string> parts(1);
   bool quoted = false;
   for (std::size_t at = 0; at < act.size(); ++at) {
@@ -62,16 +71,6 @@ std::deque<std::string> PartsOf(const std::string& act) {
     }
   }
   return parts;
-}
-
-// A click on these closes a form.
-bool Leaves(const std::string& part) { return part == "OKButton" || part == "CancelButton"; }
-
-}  // namespace
-
-std::pair<std::string, std::string> Parted(const std::string& text) {
-  const std::size_t end = std::min(text.find(' '), text.size());
-  return {text.substr(0, end), text.substr(std::min(end + 1, text.size()))};
 }
 
 Story::Story(const Tale& above, const Tale& tale)

@@ -23,7 +23,7 @@
 //   given FILE [FILE]          a file of tests/scenarios/given, under that name
 //   file FILE text / text      a file of these lines; of one, without a line's end
 //   data FILE text / text      a data file: these lines stand between its first and last
-//   folder FOLDER, erase FILE, read-only FILE, writable FILE
+//   folder FOLDER, FOLDER; erase FILE, read-only FILE, writable FILE
 //   held FILE, kept FILE, released    another program keeps others from writing it, from everything; lets go
 //   home [FILE], shows text / text    the main window shows Home.FIL or another given file, or one of these lines
 //   quietly ACT; full          as many things as can be
@@ -62,6 +62,7 @@ class Story : public FreshTest, public Listener {
     form_ = std::move(form);
     return opened;
   }
+  static std::deque<std::string> PartsOf(const std::string& act);  // parted by ", ", except in quotes
   static std::string Unquoted(const std::string& text);
   Recorder Sees;
 

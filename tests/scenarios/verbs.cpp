@@ -41,6 +41,13 @@ void PutData(Story&, User&, const std::string& rest) {
   TestFiles::Put(name, LinesOf("LARKSPUR V5.0 FILER DATA / " + text + (text.empty() ? "[END]" : " / [END]")));
 }
 
+void MakeFolders(Story& story, User&, const std::string& names) {
+  for (const std::string& name : Story::PartsOf(names)) {
+    TestFiles::MakeFolder(name);
+    story.Sees.NoteFolder(name);
+  }
+}
+
 void Start(Story& story, User&, const std::string& command_line) {
   story.Leave();
   story.Open(std::make_unique<MainForm>(command_line)).Show();
@@ -123,11 +130,7 @@ const Story::Verbs& GivenVerbs() {
       {"given", Give},
       {"file", PutFile},
       {"data", PutData},
-      {"folder",
-       [](Story& story, User&, const std::string& name) {
-         TestFiles::MakeFolder(name);
-         story.Sees.NoteFolder(name);
-       }},
+      {"folder", MakeFolders},
       {"erase", [](Story&, User&, const std::string& name) { Files::Erase(name); }},
       {"read-only", [](Story&, User&, const std::string& name) { TestFiles::SetReadOnly(name, true); }},
       {"writable", [](Story&, User&, const std::string& name) { TestFiles::SetReadOnly(name, false); }},
