@@ -35,15 +35,16 @@ Texts LinesIn(const std::string& lines) {
 
 // "a | b | (3) | c": entries without a text are counted.
 std::string Joined(const Texts& texts) {
+  constexpr int kMany = 10;
   std::string line;
-  for (std::size_t at = 0; at < texts.size(); ++at) {
+  int parts = 0;
+  for (std::size_t at = 0; at < texts.size(); ++at, ++parts) {
     std::size_t empty = 0;
     while (at + empty < texts.size() && texts[at + empty].empty()) ++empty;
     line += (line.empty() ? "" : " | ") + (empty == 0 ? texts[at] : "(" + std::to_string(empty) + ")");
     if (empty != 0) at += empty - 1;
   }
-  constexpr std::size_t kLong = 100;
-  if (line.size() > kLong) return texts.front() + " ... " + texts.back() + " (" + std::to_string(texts.size()) + ")";
+  if (parts > kMany) return texts.front() + " ... " + texts.back() + " (" + std::to_string(texts.size()) + ")";
   return line.empty() ? "(none)" : line;
 }
 
