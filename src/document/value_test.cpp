@@ -89,7 +89,7 @@ std::optional<double> ValueTester::TypedNumber(std::string_view typed) const {
 }
 
 std::string ValueTester::StoredValue(const ThingRecord& thing) const {
-  return formula_ ? FormulaResult(*formula_, thing.Values) : ValueOf(thing.Values, test_.Name);
+  return formula_ ? FormulaResult(*formula_, thing.Values) : std::string(ValueOf(thing.Values, test_.Name));
 }
 
 bool ValueTester::Passes(const ThingRecord& thing) const {

@@ -20,10 +20,10 @@ FindForm::FindForm(FindRequest request, bool noun_order)
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };
   HelpKey = Global::HelpOn(HelpPages::kFindForm);
-  Anchor(HitList, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
-  Anchor(CountLabel, kEdgeLeft | kEdgeBottom);
-  Anchor(OKButton, kEdgeRight | kEdgeBottom);
-  Anchor(CancelButton, kEdgeRight | kEdgeBottom);
+  Anchor(HitList, {0, 0, 100, 100});
+  Anchor(CountLabel, {0, 100, 0, 100});
+  Anchor(OKButton, {100, 100, 100, 100});
+  Anchor(CancelButton, {100, 100, 100, 100});
 }
 
 // The positions are the numbers of FindPlace and Comparison.

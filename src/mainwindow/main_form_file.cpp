@@ -17,6 +17,7 @@
 #include "platform/program.h"
 #include "platform/registry.h"
 #include "shell/file_form.h"
+#include "shell/file_names.h"
 #include "shell/messages.h"
 #include "shell/replace_file.h"
 #include "shell/start_options.h"

@@ -52,7 +52,7 @@ bool Drop(Form& form, const std::string& file);  // by its full name; false when
 void ShutDown(Form& form);                       // the system asks whether it may
 void Settle();                                   // lets everything happen that an act set off
 
-// The command lines of the programs started since the last call; only the in-memory machine knows.
-std::vector<std::string> StartedPrograms();
+// The programs started and the pages printed since the last call, in words; only the in-memory machine knows.
+std::vector<std::string> MachineNews();
 
 }  // namespace Hands

@@ -7,6 +7,7 @@
 #include "platform/headless/machine.h"
 #include "support/files.h"
 #include "support/listener.h"
+#include "support/page_text.h"
 
 namespace {
 
@@ -172,4 +173,12 @@ void Hands::Settle() {
   if (!::OpenForms().empty()) ::OpenForms().back()->PeerOf().RunDeferred();
 }
 
-std::vector<std::string> Hands::StartedPrograms() { return Machine::StartedPrograms(); }
+std::vector<std::string> Hands::MachineNews() {
+  std::vector<std::string> news;
+  for (const std::string& command_line : Machine::StartedPrograms()) news.push_back("starts " + command_line);
+  for (const Page& page : Machine::PrintedPages()) {
+    const auto rows = RowsOf(page);
+    news.push_back("prints " + std::to_string(rows.size()) + " rows: " + rows.at(1) + " ... " + rows.back());
+  }
+  return news;
+}

@@ -268,4 +268,4 @@ void Hands::Settle() {
   SettlePart();
 }
 
-std::vector<std::string> Hands::StartedPrograms() { return {}; }
+std::vector<std::string> Hands::MachineNews() { return {}; }
