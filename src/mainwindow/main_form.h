@@ -101,7 +101,7 @@ class MainForm : public Form {
   void DescendantItem_Click();
   void MakeReport(int parts, void (*write)(const ReportRequest& request));
 
-  // main_form_help.cpp: the Help menu
+  // main_form_help.cpp
   void ManualItem_Click();
   void FilerHelpItem_Click();
   void AboutItem_Click();
@@ -127,14 +127,12 @@ class MainForm : public Form {
   Button AddPersonButton{*this, IDC_AddPersonButton}, DeleteButton{*this, IDC_DeleteButton};
   Button HelpButton{*this, IDC_HelpButton}, ExitButton{*this, IDC_ExitButton};
   ThingPicker Picker{*this};
-  Label HintLabel{*this, IDC_HintLabel};
+  Label HintLabel{*this, IDC_HintLabel}, PhotoLabel{*this, IDC_PhotoLabel}, CatLabel{*this, IDC_CatLabel};
   TextBox NoteBox{*this, IDC_NoteBox};
   Label FatherLabel{*this, IDC_FatherLabel}, MotherLabel{*this, IDC_MotherLabel};
   DropDownList FatherCombo{*this, IDC_FatherCombo}, MotherCombo{*this, IDC_MotherCombo};
-  Label PhotoLabel{*this, IDC_PhotoLabel};
   Picture PhotoPic{*this, IDC_PhotoPic}, HiddenPic{*this, IDC_HiddenPic};
   Button PhotoButton{*this, IDC_PhotoButton}, DataButton{*this, IDC_DataButton};
-  Label CatLabel{*this, IDC_CatLabel};
   CheckList CatList{*this, IDC_CatList};
   Button DefCatButton{*this, IDC_DefCatButton};
   Label StatusLabel{*this, IDC_StatusLabel}, ModifiedLabel{*this, IDC_ModifiedLabel};

@@ -103,7 +103,7 @@ void SeeInside(const Control& control, const Hands::Sight& sight, Aspects& told)
   }
   if (!ticked.empty()) told[" ticked"] = Joined(ticked);
   if (!sight.Entries.empty()) told[":"] = InLines(sight.Entries);
-  if ((IsA<ListBox, RowList>(control)) && sight.Selected >= 0) {
+  if (IsA<ListBox, RowList>(control) && sight.Selected >= 0) {
     told[""] = Quoted(sight.Entries.at(static_cast<std::size_t>(sight.Selected)));
   }
   const auto* surface = dynamic_cast<const Surface*>(&control);
