@@ -1,18 +1,18 @@
 // Backups and what interrupted saves left: see copies.h.
 #include "document/copies.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <string_view>
 
 #include "document/reader.h"
 #include "mainwindow/file_names.h"
 #include "platform/files.h"
+#include "platform/references.h"
 #include "platform/runtime_error.h"
 
 namespace {
 
-constexpr std::size_t kLongestName = 259;  // what the system takes
+constexpr std::size_t kLongestName = 255;  // what file systems take, without the folder
 constexpr int kLeftovers = 9;              // so many saves that were cut short are looked for
 
 }  // namespace
@@ -24,10 +24,11 @@ std::string BackupName(const std::string& target) {
 
 std::string SavingName(const std::string& target, int number) {
   const std::string suffix = ".saving" + (number == 1 ? "" : std::to_string(number));
-  if (target.size() + suffix.size() <= kLongestName) return target + suffix;
-  // The end of the name gives way; of a name that is shorter than the suffix, all of it.
-  const std::size_t cut = std::min(suffix.size(), target.size() - NameStart(target));
-  return target.substr(0, target.size() - cut) + suffix.substr(suffix.size() - cut);
+  const std::size_t start = NameStart(target);
+  const std::string name = target.substr(start);
+  if (Widen(name).size() + suffix.size() <= kLongestName) return target + suffix;
+  // The end of the name gives way.
+  return target.substr(0, start) + FirstCharacters(name, CountCharacters(name) - suffix.size()) + suffix;
 }
 
 std::string FreeSavingName(const std::string& target) {

@@ -12,6 +12,7 @@
 #include "document/names.h"
 #include "document/text.h"
 #include "platform/locale.h"
+#include "platform/references.h"
 #include "reports/item_list_report.h"
 #include "reports/print_file.h"
 #include "values/evaluator.h"
@@ -55,8 +56,8 @@ class Column {
   }
 
   std::size_t Width() const {
-    std::size_t width = Name.size();
-    for (const std::string& cell : Cells) width = std::max(width, cell.size());
+    std::size_t width = CountCharacters(Name);
+    for (const std::string& cell : Cells) width = std::max(width, CountCharacters(cell));
     return width;
   }
 
@@ -89,11 +90,12 @@ class Table {
  private:
   template <class TextOf>
   void WriteRow(std::string_view name, TextOf text_of) const {
-    std::string line(name.substr(0, kNameWidth));
-    line.resize(kNameWidth, ' ');
+    std::string line = FirstCharacters(name, kNameWidth);
+    line.append(kNameWidth - CountCharacters(line), ' ');
     for (std::size_t index = 0; index < columns_.size(); ++index) {
-      const std::string_view text = TrimRight(text_of(columns_[index]).substr(0, widths_[index]));
-      line.append(2 + widths_[index] - text.size(), ' ').append(text);
+      const std::string cut = FirstCharacters(text_of(columns_[index]), widths_[index]);
+      const std::string_view text = TrimRight(cut);
+      line.append(2 + widths_[index] - CountCharacters(text), ' ').append(text);
     }
     PrintLine({line});
   }

@@ -71,7 +71,7 @@ void ViewerForm::SaveTextItem_Click() {
   const int handle = Files::FreeHandle();
   try {
     Files::Open(handle, name, Files::Mode::Output);
-    Files::Write(handle, view_.Text().Body());
+    Files::Write(handle, view_.Text().TextOf(view_.Text().Body()));
     Files::Close(handle);
   } catch (const RuntimeError& error) {
     Global::Say("Failed to write file " + name + Global::DueToError(error), Icon::Exclamation);

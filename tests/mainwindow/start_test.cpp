@@ -69,9 +69,10 @@ C:/a.b/Home => C:/a.b/Home.BAK | C:\a.b.c => C:\a.b.BAK)T")) {
     EXPECT_EQ(SavingName(name, 1), name + ".saving");
     EXPECT_EQ(SavingName(name, 2), name + ".saving2");
   }
-  const std::string folder = "C:\\" + std::string(243, 'f') + "\\";
-  EXPECT_EQ(SavingName(folder + "Home1.FIL", 1), folder + "Ho.saving");
-  EXPECT_EQ(SavingName(folder + "H.FIL", 12), folder + "ing12");
+  // A name without its folder has at most 255 characters.
+  const std::string folder = "C:\\" + std::string(300, 'f') + "\\", longest = std::string(245, 'n');
+  EXPECT_EQ(SavingName(folder + longest + "&#937;", 12), folder + longest + "&#937;.saving12");
+  EXPECT_EQ(SavingName(folder + longest + "&#937;a", 12), folder + longest.substr(0, 238) + ".saving12");
   EXPECT_TRUE(SameFile("c:/Data\\home.fil", "C:\\DATA/Home.FIL"));
   EXPECT_FALSE(SameFile("C:\\Data\\Home.FIL", "C:\\Data\\Home2.FIL"));
   for (const auto& [given, places] : Rows(R"T(a.jpg, => C:\W\a.jpg

@@ -48,6 +48,12 @@ TEST_F(ThingListTest, PassesTheFilters) {
   for (const auto& [text, places] : Rows("S => 2 0 | SH => 2 0 | \xC9T => 4 0 | sheds => -1 0 | SHED => 2 4")) {
     EXPECT_EQ(std::to_string(FindEntryBeginning(ListThings({}), text)) + " " + std::to_string(FindThing(text)), places);
   }
+  // A name that begins with a reference is listed under no letter, and found by its character only.
+  TheDocument.Things.Writable(2).NAME = "&#937;mega";
+  EXPECT_EQ(Shown(ListThings({"B", 0, 0, false})), "");
+  for (const auto& [text, place] : Rows("&#937;M => 0 | & => -1 | &#93 => -1")) {
+    EXPECT_EQ(std::to_string(FindEntryBeginning(ListThings({}), text)), place) << text;
+  }
   EXPECT_EQ(CategoryBit(0), 0);
   EXPECT_EQ(CategoryBit(31), 1 << 30);
 }

@@ -58,7 +58,7 @@ TEST(ReferencesTest, KeepEveryTextOfAnyPage) {
   for (int round = 0; round < 20000; ++round) {
     std::string text;
     for (auto count = chance() % 9; count > 0; --count) text += pieces[chance() % std::size(pieces)];
-    EXPECT_NO_THROW(RequireReferencesHold(text)) << text;
+    EXPECT_NO_THROW(RequireReferencesHold(text, chance() % 20)) << text;
     EXPECT_NO_THROW(RequireReferencesHold(std::u16string(text.begin(), text.end()))) << text;
     EXPECT_EQ(Narrow(Widen(text, page), page), text);
   }

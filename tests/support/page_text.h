@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/page.h"
+#include "platform/references.h"
 
 // Hits stand in <>, what is selected in []. Rows without text are left out at the end only.
 inline std::vector<std::string> RowsOf(const Page& page, bool marked = false) {
@@ -17,7 +18,7 @@ inline std::vector<std::string> RowsOf(const Page& page, bool marked = false) {
       ends.resize(row + 1);
     }
     if (column > ends[row]) rows[row].append(column - ends[row], ' ');
-    ends[row] = column + run.Text.size();
+    ends[row] = column + CountCharacters(run.Text);
     const bool plain = !marked || run.Style == Ink::Plain;
     const char* const marks = run.Style == Ink::Hit ? "<>" : "[]";
     if (!plain) rows[row] += marks[0];

@@ -22,8 +22,8 @@ std::string JoinedSlots(const FieldSlots& slots);
 std::string Saved(const std::string& name = "Saved.FIL");
 
 // A text that is kept comes back from being shown, one that is shown from being kept, and neither is cut or measured
-// through a reference.
-void RequireReferencesHold(const std::string& text);
+// through a reference: cut there, in bytes or characters.
+void RequireReferencesHold(const std::string& text, std::size_t cut);
 void RequireReferencesHold(const std::u16string& shown);
 
 // Saves the document, and loads and saves it again: nothing is said, and nothing differs.

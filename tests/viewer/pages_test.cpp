@@ -10,6 +10,7 @@
 #include <map>
 #include <sstream>
 
+#include "platform/references.h"
 #include "support/update.h"
 #include "viewer/print_layout.h"
 #include "viewer/report_view.h"
@@ -55,7 +56,7 @@ std::string Seen(const Page& page) {
     int& end = ends[run.At.Row];
     if (run.At.Column < end) row += "(at " + std::to_string(run.At.Column) + ")";
     row.append(static_cast<std::size_t>(std::max(0, run.At.Column - end)), ' ');
-    end = run.At.Column + static_cast<int>(run.Text.size());
+    end = run.At.Column + static_cast<int>(CountCharacters(run.Text));
     const char* const marks[] = {"", "", "<", ">", "[", "]"};
     const int style = 2 * static_cast<int>(run.Style);
     row += marks[style] + run.Text + marks[style + 1];
