@@ -14,7 +14,7 @@ class ListsTest : public ShownFormTest {
 
 TEST_F(ListsTest, EntriesKeepOrderTextAndDataAsManyAsThereCanBeRecords) {
   std::vector<ListEntry> odd = {{"b", 3},           {"a", -1},         {"C", 32767}, {"a", 2147483647},
-                                {"caf\xE9 & b", 0}, {"", -2147483647}, {" x ", 7}};
+                                {"caf\xE9 & b", 0}, {"", -2147483647}, {kFar, 4},    {" x ", 7}};
   std::vector<ListEntry> many;
   for (int number = 32767; number >= 1; --number) many.push_back({"Thing " + std::to_string(number), number});
   for (const auto& [each, name] : lists) {
@@ -129,8 +129,8 @@ TEST_F(ListsTest, ChecksAreTurnedOver) {
   };
   Does([&] { user.Ticks(IDC_TickList, "b"); }, "TickList ItemCheck 0 on, TickList ItemCheck 1 on");
   EXPECT_TRUE(list.Checked(0) && list.Checked(1));
-  Does([&] { list.Fill({"caf\xE9", "x"}); }, "");
-  EXPECT_EQ(list.EntryText(0) + list.EntryText(2), "caf\xE9");
+  Does([&] { list.Fill({"caf\xE9" + kFar, "x"}); }, "");
+  EXPECT_EQ(list.EntryText(0) + list.EntryText(2), "caf\xE9" + kFar);
   EXPECT_EQ(list.Count(), 2);
   EXPECT_EQ(user.SeesTicked(IDC_TickList), Texts{});
   for (const int position : {-1, 0, 1, 2}) EXPECT_FALSE(list.Checked(position)) << position;

@@ -13,7 +13,7 @@ TEST_F(FormTest, PicturesAreKnownByTheirBytesAndWhatFailsLeavesTheBoxEmpty) {
       std::string(24, '\0') + std::string(16, '\x7F');
   const std::pair<const char*, std::string> files[] = {
       {"small.bmp", bitmap},
-      {"small.jpg", bitmap},
+      {"&#26085;.jpg", bitmap},
       {"held.bmp", bitmap},
       {"empty.bmp", ""},
       {"text.bmp", std::string(200, 't')},
@@ -25,7 +25,7 @@ TEST_F(FormTest, PicturesAreKnownByTheirBytesAndWhatFailsLeavesTheBoxEmpty) {
   for (const auto& [name, bytes] : files) TestFiles::Put(name, bytes);
   TestFiles::HoldByOther("held.bmp", true);
   TestFiles::MakeFolder("folder");
-  const std::string full_name = TestFiles::Folder() + "\\small.jpg";
+  const std::string full_name = TestFiles::Folder() + "\\&#26085;.jpg";
   const std::pair<std::string, int> rows[] = {
       {"small.bmp", 0},    {full_name, 0},      {"empty.bmp", 481},         {"text.bmp", 481},
       {"header.bmp", 481}, {"half.bmp", 481},   {"start.bmp", 481},         {"start.jpg", 481},

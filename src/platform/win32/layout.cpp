@@ -1,6 +1,8 @@
 // Arranging controls when their form is resized, and keeping up with other screen resolutions.
 #include "platform/win32/layout.h"
 
+#include <iterator>
+
 #include "platform/form.h"
 
 namespace {
@@ -14,16 +16,16 @@ RECT RectIn(HWND form, HWND control) {
   return rect;
 }
 
-bool HasClass(HWND control, const char* name) {
-  char found[32] = "";
-  GetClassNameA(control, found, sizeof found);
-  return lstrcmpiA(found, name) == 0;
+bool HasClass(HWND control, const wchar_t* name) {
+  wchar_t found[32] = L"";
+  GetClassNameW(control, found, static_cast<int>(std::size(found)));
+  return lstrcmpiW(found, name) == 0;
 }
 
 // The height of a drop-down is to be given with its list.
 LONG DroppedHeight(HWND combo) {
   RECT dropped{};
-  SendMessageA(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
+  SendMessageW(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
   return dropped.bottom - dropped.top;
 }
 
@@ -90,10 +92,10 @@ void Layout::Arrange() const {
     const RECT rect = Target(item, inside);
     const SIZE size = SizeOf(rect);
     LONG height = size.cy;
-    if (HasClass(item.Control, "ComboBox")) {
+    if (HasClass(item.Control, L"ComboBox")) {
       height = DroppedHeight(item.Control);
       Marks mark{item.Control};
-      SendMessageA(item.Control, CB_GETEDITSEL, reinterpret_cast<WPARAM>(&mark.First),
+      SendMessageW(item.Control, CB_GETEDITSEL, reinterpret_cast<WPARAM>(&mark.First),
                    reinterpret_cast<LPARAM>(&mark.Last));
       marks.push_back(mark);
     }
@@ -104,7 +106,7 @@ void Layout::Arrange() const {
   }
   EndDeferWindowPos(moves);
   for (const Marks& mark : marks) {
-    SendMessageA(mark.Combo, CB_SETEDITSEL, 0, MAKELPARAM(mark.First, mark.Last));
+    SendMessageW(mark.Combo, CB_SETEDITSEL, 0, MAKELPARAM(mark.First, mark.Last));
   }
 }
 
