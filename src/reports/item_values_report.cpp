@@ -93,8 +93,10 @@ class Table {
     std::string line = FirstCharacters(name, kNameWidth);
     line.append(kNameWidth - CountCharacters(line), ' ');
     for (std::size_t index = 0; index < columns_.size(); ++index) {
-      const std::string cut = FirstCharacters(text_of(columns_[index]), widths_[index]);
-      const std::string_view text = TrimRight(cut);
+      std::string_view text = text_of(columns_[index]);
+      std::string cut;
+      if (text.size() > widths_[index]) text = cut = FirstCharacters(text, widths_[index]);
+      text = TrimRight(text);
       line.append(2 + widths_[index] - CountCharacters(text), ' ').append(text);
     }
     PrintLine({line});

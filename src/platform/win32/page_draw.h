@@ -35,7 +35,7 @@ struct OnDevice {
 };
 
 // The text of a run, and how far each of its units goes on when `width_of` tells the width of a cell, counted from the
-// run's first: halves of a character lie in one.
+// run's first: the halves of a character lie in one, and the second goes on.
 struct CellText {
   std::wstring Text;
   std::vector<INT> Steps;
@@ -44,7 +44,7 @@ struct CellText {
 template <typename WidthOf>
 CellText InCells(const TextRun& run, WidthOf width_of) {
   CellText cells{Wide(run.Text), {}, 0};
-  for (const wchar_t unit : cells.Text) cells.Steps.push_back(IS_LOW_SURROGATE(unit) ? 0 : width_of(cells.Cells++));
+  for (const wchar_t unit : cells.Text) cells.Steps.push_back(IS_HIGH_SURROGATE(unit) ? 0 : width_of(cells.Cells++));
   return cells;
 }
 
