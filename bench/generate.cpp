@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/writer.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 

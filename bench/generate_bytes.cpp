@@ -1,9 +1,9 @@
 // The bytes of a data file without a disk, on the in-memory platform: see generate.h.
 #include <string>
 
-#include "document/file_handles.h"
 #include "document/writer.h"
 #include "generate.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/headless/machine.h"
 

@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/reader.h"
 #include "document/writer.h"
 #include "generate.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/headless/machine.h"
 #include "values/numbers.h"

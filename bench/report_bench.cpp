@@ -6,8 +6,8 @@
 #include <string>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "generate.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/headless/machine.h"
 #include "reports/hierarchy_report.h"

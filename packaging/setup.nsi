@@ -21,6 +21,7 @@ ManifestDPIAware true
 
 !define NAME "Larkspur Filer"
 !define DOCUMENT "LarkspurFiler.Document"  ; what the registry calls the data files
+!define REPORT "LarkspurFiler.Report"      ; and the reports
 ; All keys are of the user who installs.
 !define CLASSES "Software\Classes"
 !define CURRENT "Software\Microsoft\Windows\CurrentVersion"
@@ -64,7 +65,7 @@ VIAddVersionKey "LegalCopyright" ""
 !insertmacro MUI_PAGE_WELCOME
 !define MUI_PAGE_HEADER_TEXT "Choose What to Install"
 !define MUI_PAGE_HEADER_SUBTEXT "Choose whether ${NAME} opens its data files."
-!define MUI_COMPONENTSPAGE_TEXT_TOP "With the second choice a double click on a data file (.FIL) opens it in ${NAME}. \
+!define MUI_COMPONENTSPAGE_TEXT_TOP "With the second choice a double click on a data file (.FIL) opens it in ${NAME}, and one on a report (.PRN) in its viewer. \
   You may change that later in the settings of Windows."
 !define MUI_COMPONENTSPAGE_TEXT_COMPLIST "To be installed:"
 !define MUI_COMPONENTSPAGE_SMALLDESC
@@ -138,18 +139,22 @@ Function ${UN}CloseRunning
   ${Loop}
 FunctionEnd
 
-; Gives .FIL back to whom it belonged, unless it has gone to another program since.
-Function ${UN}GiveBackExtension
-  ReadRegStr $R1 HKCU "${CLASSES}\.FIL" ""
-  ${If} $R1 == "${DOCUMENT}"
-    ReadRegStr $R1 HKCU "${OWN_KEY}" "FormerOwner"
+; Gives a file type back to whom it belonged, unless it has gone to another program since.
+!macro GiveBack TYPE CLASS FORMER
+  ReadRegStr $R1 HKCU "${CLASSES}\${TYPE}" ""
+  ${If} $R1 == "${CLASS}"
+    ReadRegStr $R1 HKCU "${OWN_KEY}" "${FORMER}"
     ${If} $R1 == ""
-      DeleteRegValue HKCU "${CLASSES}\.FIL" ""
+      DeleteRegValue HKCU "${CLASSES}\${TYPE}" ""
     ${Else}
-      WriteRegStr HKCU "${CLASSES}\.FIL" "" $R1
+      WriteRegStr HKCU "${CLASSES}\${TYPE}" "" $R1
     ${EndIf}
   ${EndIf}
-  DeleteRegValue HKCU "${OWN_KEY}" "FormerOwner"
+  DeleteRegValue HKCU "${OWN_KEY}" "${FORMER}"
+!macroend
+Function ${UN}GiveBackExtensions
+  !insertmacro GiveBack ".FIL" "${DOCUMENT}" "FormerOwner"
+  !insertmacro GiveBack ".PRN" "${REPORT}" "FormerReportOwner"
 FunctionEnd
 
 !macroend
@@ -194,6 +199,11 @@ Section "${NAME}" program
   WriteRegStr HKCU "${CLASSES}\${DOCUMENT}\DefaultIcon" "" '"$INSTDIR\LarkspurFiler.exe",1'
   WriteRegStr HKCU "${CLASSES}\${DOCUMENT}\shell\open\command" "" '${OPEN_COMMAND}'
   WriteRegNone HKCU "${CLASSES}\.FIL\OpenWithProgids" "${DOCUMENT}"
+  ; The reports, which the viewer shows.
+  WriteRegStr HKCU "${CLASSES}\${REPORT}" "" "${NAME} report"
+  WriteRegStr HKCU "${CLASSES}\${REPORT}\DefaultIcon" "" '"$INSTDIR\LARKVIEW.EXE",0'
+  WriteRegStr HKCU "${CLASSES}\${REPORT}\shell\open\command" "" '"$INSTDIR\LARKVIEW.EXE" "%1"'
+  WriteRegNone HKCU "${CLASSES}\.PRN\OpenWithProgids" "${REPORT}"
   WriteRegStr HKCU "${CLASSES}\Applications\LarkspurFiler.exe" "FriendlyAppName" "${NAME}"
   WriteRegStr HKCU "${CLASSES}\Applications\LarkspurFiler.exe\shell\open\command" "" '${OPEN_COMMAND}'
   WriteRegStr HKCU "${CLASSES}\Applications\LarkspurFiler.exe\SupportedTypes" ".FIL" ""
@@ -201,6 +211,7 @@ Section "${NAME}" program
   WriteRegStr HKCU "${OWN_KEY}\Capabilities" "ApplicationName" "${NAME}"
   WriteRegStr HKCU "${OWN_KEY}\Capabilities" "ApplicationDescription" "Keeps a list of things in a plain text file"
   WriteRegStr HKCU "${OWN_KEY}\Capabilities\FileAssociations" ".FIL" "${DOCUMENT}"
+  WriteRegStr HKCU "${OWN_KEY}\Capabilities\FileAssociations" ".PRN" "${REPORT}"
   WriteRegStr HKCU "Software\RegisteredApplications" "${NAME}" "${OWN_KEY}\Capabilities"
 
   WriteRegStr HKCU "${APP_PATH}" "" "$INSTDIR\LarkspurFiler.exe"
@@ -217,23 +228,27 @@ Section "${NAME}" program
   WriteRegDWORD HKCU "${UNINSTALL}" "NoRepair" 1
 SectionEnd
 
-Section "Open .FIL files by double click" opens_files
-  ReadRegStr $R0 HKCU "${CLASSES}\.FIL" ""
-  ${If} $R0 != "${DOCUMENT}"
-    WriteRegStr HKCU "${OWN_KEY}" "FormerOwner" $R0
-    WriteRegStr HKCU "${CLASSES}\.FIL" "" "${DOCUMENT}"
+!macro Take TYPE CLASS FORMER
+  ReadRegStr $R0 HKCU "${CLASSES}\${TYPE}" ""
+  ${If} $R0 != "${CLASS}"
+    WriteRegStr HKCU "${OWN_KEY}" "${FORMER}" $R0
+    WriteRegStr HKCU "${CLASSES}\${TYPE}" "" "${CLASS}"
   ${EndIf}
+!macroend
+Section "Open .FIL and .PRN files by double click" opens_files
+  !insertmacro Take ".FIL" "${DOCUMENT}" "FormerOwner"
+  !insertmacro Take ".PRN" "${REPORT}" "FormerReportOwner"
 SectionEnd
 
 Section "-Associations"
   ${IfNot} ${SectionIsSelected} ${opens_files}
-    Call GiveBackExtension
+    Call GiveBackExtensions
   ${EndIf}
   ${NotifyShell_AssocChanged}
 SectionEnd
 
 LangString program_help ${LANG_ENGLISH} "The program, the viewer of its reports, the manual and a sample."
-LangString opens_files_help ${LANG_ENGLISH} "A double click on a .FIL file opens it. Without this the program is only \
+LangString opens_files_help ${LANG_ENGLISH} "A double click on a data file (.FIL) or a report (.PRN) opens it. Without this the programs are only \
   offered under $\"Open with$\"."
 !insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
   !insertmacro MUI_DESCRIPTION_TEXT ${program} $(program_help)
@@ -289,11 +304,15 @@ Section "Uninstall"
   Delete "$INSTDIR\Uninstall.exe"
   RMDir "$INSTDIR"
   RMDir "${SETTINGS}"
-  Call un.GiveBackExtension
+  Call un.GiveBackExtensions
   DeleteRegValue HKCU "${CLASSES}\.FIL\OpenWithProgids" "${DOCUMENT}"
+  DeleteRegValue HKCU "${CLASSES}\.PRN\OpenWithProgids" "${REPORT}"
   DeleteRegKey /ifempty HKCU "${CLASSES}\.FIL\OpenWithProgids"
   DeleteRegKey /ifempty HKCU "${CLASSES}\.FIL"
+  DeleteRegKey /ifempty HKCU "${CLASSES}\.PRN\OpenWithProgids"
+  DeleteRegKey /ifempty HKCU "${CLASSES}\.PRN"
   DeleteRegKey HKCU "${CLASSES}\${DOCUMENT}"
+  DeleteRegKey HKCU "${CLASSES}\${REPORT}"
   DeleteRegKey HKCU "${CLASSES}\Applications\LarkspurFiler.exe"
   DeleteRegValue HKCU "Software\RegisteredApplications" "${NAME}"
   DeleteRegKey HKCU "${OWN_KEY}"

@@ -10,10 +10,11 @@
 
 #include "../generate.h"
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/writer.h"
 #include "mainwindow/main_form.h"
+#include "mainwindow/main_ids.h"
 #include "mainwindow/thing_list.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/win32/internals.h"
 #include "platform/win32/wide.h"

@@ -9,16 +9,6 @@
 
 Document TheDocument;
 
-std::string_view FieldValueSlot::Keyword() const {
-  const auto colon = Text.find(':');
-  return colon == std::string::npos ? std::string_view() : std::string_view(Text).substr(0, colon);
-}
-
-std::string_view FieldValueSlot::Value() const {
-  const auto colon = Text.find(':');
-  return colon == std::string::npos ? std::string_view() : std::string_view(Text).substr(colon + 1);
-}
-
 std::size_t CategoryNameTable::Index(int number) {
   assert(number >= 1 && number <= kCategories);
   return static_cast<std::size_t>(number - 1);
@@ -40,6 +30,7 @@ void MakeNew() {
   document.Writable = true;
   document.PendingEdits = false;
   document.CurrentThing = 0;
+  document.Visited.Clear();
   document.DocumentOpen = false;
   document.FileName.clear();
   document.ShownFileName.clear();

@@ -7,21 +7,10 @@
 #include <string>
 #include <string_view>
 
+#include "document/field_slots.h"
 #include "document/record_table.h"
+#include "document/trail.h"
 
-// A thing's value of one user-defined field: keyword, ":", value ("PRICE:12.50"); empty when unused.
-// The value may hold further colons.
-struct FieldValueSlot {
-  std::string Text;
-
-  // The text before the first ":"; empty without one, or when it comes first.
-  std::string_view Keyword() const;
-  // The text after the first ":"; empty without one.
-  std::string_view Value() const;
-  bool operator==(const FieldValueSlot&) const = default;
-};
-
-inline constexpr int kFieldValues = 10;
 inline constexpr int kCategories = 32;
 
 struct ThingRecord {
@@ -32,7 +21,7 @@ struct ThingRecord {
   std::int16_t XREF2 = 0;
   std::int32_t CATBITMAP = 0;              // category k is bit k - 1: category 32 is the sign bit
   mutable std::int16_t HierarchyMark = 0;  // working mark of the hierarchy report, never saved
-  std::array<FieldValueSlot, kFieldValues> Values;
+  FieldSlots Values;
   bool operator==(const ThingRecord&) const = default;
 };
 
@@ -77,6 +66,7 @@ struct Document {
   std::string FileName;       // the name to save to; empty for a new document
   std::string ShownFileName;  // the same name, as shown
   int CurrentThing = 0;       // record number of the thing shown, 0 for none
+  Trail Visited;              // the things that were the current one
   bool Modified = false;      // kept by the history: set by every change, cleared by a save
   bool Writable = true;       // the file may be written in place
   bool LockHeld = false;      // other programs are kept from writing the file

@@ -89,7 +89,7 @@ void FactForm::ShowField() {
 }
 
 void FactForm::ShowValue() {
-  shown_ = field_ == 0 ? std::string() : ValueOf(working_, TheDocument.Fields[field_].Keyword);
+  shown_ = field_ == 0 ? std::string_view() : ValueOf(working_, TheDocument.Fields[field_].Keyword);
   DataBox.SetText(shown_);
 }
 
@@ -217,7 +217,7 @@ void FactForm::DeleteFieldItem_Click() {
     return;
   }
   const std::string question = DeleteFieldQuestion(number);
-  if (!question.empty() && !Global::Ask(question, Buttons::OkCancel)) return;
+  if (!question.empty() && !Global::AskBeforeLoss(question, Buttons::OkCancel)) return;
   DeleteField(number, working_);
   if (number == field_) field_ = 0;
   if (number < field_) --field_;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "document/fact_ids.h"
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"

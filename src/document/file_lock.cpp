@@ -1,10 +1,11 @@
 // The lock on the document's file: see file_lock.h.
 #include "document/file_lock.h"
 
+#include <exception>
+
 #include "document/document.h"
-#include "document/file_handles.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
-#include "platform/runtime_error.h"
 #include "shell/messages.h"
 
 void RetakeFileLock(const std::string& file_name) {
@@ -12,7 +13,7 @@ void RetakeFileLock(const std::string& file_name) {
   try {
     Files::Open(kLockHandle, file_name, Files::Mode::Lock);
     TheDocument.LockHeld = true;
-  } catch (const RuntimeError&) {
+  } catch (const std::exception&) {
     TheDocument.LockHeld = false;
   }
 }
@@ -32,7 +33,7 @@ void ReleaseFileLock() {
   TheDocument.LockHeld = false;
   try {
     Files::Close(kLockHandle);
-  } catch (const RuntimeError&) {
+  } catch (const std::exception&) {
     // Nothing was written through it that could be lost.
   }
 }

@@ -31,15 +31,30 @@ std::vector<LinkPlace> LinksTo(int record) {
   return places;
 }
 
-// Gives every link of every thing the number that `renumber` returns for it.
-template <class Renumber>
-void RenumberLinks(Renumber renumber) {
+// What becomes of record numbers when a thing comes (From is 0), goes (To is 0) or moves. A damaged file may have left
+// links at the last number, which stay there when a thing comes, since there is no number behind.
+struct Renumbering {
+  int From;
+  int To;
+
+  int operator()(int number) const {
+    if (From != 0 && number == From) return To;
+    const bool closes_up = From != 0 && number > From && (To == 0 || number <= To);
+    const bool makes_room = To != 0 && number >= To && number < (From == 0 ? kLastRecord : From);
+    return number - (closes_up ? 1 : 0) + (makes_room ? 1 : 0);
+  }
+};
+
+// Everything that holds a thing's number follows.
+void Follow(Renumbering renumber) {
   auto& things = TheDocument.Things;
   for (int record = 1; record <= things.Count(); ++record) {
     ThingRecord& thing = things.Writable(record);
-    thing.XREF1 = static_cast<std::int16_t>(renumber(int{thing.XREF1}));
-    thing.XREF2 = static_cast<std::int16_t>(renumber(int{thing.XREF2}));
+    thing.XREF1 = static_cast<std::int16_t>(renumber(thing.XREF1));
+    thing.XREF2 = static_cast<std::int16_t>(renumber(thing.XREF2));
   }
+  TheDocument.CurrentThing = renumber(TheDocument.CurrentThing);
+  TheDocument.Visited.Follow(renumber);
 }
 
 // Moves a record to another number, and those between by one.
@@ -113,7 +128,7 @@ struct Coming {
 };
 
 // A thing that came or went. Renumbering alone cannot bring all links back: those to a thing that went are 0, and
-// those that a damaged file left at the last number stay there when a thing comes, since there is no number behind.
+// those at the last number were there before.
 struct ThingComing {
   int Number;
   bool Came;
@@ -125,13 +140,13 @@ struct ThingComing {
     RecordTable<ThingRecord>& things = TheDocument.Things;
     if (IsThere) {
       TakeOut(things, Number, Kept);
-      RenumberLinks([this](int link) { return link == Number ? 0 : link > Number ? link - 1 : link; });
+      Follow({Number, 0});
       if (Came) Restore(kLastRecord);
     } else {
       PutIn(things, Number, Kept);
       const ThingRecord& back = things[Number];
       const std::int16_t links[] = {back.XREF1, back.XREF2};
-      RenumberLinks([this](int link) { return link >= Number && link < kLastRecord ? link + 1 : link; });
+      Follow({0, Number});
       // Its own links are those of before.
       if (!Came) {
         things.Writable(Number).XREF1 = links[0];
@@ -153,11 +168,7 @@ struct ThingMove {
 
   void Turn() noexcept {
     Rotate(TheDocument.Things, From, To);
-    RenumberLinks([this](int link) {
-      if (link == From) return To;
-      if (link > From && link <= To) return link - 1;
-      return link >= To && link < From ? link + 1 : link;
-    });
+    Follow({From, To});
     std::swap(From, To);
   }
   bool IsSame() const { return From == To; }

@@ -31,8 +31,8 @@ class Step {
   std::string& CategoryName(int number);
 
   // Makes room for an empty record of that number, takes one out, or has one go to another number. The records between
-  // move, and every link follows the thing it points at; a link to a thing that goes becomes 0. The table must have
-  // less than 32767 records to insert one.
+  // move, and every link and the current thing's number follow the thing they point at; those to one that goes become
+  // 0. The table must have less than 32767 records to insert one.
   void InsertThing(int record);
   void RemoveThing(int record);
   void MoveThing(int from, int to);

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "document/text.h"
+#include "platform/text.h"
 
 std::string JoinWordsWithUnderscores(std::string_view text) {
   std::string joined(Trim(text));

@@ -3,16 +3,11 @@
 
 #include <utility>
 
-#include "resource.h"
 #include "shell/help.h"
 #include "shell/messages.h"
 
 PickListForm::PickListForm(const std::string& caption, std::vector<ListEntry> entries)
-    : Form(IDD_PickListForm),
-      PickList(*this, IDC_PickList),
-      OKButton(*this, IDC_OKButton),
-      CancelButton(*this, IDC_CancelButton),
-      entries_(std::move(entries)) {
+    : Form(IDD_PickListForm), entries_(std::move(entries)) {
   SetCaption(caption);
   PickList.DoubleClick = [this] { OKButton_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };

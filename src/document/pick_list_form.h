@@ -4,9 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "document/fact_ids.h"
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
+#include "resource.h"
 
 class PickListForm : public Form {
  public:
@@ -14,9 +16,9 @@ class PickListForm : public Form {
   int Picked = 0;  // the chosen entry's data after O.K., otherwise 0
 
  private:
-  ListBox PickList;
-  Button OKButton;
-  Button CancelButton;
+  ListBox PickList{*this, IDC_PickList};
+  Button OKButton{*this, IDC_OKButton};
+  Button CancelButton{*this, IDC_CancelButton};
 
   void Form_Load() override;
   void OKButton_Click();

@@ -5,14 +5,14 @@
 #include <optional>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/file_lock.h"
 #include "document/names.h"
 #include "document/segments.h"
-#include "document/text.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/program.h"
+#include "platform/text.h"
 #include "shell/messages.h"
 #include "values/numbers.h"
 
@@ -152,13 +152,7 @@ bool StoreFieldValue(ThingRecord& thing, int record, std::string_view key, const
         Icon::Exclamation);
     return false;
   }
-  std::string& slot = thing.Values[static_cast<std::size_t>(values - 1)].Text;
-  const std::string_view value = Trim(assignment.Value);
-  slot.clear();
-  slot.reserve(keyword.size() + 1 + value.size());
-  slot += keyword;
-  slot += ':';
-  slot += value;
+  thing.Values[static_cast<std::size_t>(values - 1)].Set(keyword, Trim(assignment.Value));
   return true;
 }
 

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "document/text.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/program.h"
 #include "platform/runtime_error.h"
+#include "platform/text.h"
 #include "shell/messages.h"
 #include "values/numbers.h"
 

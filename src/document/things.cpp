@@ -1,6 +1,7 @@
 // Finding, adding, deleting and renaming things: see things.h.
 #include "document/things.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 
@@ -63,7 +64,6 @@ int InsertThing(std::string_view name) {
   const int place = PlaceOf(name, 0);
   step.InsertThing(place);
   step.Thing(place).NAME = name;
-  if (TheDocument.CurrentThing >= place) ++TheDocument.CurrentThing;
   return place;
 }
 
@@ -80,9 +80,9 @@ int AddThing(std::string_view name) {
 
 void DeleteThing(int record) {
   Step step(Titled("Delete", record));
+  const bool is_current = TheDocument.CurrentThing == record;
   step.RemoveThing(record);
-  int& current = TheDocument.CurrentThing;
-  if (current > record || current > TheDocument.Things.Count()) --current;
+  if (is_current) TheDocument.CurrentThing = std::min(record, TheDocument.Things.Count());  // the one behind it
 }
 
 int RenameThing(int record, std::string_view name) {
@@ -136,7 +136,7 @@ void SetPhoto(int record, const std::string& file_name) {
   step.Thing(record).PICFILENAME = file_name;
 }
 
-void SetValues(int record, const std::array<FieldValueSlot, kFieldValues>& values) {
+void SetValues(int record, const FieldSlots& values) {
   Step step(Titled("Change Values of", record));
   step.Thing(record).Values = values;
 }

@@ -47,6 +47,6 @@ void TickAll(const std::vector<int>& records, int category, bool on);
 // An empty name takes the photo away.
 void SetPhoto(int record, const std::string& file_name);
 
-void SetValues(int record, const std::array<FieldValueSlot, kFieldValues>& values);
+void SetValues(int record, const FieldSlots& values);
 
 void SetCategoryNames(const CategoryNameTable& names);

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "document/document.h"
-#include "document/text.h"
 #include "platform/files.h"
+#include "platform/text.h"
 
 namespace {
 
@@ -186,9 +186,7 @@ void WriteThing(LineWriter& out, int number) {
   for (const FieldValueSlot& slot : thing.Values) {
     if (slot.Text.empty()) continue;
     const std::string_view keyword = slot.Keyword();
-    if (keyword.empty()) continue;
-    const std::string_view value = std::string_view(slot.Text).substr(keyword.size() + 1);
-    out.Plain("%").Escaped(keyword).Plain("=").EndLine(value);
+    if (!keyword.empty()) out.Plain("%").Escaped(keyword).Plain("=").EndLine(slot.Value());
   }
 }
 

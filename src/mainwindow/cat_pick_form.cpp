@@ -6,15 +6,10 @@
 #include <vector>
 
 #include "mainwindow/thing_list.h"
-#include "resource.h"
 #include "shell/help.h"
 
 CatPickForm::CatPickForm(int selected_category, const Control* below_label)
-    : Form(IDD_CatPickForm),
-      SelectedCategory(selected_category),
-      CategoryList(*this, IDC_CategoryList),
-      OKButton(*this, IDC_OKButton),
-      CancelButton(*this, IDC_CancelButton) {
+    : Form(IDD_CatPickForm), SelectedCategory(selected_category) {
   CategoryList.DoubleClick = [this] { OKButton_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };
   CancelButton.Click = [this] { Close(); };

@@ -1,9 +1,11 @@
 // CatPickForm: the choice of the category that the thing list is narrowed to.
 #pragma once
 
+#include "mainwindow/main_ids.h"
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
+#include "resource.h"
 
 class CatPickForm : public Form {
  public:
@@ -13,9 +15,9 @@ class CatPickForm : public Form {
   int SelectedCategory;  // in, and out after O.K.: 1..32, 0 for all categories
 
  private:
-  ListBox CategoryList;
-  Button OKButton;
-  Button CancelButton;
+  ListBox CategoryList{*this, IDC_CategoryList};
+  Button OKButton{*this, IDC_OKButton};
+  Button CancelButton{*this, IDC_CancelButton};
 
   void Form_Load() override;
   void OKButton_Click();

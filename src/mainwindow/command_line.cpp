@@ -3,11 +3,9 @@
 
 #include <algorithm>
 
-#include "document/text.h"
 #include "platform/locale.h"
+#include "platform/text.h"
 #include "shell/messages.h"
-
-StartOptions TheStart;
 
 namespace {
 

@@ -10,10 +10,18 @@
 #include "document/things.h"
 #include "mainwindow/address_titles.h"
 #include "mainwindow/command_line.h"
-#include "mainwindow/file_names.h"
+#include "mainwindow/main_ids.h"
 #include "mainwindow/settings.h"
+#include "platform/registry.h"
 #include "resource.h"
+#include "shell/file_names.h"
 #include "shell/messages.h"
+
+namespace {
+
+constexpr std::size_t kLongestInCaption = 64;  // characters; a window of the usual width shows what follows as well
+
+}  // namespace
 
 std::span<const Command<MainForm>> MainForm::Commands() {
   using F = MainForm;
@@ -25,9 +33,13 @@ std::span<const Command<MainForm>> MainForm::Commands() {
       {IDC_NewItem, &F::NewButton, &F::NewItem_Click},
       {IDC_OpenItem, nullptr, &F::OpenItem_Click},
       {IDC_SaveItem, &F::SaveButton, &F::SaveItem_Click},
+      {IDC_RecentItem, nullptr, &F::RecentItem_Click, nullptr, nullptr, true, kRecentFiles},
       {IDC_ExitItem, nullptr, &F::ExitItem_Click},
       {IDC_UndoItem, nullptr, &F::UndoItem_Click, &F::CanUndo, &F::UndoText, false},
       {IDC_RedoItem, nullptr, &F::RedoItem_Click, &F::CanRedo, &F::RedoText, false},
+      {IDC_FindItem, nullptr, &F::Have<&F::Finder, &ThingFinder::FindItem_Click>},
+      {IDC_FindNextItem, nullptr, &F::Have<&F::Finder, &ThingFinder::FindNextItem_Click>},
+      {IDC_FindPreviousItem, nullptr, &F::Have<&F::Finder, &ThingFinder::FindPreviousItem_Click>},
       {IDC_AddPersonItem, &F::AddPersonButton, &F::AddPersonItem_Click},
       kNotStoring(IDC_DeletePersonItem, &F::DeletePersonItem_Click, &F::DeleteButton),
       {IDC_RenameItem, nullptr, &F::RenameItem_Click},
@@ -36,12 +48,21 @@ std::span<const Command<MainForm>> MainForm::Commands() {
       {IDC_DataItem, &F::DataButton, &F::DataButton_Click},
       {IDC_DefCatItem, &F::DefCatButton, &F::DefCatButton_Click},
       {IDC_TickAllItem, nullptr, &F::TickAllItem_Click, &F::CanTickAll},
-      kNotStoring(IDC_AllNamesItem, &F::AllNamesItem_Click),
-      kNotStoring(IDC_StartingLetterItem, &F::StartingLetterItem_Click),
-      kNotStoring(IDC_AllCategoryItem, &F::AllCategoryItem_Click),
-      kNotStoring(IDC_SelCategoryItem, &F::SelCategoryItem_Click),
-      kNotStoring(IDC_GivenNameItem, &F::GivenNameItem_Click),
-      kNotStoring(IDC_SurnameOrderItem, &F::SurnameOrderItem_Click),
+      kNotStoring(IDC_AllNamesItem, &F::Have<&F::Picker, &ThingPicker::AllNamesItem_Click>),
+      kNotStoring(IDC_StartingLetterItem, &F::Have<&F::Picker, &ThingPicker::StartingLetterItem_Click>),
+      kNotStoring(IDC_AllCategoryItem, &F::Have<&F::Picker, &ThingPicker::AllCategoryItem_Click>),
+      kNotStoring(IDC_SelCategoryItem, &F::Have<&F::Picker, &ThingPicker::SelCategoryItem_Click>),
+      kNotStoring(IDC_GivenNameItem, &F::Have<&F::Picker, &ThingPicker::GivenNameItem_Click>),
+      kNotStoring(IDC_SurnameOrderItem, &F::Have<&F::Picker, &ThingPicker::SurnameOrderItem_Click>),
+      {IDC_GoXRef1Item, nullptr, &F::Have<&F::Finder, &ThingFinder::GoXRef1Item_Click>,
+       &F::CanFind<&ThingFinder::CanGoXRef1>},
+      {IDC_GoXRef2Item, nullptr, &F::Have<&F::Finder, &ThingFinder::GoXRef2Item_Click>,
+       &F::CanFind<&ThingFinder::CanGoXRef2>},
+      {IDC_LinksHereItem, nullptr, &F::Have<&F::Finder, &ThingFinder::LinksHereItem_Click>,
+       &F::CanFind<&ThingFinder::HasLinksHere>},
+      {IDC_BackItem, nullptr, &F::Have<&F::Finder, &ThingFinder::BackItem_Click>, &F::CanFind<&ThingFinder::CanGoBack>},
+      {IDC_ForwardItem, nullptr, &F::Have<&F::Finder, &ThingFinder::ForwardItem_Click>,
+       &F::CanFind<&ThingFinder::CanGoForward>},
       kNotStoring(IDC_AddressRepItem, &F::AddressRepItem_Click),
       kNotStoring(IDC_ItemValuesItem, &F::ItemValuesItem_Click),
       kNotStoring(IDC_DescendantItem, &F::DescendantItem_Click),
@@ -80,9 +101,17 @@ void MainForm::WireEvents() {
   commands_.After = [this] { RefreshFrame(); };
   OpenButton.Click = [this] { OpenButton_Click(); };
   ExitButton.Click = [this] { ExitButton_Click(); };
+  KeyDown = [this](Key key) { return Picker.KeyDown(key); };
   EnterKey = [this] { Picker.EnterKey(); };
   EscapeKey = [this] { Picker.EscapeKey(); };
   HelpKey = [this] { commands_.Run(IDC_ManualItem); };
+  MayDrop = [this](const std::string& file) {
+    return IsDataFile(file) || (CurrentRecord() != nullptr && IsPicture(file));
+  };
+  Drop = [this](const std::string& file) {
+    DropFile(file);
+    RefreshFrame();
+  };
   Picker.StoreEdits = [this] { StoreEdits(); };
   Picker.Picked = [this] {
     DisplayThing();
@@ -93,7 +122,8 @@ void MainForm::WireEvents() {
   Picker.Typed = [this] { RefreshFrame(); };
   NoteBox.Change = On(&MainForm::NoteBox_Change);
   NoteBox.LostFocus = [this] { Later(On(&MainForm::NoteBox_LostFocus)); };
-  FatherCombo.Click = MotherCombo.Click = On(&MainForm::LinkCombo_Click);
+  FatherCombo.Click = On(&MainForm::FatherCombo_Click);
+  MotherCombo.Click = On(&MainForm::MotherCombo_Click);
   PhotoPic.DoubleClick = On(&MainForm::PhotoPic_DoubleClick);
   CatList.ItemCheck = [this](int position) {
     CatList_ItemCheck(position);
@@ -103,31 +133,41 @@ void MainForm::WireEvents() {
 
 void MainForm::RefreshFrame() {
   const Document& document = TheDocument;
+  const bool modified = document.Modified || document.PendingEdits;
   std::string caption = Global::ProgramTitle;
-  if (!document.ShownFileName.empty()) caption += " - " + document.ShownFileName;
+  if (!document.ShownFileName.empty()) caption += " - " + ShortenedName(document.ShownFileName, kLongestInCaption);
   if (!document.Writable) caption += " (read only)";
-  if (document.Modified || document.PendingEdits) caption += " *";
+  if (modified) caption += " *";
   if (caption != Caption()) SetCaption(caption);
+  StatusLabel.SetText(Picker.Summary() + (document.Writable ? "" : " - read only"));
+  ModifiedLabel.SetText(modified ? "Modified" : "");
   commands_.Refresh();
 }
 
-// The note and the lists grow with the window; the photo keeps its corner.
+// The note, the photo and the category list share what the window gets larger; the letters spread over its width.
 void MainForm::AnchorControls() {
-  for (Control* control :
-       std::initializer_list<Control*>{&HelpButton, &ExitButton, &Picker.CategoryFilterLabel, &PhotoLabel, &PhotoPic,
-                                       &PhotoButton, &DataButton, &CatLabel}) {
-    Anchor(*control, kEdgeTop | kEdgeRight);
-  }
-  Anchor(Picker.PersonCombo, kEdgeLeft | kEdgeTop | kEdgeRight);
-  Anchor(HintLabel, kEdgeLeft | kEdgeTop | kEdgeRight);
-  Anchor(NoteBox, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
-  for (Control* control : std::initializer_list<Control*>{&FatherCombo, &MotherCombo}) {
-    Anchor(*control, kEdgeLeft | kEdgeRight | kEdgeBottom);
-  }
-  Anchor(FatherLabel, kEdgeLeft | kEdgeBottom);
-  Anchor(MotherLabel, kEdgeLeft | kEdgeBottom);
-  Anchor(CatList, kEdgeTop | kEdgeRight | kEdgeBottom);
-  Anchor(DefCatButton, kEdgeRight | kEdgeBottom);
+  constexpr int kNote = 60;   // percent of the width
+  constexpr int kPhoto = 60;  // percent of the height
+  constexpr int kHalf = (kNote + 100) / 2;
+  const auto anchor = [this](const Follow& follow, std::initializer_list<Control*> controls) {
+    for (Control* control : controls) Anchor(*control, follow);
+  };
+  Picker.Spread([this](Label& tab, int left, int right) { Anchor(tab, {left, 0, right, 0}); });
+  anchor({100, 0, 100, 0}, {&HelpButton, &ExitButton});
+  anchor({0, 0, kNote, 0}, {&Picker.PersonCombo, &HintLabel});
+  anchor({0, 0, kNote, 100}, {&NoteBox});
+  anchor({0, 100, 0, 100}, {&FatherLabel, &MotherLabel});
+  anchor({0, 100, kNote, 100}, {&FatherCombo, &MotherCombo});
+  anchor({kNote, 0, 100, 0}, {&Picker.CategoryFilterLabel, &PhotoLabel});
+  anchor({kNote, 0, 100, kPhoto}, {&PhotoPic});
+  anchor({kNote, kPhoto, kHalf, kPhoto}, {&PhotoButton});
+  anchor({kHalf, kPhoto, 100, kPhoto}, {&DataButton});
+  anchor({kNote, kPhoto, 100, kPhoto}, {&CatLabel});
+  anchor({kNote, kPhoto, 100, 100}, {&CatList});
+  anchor({kNote, 100, 100, 100}, {&DefCatButton});
+  anchor({0, 100, 100, 100}, {&StatusLabel});
+  anchor({100, 100, 100, 100}, {&ModifiedLabel});
+  MayShrink(60);
 }
 
 void MainForm::Form_Load() {
@@ -143,11 +183,13 @@ void MainForm::Form_Load() {
   PhotoButton.SetBackColor(DataButton.BackColor());
   HiddenPic.SetVisible(false);
   AnchorControls();
+  SetPlace(Remembered("MainForm"));
   HintLabel.SetText(
       "There are no things yet.\r\n\r\nChoose Edit, Add Thing to add the first one, or File, Open to open a file.");
   MakeNew();
   TheStart = command_line_.empty() ? StartOptions{} : ParseCommandLine(command_line_);
   LoadSettings();
+  ShowRecentFiles();
   TheDocument.Writable = true;
   if (!TheStart.StartFile.empty()) {
     LoadDocument(Global::FullFileName(TheStart.WorkingFolder, TheStart.StartFile), TheStart.StartFile);

@@ -7,6 +7,7 @@
 #include "document/history.h"
 #include "mainwindow/flag_scope.h"
 #include "mainwindow/main_ids.h"
+#include "mainwindow/thing_finder.h"
 #include "mainwindow/thing_picker.h"
 #include "platform/controls.h"
 #include "platform/form.h"
@@ -21,10 +22,8 @@ class MainForm : public Form {
   // The command line: see command_line.h. It is read, and the file it names loaded, when the form is shown.
   explicit MainForm(std::string command_line);
   ~MainForm() override;
-
   // Shows the window and runs the program's events until the user leaves.
   void Run();
-
   // Clears the document and everything the window shows of it.
   void MakeNew();
   // Turns each line break of a text into "?" and says so; true when there was one.
@@ -40,6 +39,7 @@ class MainForm : public Form {
   void Form_Load() override;
   void Form_Activate() override;
   void Form_QueryUnload(bool& cancel, UnloadMode mode) override;
+  void Form_Unload() override;
   Event On(void (MainForm::*handler)());
   void WireEvents();
   void AnchorControls();
@@ -48,11 +48,15 @@ class MainForm : public Form {
 
   // main_form_file.cpp: the File menu
   void NewItem_Click();
-  void OpenItem_Click();
+  void OpenItem_Click() { OpenFile({}); }
+  void RecentItem_Click();
   void SaveItem_Click();
   void ExitItem_Click();
   void OpenButton_Click() { commands_.Run(IDC_OpenItem); }
   void ExitButton_Click() { commands_.Run(IDC_ExitItem); }
+  void OpenFile(const std::string& chosen);
+  void DropFile(const std::string& name);
+  void ShowRecentFiles();
   bool MayAbandon();
   bool KeepUnasked();
   bool MayExit();
@@ -74,19 +78,22 @@ class MainForm : public Form {
   void DeletePersonItem_Click();
   void RenameItem_Click();
   void PhotoButton_Click();
+  void UsePhoto(const std::string& name);
   void RemovePhotoItem_Click();
   void DataButton_Click();
   void DefCatButton_Click();
   void TickAllItem_Click();
   bool CanTickAll() const;
 
-  // thing_picker.cpp: the View menu
-  void AllNamesItem_Click() { Picker.AllNamesItem_Click(); }
-  void StartingLetterItem_Click() { Picker.StartingLetterItem_Click(); }
-  void AllCategoryItem_Click() { Picker.AllCategoryItem_Click(); }
-  void SelCategoryItem_Click() { Picker.SelCategoryItem_Click(); }
-  void GivenNameItem_Click() { Picker.GivenNameItem_Click(); }
-  void SurnameOrderItem_Click() { Picker.SurnameOrderItem_Click(); }
+  // thing_picker.cpp, thing_finder.cpp: the View menu and finding
+  template <auto Part, auto Handler>
+  void Have() {
+    ((this->*Part).*Handler)();
+  }
+  template <bool (ThingFinder::*Can)() const>
+  bool CanFind() const {
+    return (Finder.*Can)();
+  }
 
   // main_form_report.cpp: the Report menu
   void AddressRepItem_Click();
@@ -111,32 +118,28 @@ class MainForm : public Form {
   void FillCategoryList();
   void NoteBox_Change();
   void NoteBox_LostFocus();
-  void LinkCombo_Click();
+  void FatherCombo_Click() { LinkChosen(); }
+  void MotherCombo_Click() { LinkChosen(); }
+  void LinkChosen();
   void CatList_ItemCheck(int position);
 
-  Button NewButton{*this, IDC_NewButton};
-  Button OpenButton{*this, IDC_OpenButton};
-  Button SaveButton{*this, IDC_SaveButton};
-  Button AddPersonButton{*this, IDC_AddPersonButton};
-  Button DeleteButton{*this, IDC_DeleteButton};
-  Button HelpButton{*this, IDC_HelpButton};
-  Button ExitButton{*this, IDC_ExitButton};
+  Button NewButton{*this, IDC_NewButton}, OpenButton{*this, IDC_OpenButton}, SaveButton{*this, IDC_SaveButton};
+  Button AddPersonButton{*this, IDC_AddPersonButton}, DeleteButton{*this, IDC_DeleteButton};
+  Button HelpButton{*this, IDC_HelpButton}, ExitButton{*this, IDC_ExitButton};
   ThingPicker Picker{*this};
   Label HintLabel{*this, IDC_HintLabel};
   TextBox NoteBox{*this, IDC_NoteBox};
-  Label FatherLabel{*this, IDC_FatherLabel};
-  Label MotherLabel{*this, IDC_MotherLabel};
-  DropDownList FatherCombo{*this, IDC_FatherCombo};
-  DropDownList MotherCombo{*this, IDC_MotherCombo};
+  Label FatherLabel{*this, IDC_FatherLabel}, MotherLabel{*this, IDC_MotherLabel};
+  DropDownList FatherCombo{*this, IDC_FatherCombo}, MotherCombo{*this, IDC_MotherCombo};
   Label PhotoLabel{*this, IDC_PhotoLabel};
-  Picture PhotoPic{*this, IDC_PhotoPic};
-  Picture HiddenPic{*this, IDC_HiddenPic};
-  Button PhotoButton{*this, IDC_PhotoButton};
-  Button DataButton{*this, IDC_DataButton};
+  Picture PhotoPic{*this, IDC_PhotoPic}, HiddenPic{*this, IDC_HiddenPic};
+  Button PhotoButton{*this, IDC_PhotoButton}, DataButton{*this, IDC_DataButton};
   Label CatLabel{*this, IDC_CatLabel};
   CheckList CatList{*this, IDC_CatList};
   Button DefCatButton{*this, IDC_DefCatButton};
+  Label StatusLabel{*this, IDC_StatusLabel}, ModifiedLabel{*this, IDC_ModifiedLabel};
 
+  ThingFinder Finder{Picker, FatherCombo, MotherCombo};
   std::string command_line_;
   CommandTable<MainForm> commands_{*this, Commands()};
   std::string rescue_name_;  // the rescue copy that goes when the Exit question is answered

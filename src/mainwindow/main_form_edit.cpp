@@ -1,6 +1,5 @@
 // MainForm's Edit menu: adding, deleting and renaming things, their photo, and the categories.
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "document/document.h"
@@ -9,23 +8,12 @@
 #include "document/names.h"
 #include "document/things.h"
 #include "mainwindow/cat_def_form.h"
-#include "mainwindow/command_line.h"
 #include "mainwindow/main_form.h"
-#include "mainwindow/settings.h"
 #include "mainwindow/tick_all_form.h"
 #include "platform/message.h"
 #include "shell/file_form.h"
 #include "shell/messages.h"
-
-namespace {
-
-// Recently saved documents are no photos: the dialog is not to offer them.
-struct NoRecentFiles {
-  const int Count = std::exchange(TheRecentFiles.Count, 0);
-  ~NoRecentFiles() { TheRecentFiles.Count = Count; }
-};
-
-}  // namespace
+#include "shell/start_options.h"
 
 void MainForm::AddPersonItem_Click() {
   const std::string name = NormaliseName(InputBox("Please type the name for the new object.", Global::ProgramTitle));
@@ -88,13 +76,16 @@ void MainForm::PhotoButton_Click() {
   request.Folder = TheStart.WorkingFolder;
   request.Pattern = "*.JPG";
   request.Name = thing->PICFILENAME;
+  request.OffersRecent = false;  // saved documents are no photos
   {
-    const NoRecentFiles none;
     const FlagScope scope(dialog_open_);
     FileForm(request).ShowModal();
   }
-  if (request.Name.empty()) return;
-  SetPhoto(TheDocument.CurrentThing, request.Name);
+  if (!request.Name.empty()) UsePhoto(request.Name);
+}
+
+void MainForm::UsePhoto(const std::string& name) {
+  SetPhoto(TheDocument.CurrentThing, name);
   Redisplay();
 }
 

@@ -7,4 +7,6 @@ void MainForm::ManualItem_Click() { Global::ShowHelpPage(HelpPages::kManual); }
 
 void MainForm::FilerHelpItem_Click() { Global::ShowHelpPage(HelpPages::kFiler); }
 
-void MainForm::AboutItem_Click() { AboutForm("Keeps a list of things, with links, photos and values.").ShowModal(); }
+void MainForm::AboutItem_Click() {
+  AboutForm("Keeps a list of things, with links, photos and values.", HelpPages::kFiler).ShowModal();
+}

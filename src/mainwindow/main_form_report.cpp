@@ -4,6 +4,7 @@
 #include "platform/process.h"
 #include "platform/program.h"
 #include "platform/runtime_error.h"
+#include "platform/text.h"
 #include "reports/hierarchy_report.h"
 #include "reports/item_list_report.h"
 #include "reports/item_values_report.h"

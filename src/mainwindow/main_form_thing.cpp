@@ -4,14 +4,14 @@
 #include <vector>
 
 #include "document/document.h"
-#include "document/text.h"
 #include "document/things.h"
-#include "mainwindow/command_line.h"
-#include "mainwindow/file_names.h"
 #include "mainwindow/main_form.h"
 #include "platform/files.h"
+#include "platform/text.h"
+#include "shell/file_names.h"
 #include "shell/launch.h"
 #include "shell/messages.h"
+#include "shell/start_options.h"
 #include "values/numbers.h"
 
 const ThingRecord* MainForm::CurrentRecord() const {
@@ -96,6 +96,7 @@ int LinkPosition(int link) {
 void MainForm::DisplayThing() {
   const FlagScope scope(displaying_);
   const ThingRecord* thing = CurrentRecord();
+  if (thing != nullptr) TheDocument.Visited.Visit(TheDocument.CurrentThing);
   const bool empty = TheDocument.Things.Count() == 0;
   NoteBox.SetVisible(!empty);
   HintLabel.SetVisible(empty);
@@ -184,7 +185,7 @@ void MainForm::NoteBox_LostFocus() {
   NoteBox.SetText(note);
 }
 
-void MainForm::LinkCombo_Click() {
+void MainForm::LinkChosen() {
   if (!displaying_) TheDocument.PendingEdits = true;
 }
 

@@ -2,18 +2,18 @@
 #include "mainwindow/settings.h"
 
 #include <algorithm>
+#include <new>
 
-#include "document/file_handles.h"
 #include "document/segments.h"
-#include "document/text.h"
-#include "mainwindow/command_line.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/program.h"
+#include "platform/text.h"
 #include "shell/messages.h"
+#include "shell/replace_file.h"
+#include "shell/start_options.h"
 #include "values/numbers.h"
-
-RecentFileList TheRecentFiles;
 
 std::string SettingsFileName() {
   const std::string& folder = TheStart.SettingsFolder;
@@ -44,7 +44,6 @@ void ReadSettingsSections() {
   while (!segment.empty()) {
     if (UpperCase(segment) != "[TOP10FILES]") {
       Global::Say("TORVANE.INI contains invalid record type: " + segment, Icon::Critical);
-      Files::Close(kSettingsHandle);
       EndProgram();
     }
     segment = ReadRecentFilesSection();
@@ -67,7 +66,7 @@ std::string EscapeName(const std::string& name) {
 void LoadSettings() {
   TheRecentFiles = {};
   try {
-    Files::Open(kSettingsHandle, SettingsFileName(), Files::Mode::Input);
+    const Files::OpenFile file(kSettingsHandle, SettingsFileName(), Files::Mode::Input);
     if (AcceptsHeader(ReadHeader())) {
       ReadSettingsSections();
     } else {
@@ -77,7 +76,6 @@ void LoadSettings() {
     // The list is a convenience: without the file the program starts with none.
   }
   StartSegments(0);
-  Files::Close(kSettingsHandle);
 }
 
 std::string ReadRecentFilesSection() {
@@ -97,41 +95,46 @@ std::string ReadRecentFilesSection() {
   return std::string(assignment.Segment);
 }
 
+namespace {
+
+void WriteSettings(int handle) {
+  Files::WriteLine(handle, "TORVANE V5.0 INI");
+  if (TheRecentFiles.Count > 0) Files::WriteLine(handle, "[TOP10FILES]");
+  for (int position = 1; position <= TheRecentFiles.Count; ++position) {
+    Files::WriteLine(handle, "*" + std::to_string(position) + "; NAME=" + EscapeName(TheRecentFiles[position]));
+  }
+}
+
+void SayNotSaved(const RuntimeError& error) {
+  Global::Say("Failed to save optional info to " + SettingsFileName() + Global::DueToError(error), Icon::Exclamation);
+}
+
+void PutFirst(std::string file_name) {
+  RecentFileList& list = TheRecentFiles;
+  const std::string wanted = UpperCase(file_name);
+  int place = list.Count;
+  while (place > 0 && UpperCase(list[place]) != wanted) --place;
+  if (place == 1) return;
+  if (place == 0) place = list.Count = std::min(list.Count + 1, kRecentFiles);
+  for (; place > 1; --place) list[place].swap(list[place - 1]);
+  list[1].swap(file_name);
+}
+
+}  // namespace
+
 void SaveSettings() {
-  const std::string name = SettingsFileName();
   try {
-    Files::Open(kSettingsHandle, name, Files::Mode::Output);
-    Files::WriteLine(kSettingsHandle, "TORVANE V5.0 INI");
-    if (TheRecentFiles.Count > 0) Files::WriteLine(kSettingsHandle, "[TOP10FILES]");
-    for (int position = 1; position <= TheRecentFiles.Count; ++position) {
-      Files::WriteLine(kSettingsHandle,
-                       "*" + std::to_string(position) + "; NAME=" + EscapeName(TheRecentFiles[position]));
-    }
-    Files::Close(kSettingsHandle);
+    ReplaceFile(kSettingsHandle, SettingsFileName(), WriteSettings);
   } catch (const RuntimeError& error) {
-    try {
-      Files::Close(kSettingsHandle);
-    } catch (const RuntimeError&) {
-      // The first failure is the one to report.
-    }
-    Global::Say("Failed to save optional info to " + name + Global::DueToError(error), Icon::Exclamation);
+    SayNotSaved(error);
   }
 }
 
 void RememberRecentFile(const std::string& file_name) {
-  RecentFileList& list = TheRecentFiles;
-  const std::string wanted = UpperCase(file_name);
-  int place = 0;
-  for (int position = 1; position <= list.Count; ++position) {
-    if (UpperCase(list[position]) == wanted) place = position;
+  try {
+    PutFirst(file_name);
+    SaveSettings();
+  } catch (const std::bad_alloc&) {
+    SayNotSaved(RuntimeError(kOutOfMemory));
   }
-  if (place != 1) {
-    if (place == 0) {
-      list.Count = std::min(list.Count + 1, kRecentFiles);
-      place = list.Count;
-    }
-    for (int position = place; position > 1; --position) list[position] = list[position - 1];
-    list[1] = file_name;
-  }
-  SaveSettings();
 }

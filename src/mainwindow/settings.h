@@ -5,21 +5,9 @@
 //   *N; NAME=full file name              for each position, in the record syntax of segments.h
 #pragma once
 
-#include <array>
 #include <string>
 
-inline constexpr int kRecentFiles = 10;
-
-// The files saved last, the latest at position 1.
-struct RecentFileList {
-  int Count = 0;
-  std::string& operator[](int position) { return names_.at(static_cast<std::size_t>(position - 1)); }
-
- private:
-  std::array<std::string, kRecentFiles> names_;
-};
-
-extern RecentFileList TheRecentFiles;
+#include "shell/recent_files.h"
 
 // Where the settings file is: in the settings folder of the command line (the separator before the name
 // is doubled, which the system reads as one), else in the current folder.
@@ -34,7 +22,7 @@ void LoadSettings();
 // at a key other than NAME.
 std::string ReadRecentFilesSection();
 
-// Writes the settings file; a failure is said, and the list stays.
+// Writes the settings file anew; a failure is said, and list and file stay.
 void SaveSettings();
 
 // Puts a saved file at position 1 of the list, where it was already in it from there, and writes the

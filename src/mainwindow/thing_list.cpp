@@ -24,6 +24,15 @@ std::vector<ListEntry> ListThings(const ThingListView& view) {
   return entries;
 }
 
+std::string ListSummary(const ThingListView& view, int listed) {
+  const int things = TheDocument.Things.Count();
+  std::string summary = listed == things ? "" : std::to_string(listed) + " of ";
+  summary += std::to_string(things) + (things == 1 ? " thing" : " things");
+  if (view.SelectedCategory != 0) summary += " - " + TheDocument.CategoryNames[view.SelectedCategory];
+  if (!view.StartingLetter.empty()) summary += " - letter " + view.StartingLetter;
+  return summary;
+}
+
 std::vector<ListEntry> ListLinks(bool noun_order) {
   const auto& things = TheDocument.Things;
   std::vector<ListEntry> entries;
@@ -44,6 +53,31 @@ bool AreLinks(const std::vector<ListEntry>& entries, bool noun_order) {
     if (noun_order ? text != TurnName(name) : text != name) return false;
   }
   return true;
+}
+
+namespace {
+
+bool LinksTo(const ThingRecord& thing, int record) { return thing.XREF1 == record || thing.XREF2 == record; }
+
+}  // namespace
+
+bool HasLinksTo(int record) {
+  const auto& things = TheDocument.Things;
+  int from = 1;
+  while (from <= things.Count() && !LinksTo(things[from], record)) ++from;
+  return record != 0 && from <= things.Count();
+}
+
+std::vector<ListEntry> ListLinksTo(int record, bool noun_order) {
+  const auto& things = TheDocument.Things;
+  std::vector<ListEntry> entries;
+  for (int from = 1; from <= things.Count(); ++from) {
+    const ThingRecord& thing = things[from];
+    if (!LinksTo(thing, record)) continue;
+    const char* which = thing.XREF1 != record ? " (XRef 2)" : thing.XREF2 != record ? " (XRef 1)" : " (XRef 1 and 2)";
+    entries.push_back({ShownName(thing, noun_order) + which, from});
+  }
+  return entries;
 }
 
 std::vector<ListEntry> CategoryEntries() {

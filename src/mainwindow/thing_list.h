@@ -25,11 +25,18 @@ std::string ShownName(const ThingRecord& thing, bool noun_order);
 // Things without a name are left out.
 std::vector<ListEntry> ListThings(const ThingListView& view);
 
+// What the view shows, in a line: "20 of 64 things - Furniture - letter B".
+std::string ListSummary(const ThingListView& view, int listed);
+
 // An empty entry with data 0 and then every thing, so that record i stands at position i.
 std::vector<ListEntry> ListLinks(bool noun_order);
 
 // True when the entries are what ListLinks gives: found out without making them anew, since they seldom change.
 bool AreLinks(const std::vector<ListEntry>& entries, bool noun_order);
+
+// True when a link leads to a thing; and those things, each with which of its links does.
+bool HasLinksTo(int record);
+std::vector<ListEntry> ListLinksTo(int record, bool noun_order);
 
 // The categories that have a name, each entry's data being the number.
 std::vector<ListEntry> CategoryEntries();

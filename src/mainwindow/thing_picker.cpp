@@ -11,6 +11,12 @@
 #include "platform/message.h"
 #include "platform/program.h"
 
+namespace {
+
+constexpr int kTabs = kLetters + 1;  // All comes first
+
+}  // namespace
+
 ThingPicker::ThingPicker(Form& owner)
     : AllLabel(owner, IDC_AllLabel),
       LetterLabel(owner, IDC_LetterLabel),
@@ -35,6 +41,13 @@ ThingPicker::ThingPicker(Form& owner)
   PersonCombo.Change = [this] { PersonCombo_Change(); };
   PersonCombo.GotFocus = [this] { PersonCombo_GotFocus(); };
   PersonCombo.LostFocus = [this] { PersonCombo_LostFocus(); };
+}
+
+std::string ThingPicker::Summary() const { return ListSummary(view_, static_cast<int>(PersonCombo.Entries().size())); }
+
+void ThingPicker::Spread(const std::function<void(Label& tab, int left, int right)>& place) {
+  const auto edge = [](int tab) { return 100 * tab / kTabs; };
+  for (int tab = 0; tab < kTabs; ++tab) place(TabAt(tab), edge(tab), edge(tab + 1));
 }
 
 void ThingPicker::Reset() {
@@ -65,21 +78,17 @@ void ThingPicker::GoTo(int record) {
 namespace {
 
 void ShowTab(Label& tab, bool chosen) {
+  tab.SetTabStop(chosen);
   tab.SetBold(chosen);
   tab.SetBorder(!chosen);
 }
 
 }  // namespace
 
-Label& ThingPicker::TabOf(const std::string& letter) {
-  return letter.empty() ? AllLabel : LetterLabel[letter.front() - 'A'];
-}
-
 // The letter of the view has another tab than the one that is shown as chosen.
 void ThingPicker::ShowTabs() {
-  const Label& chosen = TabOf(view_.StartingLetter);
-  ShowTab(AllLabel, &AllLabel == &chosen);
-  for (Label& tab : LetterLabel) ShowTab(tab, &tab == &chosen);
+  const int chosen = PlaceOf(view_.StartingLetter);
+  for (int tab = 0; tab < kTabs; ++tab) ShowTab(TabAt(tab), tab == chosen);
   owner_.SetMenuChecked(IDC_AllNamesItem, view_.StartingLetter.empty());
   owner_.SetMenuChecked(IDC_StartingLetterItem, !view_.StartingLetter.empty());
 }
@@ -204,7 +213,34 @@ void ThingPicker::LeaveThingList() {
   }
 }
 
+// The place of the tab that has the focus, or -1.
+int ThingPicker::FocusedTab() {
+  for (int tab = 0; tab < kTabs; ++tab) {
+    if (TabAt(tab).HasFocus()) return tab;
+  }
+  return -1;
+}
+
+bool ThingPicker::KeyDown(Key key) {
+  const int from = FocusedTab();
+  if (from < 0) return false;
+  int to = from;
+  if (key == Key::Space) TabAt(from).Click();
+  if (key == Key::Left || key == Key::Up) --to;
+  if (key == Key::Right || key == Key::Down) ++to;
+  if (key == Key::Home) to = 0;
+  if (key == Key::End) to = kTabs - 1;
+  to = std::clamp(to, 0, kTabs - 1);
+  if (to != from) {
+    TabAt(to).SetTabStop(true);
+    TabAt(from).SetTabStop(false);
+    TabAt(to).SetFocus();
+  }
+  return true;
+}
+
 void ThingPicker::EnterKey() {
+  if (const int tab = FocusedTab(); tab >= 0) TabAt(tab).Click();
   if (PersonCombo.HasFocus()) LeaveThingList();
 }
 

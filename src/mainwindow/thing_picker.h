@@ -1,15 +1,16 @@
 // The main window's way to a thing: the thing list, the letter tabs, the category filter and the name order.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
+#include "mainwindow/main_ids.h"
 #include "mainwindow/thing_list.h"
 #include "platform/control_array.h"
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
-#include "resource.h"
 
 class ThingPicker {
  public:
@@ -35,7 +36,13 @@ class ThingPicker {
   // Takes notice of the categories' names, one of which may be gone.
   void CategoriesRenamed();
   bool NounOrder() const { return view_.NounOrder; }
+  // What is listed, in a line.
+  std::string Summary() const;
+  // Tells of each tab where it begins and ends, in percent of the width of all.
+  void Spread(const std::function<void(Label& tab, int left, int right)>& place);
 
+  // The letter tabs are one stop of the Tab key: arrow keys go from one to the next, Space and Enter choose.
+  bool KeyDown(Key key);
   void EnterKey();
   void EscapeKey();
   void AllNamesItem_Click();
@@ -68,7 +75,9 @@ class ThingPicker {
   void ShowNameOrder();
   void ShowTabs();
   void RestoreShownName();
-  Label& TabOf(const std::string& letter);
+  Label& TabAt(int place) { return place == 0 ? AllLabel : LetterLabel[place - 1]; }
+  int PlaceOf(const std::string& letter) const { return letter.empty() ? 0 : letter.front() - 'A' + 1; }
+  int FocusedTab();
 
   Form& owner_;
   ThingListView view_;

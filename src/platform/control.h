@@ -63,7 +63,8 @@ class Control {
     CheckList,
     Picture,
     Frame,
-    Surface
+    Surface,
+    RowList
   };
 
   // Binds to the template's control of that id; a missing one is a fault of the program and ends it.

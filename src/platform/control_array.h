@@ -15,7 +15,9 @@ class ControlArray {
 
   Kind& operator[](int index) { return items_.at(static_cast<std::size_t>(index)); }
   auto begin() { return items_.begin(); }
+  auto begin() const { return items_.begin(); }
   auto end() { return items_.end(); }
+  auto end() const { return items_.end(); }
 
  private:
   template <int... kIndexes>

@@ -7,6 +7,9 @@
 class Label : public Control {
  public:
   Label(Form& owner, int id) : Control(owner, id, Kind::Label) {}
+  void SetTabStop(
+      bool stop);  // whether it can have the focus, which a label cannot unless said; its form takes the keys
+  bool TabStop() const;
   void SetBorder(bool border);  // a single line around it
   bool Border() const;
   Event Click;

@@ -1,7 +1,7 @@
 // The owner of an open file, which is the same on both platforms: see files.h.
 #include "platform/files.h"
 
-#include "platform/runtime_error.h"
+#include <exception>
 
 Files::OpenFile::OpenFile(int handle, const std::string& name, Mode mode) : handle_(handle) {
   Open(handle, name, mode);
@@ -10,7 +10,7 @@ Files::OpenFile::OpenFile(int handle, const std::string& name, Mode mode) : hand
 Files::OpenFile::~OpenFile() {
   try {
     Close(handle_);
-  } catch (const RuntimeError&) {
+  } catch (const std::exception&) {
     // Whoever wanted to know has called Finish.
   }
 }

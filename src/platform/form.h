@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/control.h"
 
@@ -13,10 +14,16 @@
 enum class UnloadMode { ControlMenu, Code, WindowsShutdown };
 
 // Keys that a form can be told of. Help is F1.
-enum class Key { Enter, Escape, Left, Right, Up, Down, PageUp, PageDown, Home, End, Help };
+enum class Key { Enter, Escape, Left, Right, Up, Down, PageUp, PageDown, Home, End, Help, Space };
 
-// The edges of the form that a control keeps its distance to when the form is resized.
-enum Edges : unsigned { kEdgeLeft = 1, kEdgeTop = 2, kEdgeRight = 4, kEdgeBottom = 8 };
+// How far the sides of a control go when the form grows: in percent of what the form gets wider (Left, Right) and
+// higher (Top, Bottom).
+struct Follow {
+  int Left = 0;
+  int Top = 0;
+  int Right = 0;
+  int Bottom = 0;
+};
 
 class Form {
  public:
@@ -51,6 +58,12 @@ class Form {
   void Close();
   bool Closed() const;
 
+  // Where the window stands, as a text to keep, and to give to a form that is not shown yet: it then appears there, as
+  // far as the screens of today have room. For forms that can be resized; otherwise, and for any other text, nothing
+  // comes of it.
+  std::string Place() const;
+  void SetPlace(std::string_view place);
+
   std::string Caption() const;
   void SetCaption(std::string_view caption);
 
@@ -69,8 +82,17 @@ class Form {
   void SetMenuText(int id, std::string_view text);  // "&" and tab as in a template; the template's own comes first
   std::string MenuText(int id) const;               // as set last, empty before
 
+  // Puts entries with the ids first, first + 1, ... above the entry `before`, and a separator behind them, in place of
+  // those that the last call put there.
+  void SetMenuEntries(int first, int before, const std::vector<std::string>& texts);
+
   // The entry or accelerator was chosen; only enabled entries are told of.
   std::function<void(int id)> MenuClick;
+
+  // One file, by its full name, is dragged over the form, which no other form covers: whether it may be dropped, which
+  // the pointer shows; and it was dropped there, as with Later. Several at once never may, nor may anything else.
+  std::function<bool(const std::string& file)> MayDrop;
+  std::function<void(const std::string& file)> Drop;
 
   // Enter or Esc was pressed and the form has no button with id 1 or 2 to take it.
   Event EnterKey;
@@ -90,9 +112,11 @@ class Form {
   virtual void Form_QueryUnload(bool& /*cancel*/, UnloadMode /*mode*/) {}
   virtual void Form_Unload() {}
 
-  // Says how a control follows the form's size (left and top unless said). A form with at least one
-  // such control can be resized, but never below its template's size.
-  void Anchor(Control& control, unsigned edges);
+  // Says how a control follows the form's size; the others stay where they are. A form with at least one such control
+  // can be resized, but never below its template's size, or `units` (dialog units) lower where MayShrink says so. It
+  // opens no larger than the screen has room.
+  void Anchor(Control& control, const Follow& follow);
+  void MayShrink(int units);
 
   // Takes out of the form what lies between the tops of two controls: `next` and all that stands at its height or
   // below moves up to where `first` is, and the form gets lower by as much. For rows whose controls are hidden,

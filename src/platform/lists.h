@@ -65,3 +65,20 @@ class CheckList : public Control {
   void SetChecked(int position, bool checked);  // raises ItemCheck when it differs
   std::function<void(int position)> ItemCheck;
 };
+
+// A list of rows in columns, of which it asks for what it shows only: as many as there can be take no time.
+class RowList : public Control {
+ public:
+  struct Column {
+    std::string Title;
+    int Percent;  // of the list's width
+  };
+  RowList(Form& owner, int id) : Control(owner, id, Kind::RowList) {}
+  void SetColumns(const std::vector<Column>& columns);  // once
+  std::function<std::string(int row, int column)> CellText;
+  void SetRows(int count);  // asks anew for all that is shown, from the first row on; none is selected
+  int Rows() const;
+  int Selected() const;  // -1 for none
+  void Select(int row);  // and brings it into view; -1 selects nothing
+  Event DoubleClick;     // on a row, which is then selected
+};

@@ -1,4 +1,4 @@
-// The system's registry, as far as the program reads it: keys below two roots, and the texts of their values.
+// The system's registry: keys below two roots and the texts of their values, and what the programs keep there.
 #pragma once
 
 #include <cstddef>
@@ -42,3 +42,9 @@ class RegistryKey {
  private:
   std::unique_ptr<Peer> peer_;
 };
+
+// What the programs remember from one run to the next: texts by name, in a key of their own below the user's root.
+// Nothing is promised: what cannot be remembered is forgotten, and what is not there is empty.
+inline constexpr const char* kOwnKey = "Software\\Larkspur Filer";
+void Remember(const std::string& name, const std::string& text);
+std::string Remembered(const std::string& name);

@@ -7,8 +7,8 @@
 
 #include "document/document.h"
 #include "document/names.h"
-#include "document/text.h"
 #include "platform/references.h"
+#include "platform/text.h"
 #include "reports/print_file.h"
 #include "values/evaluator.h"
 #include "values/templates.h"
@@ -20,10 +20,8 @@ constexpr int kWidth = 75;
 void WriteValues(const ThingRecord& thing) {
   for (const FieldValueSlot& slot : thing.Values) {
     if (slot.Text.empty()) continue;
-    std::string text = slot.Text;
-    const auto colon = text.find(':');
-    if (colon != std::string::npos && colon > 0) text.insert(colon + 1, 1, ' ');
-    WriteWrapped(text, kWidth);
+    const std::string keyword(slot.Keyword());
+    WriteWrapped(keyword.empty() ? slot.Text : keyword + ": " + std::string(slot.Value()), kWidth);
   }
 }
 

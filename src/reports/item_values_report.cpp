@@ -10,9 +10,9 @@
 #include "document/document.h"
 #include "document/fact_values.h"
 #include "document/names.h"
-#include "document/text.h"
 #include "platform/locale.h"
 #include "platform/references.h"
+#include "platform/text.h"
 #include "reports/item_list_report.h"
 #include "reports/print_file.h"
 #include "values/evaluator.h"
@@ -25,6 +25,9 @@ namespace {
 // As the header's "L=31" tells the viewer.
 constexpr std::size_t kNameWidth = 31;
 
+// A column is as wide as its title, so that no two are cut to the same words, but for long ones.
+constexpr std::size_t kWholeTitle = 16;
+
 // A column: how its values are shown, and what they come to.
 class Column {
  public:
@@ -36,7 +39,7 @@ class Column {
   std::vector<std::string> Cells;
 
   // The next thing's value; one that is no number is shown, but does not count.
-  void Add(const std::string& stored) {
+  void Add(std::string_view stored) {
     Cells.push_back(Shown(stored));
     const auto number = StoredNumber(stored, separator_);
     if (!number) return;
@@ -56,13 +59,13 @@ class Column {
   }
 
   std::size_t Width() const {
-    std::size_t width = CountCharacters(Name);
+    std::size_t width = std::max(CountCharacters(Name), std::min(CountCharacters(Title), kWholeTitle));
     for (const std::string& cell : Cells) width = std::max(width, CountCharacters(cell));
     return width;
   }
 
  private:
-  std::string Shown(const std::string& stored) const { return FormatValue(stored, type_, format_); }
+  std::string Shown(std::string_view stored) const { return FormatValue(stored, type_, format_); }
 
   std::string type_;
   std::string format_;

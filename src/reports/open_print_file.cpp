@@ -1,18 +1,15 @@
 // Opening a print file: see open_print_file.h.
 #include "reports/open_print_file.h"
 
-#include <utility>
-
-#include "document/file_handles.h"
-#include "mainwindow/command_line.h"
-#include "mainwindow/file_names.h"
-#include "mainwindow/settings.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/program.h"
 #include "platform/runtime_error.h"
 #include "shell/file_form.h"
+#include "shell/file_names.h"
 #include "shell/messages.h"
+#include "shell/start_options.h"
 
 namespace Global {
 
@@ -24,10 +21,8 @@ std::string AskForName(const std::string& default_name) {
   request.Folder = PrintFileFolder();
   request.Pattern = "*.PRN";
   request.Name = request.Folder + default_name;
-  // Recently saved documents are the last files to be overwritten by a report.
-  const int recent = std::exchange(TheRecentFiles.Count, 0);
+  request.OffersRecent = false;  // saved documents are the last files to be overwritten by a report
   FileForm(request).ShowModal();
-  TheRecentFiles.Count = recent;
   return request.Name;
 }
 
@@ -41,14 +36,13 @@ bool IsOverwrittenUnasked(const std::string& name) {
 // True when there is no such file, or the user agrees to overwrite it.
 bool MayOverwrite(const std::string& full_name) {
   try {
-    Files::Open(kPrintFileHandle, full_name, Files::Mode::Input);
-    Files::Close(kPrintFileHandle);
+    const Files::OpenFile probe(kPrintFileHandle, full_name, Files::Mode::Input);
   } catch (const RuntimeError& error) {
     if (error.Number == kFileNotFound) return true;
     Say("Can't test for presence of output file" + DueToError(error), Icon::Exclamation);
     return false;
   }
-  return Ask(
+  return AskBeforeLoss(
       "You are about to overwrite an existing file that is neither a print file nor a temporary file (not of type "
       ".PRN or .TMP). Are you wure you want to do that?",
       Buttons::OkCancel);

@@ -4,9 +4,10 @@
 #include <cstddef>
 #include <string>
 
-#include "document/file_handles.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/runtime_error.h"
+#include "platform/text.h"
 #include "shell/messages.h"
 #include "values/number_store.h"
 #include "values/numbers.h"

@@ -6,9 +6,8 @@
 
 #include "document/document.h"
 #include "document/names.h"
-#include "document/text.h"
+#include "platform/text.h"
 #include "reports/open_print_file.h"
-#include "resource.h"
 #include "shell/file_form.h"
 #include "shell/help.h"
 #include "shell/messages.h"
@@ -34,21 +33,7 @@ std::vector<int> TickedNumbers(const CheckList& list, const std::vector<int>& nu
 
 }  // namespace
 
-ReportForm::ReportForm(ReportRequest& request)
-    : Form(IDD_ReportForm),
-      PersonLabel(*this, IDC_PersonLabel),
-      PersonCombo(*this, IDC_PersonCombo),
-      CatFrame(*this, IDC_CatFrame),
-      AllCatOption(*this, IDC_AllCatOption),
-      SelCatOption(*this, IDC_SelCatOption),
-      CatList(*this, IDC_CatList),
-      FieldFrame(*this, IDC_FieldFrame),
-      FieldList(*this, IDC_FieldList),
-      PrintFileBox(*this, IDC_PrintFileBox),
-      BrowseButton(*this, IDC_BrowseButton),
-      OKButton(*this, IDC_OKButton),
-      CancelButton(*this, IDC_CancelButton),
-      request_(request) {
+ReportForm::ReportForm(ReportRequest& request) : Form(IDD_ReportForm), request_(request) {
   AllCatOption.Click = [this] { AllCatOption_Click(); };
   SelCatOption.Click = [this] { SelCatOption_Click(); };
   BrowseButton.Click = [this] { BrowseButton_Click(); };

@@ -8,6 +8,8 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
+#include "reports/report_ids.h"
+#include "resource.h"
 
 // The parts of the form that a report has a use for, one bit each.
 enum ReportParts : int { kTopOfHierarchy = 1, kReportCategories = 2, kNumericFields = 4 };
@@ -27,18 +29,18 @@ class ReportForm : public Form {
   explicit ReportForm(ReportRequest& request);
 
  private:
-  Label PersonLabel;
-  DropDownList PersonCombo;
-  Frame CatFrame;
-  OptionButton AllCatOption;
-  OptionButton SelCatOption;
-  CheckList CatList;
-  Frame FieldFrame;
-  CheckList FieldList;
-  TextBox PrintFileBox;
-  Button BrowseButton;
-  Button OKButton;
-  Button CancelButton;
+  Label PersonLabel{*this, IDC_PersonLabel};
+  DropDownList PersonCombo{*this, IDC_PersonCombo};
+  Frame CatFrame{*this, IDC_CatFrame};
+  OptionButton AllCatOption{*this, IDC_AllCatOption};
+  OptionButton SelCatOption{*this, IDC_SelCatOption};
+  CheckList CatList{*this, IDC_CatList};
+  Frame FieldFrame{*this, IDC_FieldFrame};
+  CheckList FieldList{*this, IDC_FieldList};
+  TextBox PrintFileBox{*this, IDC_PrintFileBox};
+  Button BrowseButton{*this, IDC_BrowseButton};
+  Button OKButton{*this, IDC_OKButton};
+  Button CancelButton{*this, IDC_CancelButton};
 
   void Form_Load() override;
   void AllCatOption_Click();

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "document/text.h"
+#include "platform/text.h"
 
 namespace {
 

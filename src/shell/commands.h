@@ -18,6 +18,7 @@ struct Command {
   bool (F::*Enabled)() const = nullptr;      // null: always
   std::string (F::*Text)() const = nullptr;  // what the entry says; null: what the template says
   bool Stores = true;                        // what is being edited is stored before the handler runs
+  int Entries = 1;                           // so many menu entries, from Item on; the handler asks which
 };
 
 // Runs the commands of a form from its menu and its buttons.
@@ -37,9 +38,14 @@ class CommandTable {
 
   void Run(int id) {
     for (const Command<F>& command : commands_) {
-      if (command.Item == id) Run(command);
+      if (id < command.Item || id >= command.Item + command.Entries) continue;
+      chosen_ = id - command.Item;
+      Run(command);
     }
   }
+
+  // Which of a command's entries was chosen, from 0.
+  int Chosen() const { return chosen_; }
 
   // Brings the entries and buttons in line with what can be done now.
   void Refresh() {
@@ -61,5 +67,6 @@ class CommandTable {
   }
 
   F& form_;
+  int chosen_ = 0;
   std::span<const Command<F>> commands_;
 };

@@ -2,12 +2,11 @@
 #include "shell/date_pick_form.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <string_view>
 
 #include "platform/program.h"
-#include "resource.h"
-#include "shell/date_pick_ids.h"
 #include "shell/help.h"
 #include "shell/messages.h"
 
@@ -33,20 +32,9 @@ std::string InWords(CalendarDate date) {
 }  // namespace
 
 DatePickForm::DatePickForm(CalendarDate date)
-    : Form(IDD_DatePickForm),
-      MonthCombo(*this, IDC_MonthCombo),
-      YearBox(*this, IDC_YearBox),
-      PreviousButton(*this, IDC_PreviousButton),
-      NextButton(*this, IDC_NextButton),
-      DateLabel(*this, IDC_DateLabel),
-      TodayButton(*this, IDC_TodayButton),
-      OKButton(*this, IDC_OKButton),
-      CancelButton(*this, IDC_CancelButton),
-      date_(WithinCalendar(date)),
-      before_typing_(date_) {
+    : Form(IDD_DatePickForm), date_(WithinCalendar(date)), before_typing_(date_) {
   for (int cell = 0; cell < kSheetDays; ++cell) {
-    DayButton[static_cast<std::size_t>(cell)] = std::make_unique<OptionButton>(*this, IDC_DayButton + cell);
-    Cell(cell).Click = [this, cell] { DayButton_Click(cell); };
+    DayButton[cell].Click = [this, cell] { DayButton_Click(cell); };
   }
   MonthCombo.Click = [this] { MonthCombo_Click(); };
   YearBox.GotFocus = [this] { before_typing_ = date_; };
@@ -67,13 +55,13 @@ void DatePickForm::Form_Load() {
   MonthCombo.Fill(months);
   YearBox.SetTextLimit(4);
   ShowMonth();
-  Cell(CellOf(date_)).SetFocus();
+  DayButton[CellOf(date_)].SetFocus();
 }
 
 int DatePickForm::CellOf(CalendarDate date) const { return FirstColumn(date) + static_cast<int>(DayNumber(date)) - 1; }
 
 bool DatePickForm::SheetHasFocus() const {
-  return std::any_of(DayButton.begin(), DayButton.end(), [](const auto& each) { return each->HasFocus(); });
+  return std::any_of(DayButton.begin(), DayButton.end(), [](const OptionButton& each) { return each.HasFocus(); });
 }
 
 void DatePickForm::GoTo(CalendarDate date) {
@@ -99,14 +87,14 @@ void DatePickForm::ShowSheet() {
   const bool had_focus = SheetHasFocus();
   for (int cell = first_cell; cell <= last_cell; ++cell) {
     const std::string number = std::to_string(cell - first_cell + 1);
-    Cell(cell).SetText(cell == today_cell ? "(" + number + ")" : number);
-    Cell(cell).SetBold(cell == today_cell);
-    Cell(cell).SetVisible(true);
+    DayButton[cell].SetText(cell == today_cell ? "(" + number + ")" : number);
+    DayButton[cell].SetBold(cell == today_cell);
+    DayButton[cell].SetVisible(true);
   }
-  Cell(CellOf(date_)).SetChecked(true);
-  if (had_focus) Cell(CellOf(date_)).SetFocus();
+  DayButton[CellOf(date_)].SetChecked(true);
+  if (had_focus) DayButton[CellOf(date_)].SetFocus();
   for (int cell = 0; cell < kSheetDays; ++cell) {
-    if (cell < first_cell || cell > last_cell) Cell(cell).SetVisible(false);
+    if (cell < first_cell || cell > last_cell) DayButton[cell].SetVisible(false);
   }
 }
 
@@ -128,7 +116,7 @@ void DatePickForm::DayButton_Click(int cell) { GoTo(PlusDays(FirstOfMonth(date_)
 
 void DatePickForm::TodayButton_Click() {
   GoTo(WithinCalendar(Today()));
-  Cell(CellOf(date_)).SetFocus();
+  DayButton[CellOf(date_)].SetFocus();
 }
 
 bool DatePickForm::Key_Press(Key key) {

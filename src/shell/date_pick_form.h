@@ -1,14 +1,15 @@
 // DatePickForm: the choice of a date on a month's sheet.
 #pragma once
 
-#include <array>
-#include <memory>
 #include <optional>
 
+#include "platform/control_array.h"
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
+#include "resource.h"
 #include "shell/calendar.h"
+#include "shell/shell_ids.h"
 
 inline constexpr int kSheetDays = 42;  // six weeks
 
@@ -19,14 +20,15 @@ class DatePickForm : public Form {
   std::optional<CalendarDate> Picked;  // after O.K.
 
  private:
-  DropDownList MonthCombo;
-  TextBox YearBox;
-  Button PreviousButton, NextButton;
-  std::array<std::unique_ptr<OptionButton>, kSheetDays> DayButton;
-  Label DateLabel;
-  Button TodayButton;
-  Button OKButton;
-  Button CancelButton;
+  DropDownList MonthCombo{*this, IDC_MonthCombo};
+  TextBox YearBox{*this, IDC_YearBox};
+  Button PreviousButton{*this, IDC_PreviousButton};
+  Button NextButton{*this, IDC_NextButton};
+  ControlArray<OptionButton, kSheetDays> DayButton{*this, IDC_DayButton};
+  Label DateLabel{*this, IDC_DateLabel};
+  Button TodayButton{*this, IDC_TodayButton};
+  Button OKButton{*this, IDC_OKButton};
+  Button CancelButton{*this, IDC_CancelButton};
 
   void Form_Load() override;
   void MonthCombo_Click();
@@ -36,7 +38,6 @@ class DatePickForm : public Form {
   void OKButton_Click();
   bool Key_Press(Key key);
 
-  OptionButton& Cell(int cell) { return *DayButton[static_cast<std::size_t>(cell)]; }
   int CellOf(CalendarDate date) const;
   bool SheetHasFocus() const;
   void GoTo(CalendarDate date);

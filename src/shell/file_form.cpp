@@ -3,15 +3,14 @@
 
 #include <vector>
 
-#include "document/file_handles.h"
-#include "document/text.h"
-#include "mainwindow/file_names.h"
-#include "mainwindow/settings.h"
 #include "platform/file_dialog.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
-#include "resource.h"
+#include "platform/text.h"
+#include "shell/file_names.h"
 #include "shell/help.h"
 #include "shell/messages.h"
+#include "shell/recent_files.h"
 
 namespace {
 
@@ -26,8 +25,7 @@ std::string PatternTitle(const std::string& pattern) {
 // Says why a file cannot be opened; true when it can.
 bool CanBeOpened(const std::string& name) {
   try {
-    Files::Open(kProbeHandle, name, Files::Mode::Input);
-    Files::Close(kProbeHandle);
+    const Files::OpenFile probe(kProbeHandle, name, Files::Mode::Input);
     return true;
   } catch (const RuntimeError& error) {
     Global::Say("Failed to open file " + name + Global::DueToError(error), Icon::Exclamation);
@@ -37,14 +35,7 @@ bool CanBeOpened(const std::string& name) {
 
 }  // namespace
 
-FileForm::FileForm(FileRequest& request)
-    : Form(IDD_FileForm),
-      NameBox(*this, IDC_NameBox),
-      BrowseButton(*this, IDC_BrowseButton),
-      OKButton(*this, IDC_OKButton),
-      CancelButton(*this, IDC_CancelButton),
-      request_(request),
-      offered_(request.Name) {
+FileForm::FileForm(FileRequest& request) : Form(IDD_FileForm), request_(request), offered_(request.Name) {
   NameBox.Change = NameBox.Click = [this] { NameBox_Change(); };
   BrowseButton.Click = [this] { BrowseButton_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };
@@ -57,7 +48,7 @@ void FileForm::Form_Load() {
   const bool reads = request_.Mode == FileRequest::Kind::Read;
   SetCaption(reads ? "Larkspur Filer Open" : "Larkspur Filer Save");
   std::vector<ListEntry> recent;
-  for (int position = 1; position <= TheRecentFiles.Count; ++position) {
+  for (int position = 1; request_.OffersRecent && position <= TheRecentFiles.Count; ++position) {
     if (!TheRecentFiles[position].empty()) recent.push_back({TheRecentFiles[position], position});
   }
   NameBox.Fill(recent);
@@ -80,16 +71,21 @@ void FileForm::BrowseButton_Click() {
   OKButton.SetFocus();
 }
 
+bool TakeName(FileRequest& request, std::string_view typed) {
+  const std::string name = Global::FullFileName(request.Folder, Trim(typed));
+  const bool must_open = request.Mode == FileRequest::Kind::Read && !name.empty();
+  const bool passes = request.MayBeMissing && !Files::Exists(name) && request.MayBeMissing(name);
+  if (must_open && !passes && !CanBeOpened(name)) return false;
+  request.Name = name;
+  return true;
+}
+
 void FileForm::OKButton_Click() {
-  const std::string name = Global::FullFileName(request_.Folder, Trim(NameBox.Text()));
-  const bool must_open = request_.Mode == FileRequest::Kind::Read && !name.empty();
-  const bool passes = request_.MayBeMissing && !Files::Exists(name) && request_.MayBeMissing(name);
-  if (must_open && !passes && !CanBeOpened(name)) {
+  if (TakeName(request_, NameBox.Text())) {
+    Close();
+  } else {
     NameBox.SetFocus();
-    return;
   }
-  request_.Name = name;
-  Close();
 }
 
 void FileForm::CancelButton_Click() { Close(); }
@@ -107,6 +103,6 @@ void OpenForm::ShowModal() {
   do {
     request_.Name = ChooseFile(choice);
     if (!choice.ForWriting || request_.Name.empty() || !Files::Exists(request_.Name)) return;
-    request_.OverwriteConfirmed = Global::Ask("File already exists.  Overwrite?", Buttons::YesNo);
+    request_.OverwriteConfirmed = Global::AskBeforeLoss("File already exists.  Overwrite?", Buttons::YesNo);
   } while (!request_.OverwriteConfirmed);
 }

@@ -15,6 +15,7 @@ inline constexpr const char* kDatePickForm = "Larkspur_DatePickForm.htm";
 inline constexpr const char* kFactForm = "Larkspur_FactForm.htm";
 inline constexpr const char* kFieldDefForm = "Larkspur_FieldDefForm.htm";
 inline constexpr const char* kFileForm = "Larkspur_FileForm.htm";
+inline constexpr const char* kFindForm = "Larkspur_FindForm.htm";
 inline constexpr const char* kFormulaDefForm = "Larkspur_FormulaDefForm.htm";
 inline constexpr const char* kPickListForm = "Larkspur_PickListForm.htm";
 inline constexpr const char* kReportForm = "Larkspur_ReportForm.htm";

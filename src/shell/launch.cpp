@@ -3,11 +3,10 @@
 
 #include <optional>
 
-#include "document/text.h"
 #include "platform/process.h"
 #include "platform/program.h"
+#include "platform/text.h"
 #include "shell/messages.h"
-#include "values/numbers.h"
 
 namespace {
 

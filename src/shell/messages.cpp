@@ -2,10 +2,11 @@
 #include "shell/messages.h"
 
 #include <exception>
+#include <new>
 #include <utility>
 
 #include "platform/program.h"
-#include "values/numbers.h"
+#include "platform/text.h"
 
 namespace Global {
 
@@ -16,6 +17,13 @@ namespace {
 
 int messages_said = 0;
 
+bool Agrees(Answer answer) { return answer == Answer::Yes || answer == Answer::Ok; }
+
+std::string WhatOf(const std::exception& error) {
+  const bool no_memory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
+  return no_memory ? std::string(ErrorDescription(kOutOfMemory)) : error.what();
+}
+
 }  // namespace
 
 void Say(std::string_view text, Icon icon) {
@@ -23,11 +31,18 @@ void Say(std::string_view text, Icon icon) {
   MsgBox(text, ProgramTitle, Buttons::Ok, icon);
 }
 
+void SayUnless(bool quiet, std::string_view text) {
+  if (!quiet) Say(text, Icon::Exclamation);
+}
+
 int MessagesSaid() { return messages_said; }
 
-bool Ask(std::string_view question, Buttons buttons, Icon icon, DefaultButton default_button) {
-  const Answer answer = MsgBox(question, ProgramTitle, buttons, icon, default_button);
-  return answer == Answer::Yes || answer == Answer::Ok;
+bool Ask(std::string_view question, Buttons buttons, Icon icon) {
+  return Agrees(MsgBox(question, ProgramTitle, buttons, icon));
+}
+
+bool AskBeforeLoss(std::string_view question, Buttons buttons, Icon icon) {
+  return Agrees(MsgBox(question, ProgramTitle, buttons, icon, DefaultButton::Last));
 }
 
 void SayAndEnd(std::string_view text) {
@@ -42,13 +57,13 @@ void RunForm(Form& form, const Event& start) {
   } catch (const std::exception& error) {
     const char* const what =
         form.Closed() ? "The program could not be started: " : "The command could not be completed: ";
-    Say(what + std::string(error.what()), Icon::Exclamation);
+    Say(what + WhatOf(error), Icon::Exclamation);
   }
   while (!form.Closed()) {
     try {
       form.RunUntilClosed();
     } catch (const std::exception& error) {
-      Say(std::string("The command could not be completed: ") + error.what(), Icon::Exclamation);
+      Say("The command could not be completed: " + WhatOf(error), Icon::Exclamation);
     }
   }
 }

@@ -17,12 +17,17 @@ extern std::string ProgramTitle;
 // Shows a text with an OK button.
 void Say(std::string_view text, Icon icon = Icon::None);
 
+// Says why something failed, unless it is only tried out.
+void SayUnless(bool quiet, std::string_view text);
+
 // How many texts Say has shown: tells a caller whether what it called has explained itself.
 int MessagesSaid();
 
 // Asks a question; true for Yes or OK.
-bool Ask(std::string_view question, Buttons buttons, Icon icon = Icon::None,
-         DefaultButton default_button = DefaultButton::First);
+bool Ask(std::string_view question, Buttons buttons, Icon icon = Icon::None);
+
+// The same before something is lost: Enter presses the button that keeps it.
+bool AskBeforeLoss(std::string_view question, Buttons buttons, Icon icon = Icon::None);
 
 // Says with the stop icon why the program cannot go on, and ends it; the document is kept first.
 [[noreturn]] void SayAndEnd(std::string_view text);

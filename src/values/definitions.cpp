@@ -5,23 +5,14 @@
 #include <utility>
 
 #include "document/history.h"
-#include "document/text.h"
 #include "platform/locale.h"
+#include "platform/text.h"
 #include "values/field_types.h"
 #include "values/numbers.h"
 
 namespace {
 
 bool SameName(std::string_view one, std::string_view other) { return UpperCase(one) == UpperCase(other); }
-
-// The slot of a keyword; an unused slot has none, not an empty one.
-template <class Slots>
-auto Find(Slots& slots, std::string_view keyword) -> decltype(slots.data()) {
-  const auto found = std::find_if(slots.begin(), slots.end(), [keyword](const FieldValueSlot& slot) {
-    return slot.Text.find(':') == keyword.size() && SameName(slot.Keyword(), keyword);
-  });
-  return found == slots.end() ? nullptr : &*found;
-}
 
 // By code: accented letters are none.
 bool OnlyLetters(std::string_view name) {
@@ -73,7 +64,7 @@ std::string Reference(std::string_view keyword) { return "[" + UpperCase(keyword
 
 void RenameSlots(FieldSlots& slots, std::string_view old_keyword, const std::string& keyword) {
   while (FieldValueSlot* slot = FindSlot(slots, old_keyword)) {
-    slot->Text = keyword + ":" + std::string(slot->Value());
+    slot->Set(keyword, slot->Value());
     if (SameName(old_keyword, keyword)) return;
   }
 }
@@ -94,19 +85,7 @@ void RenameField(Step& step, const std::string& old_keyword, const std::string& 
   }
 }
 
-// The slots behind move up, so that the other values keep their order.
-void RemoveSlots(FieldSlots& slots, std::string_view keyword) {
-  while (FieldValueSlot* slot = FindSlot(slots, keyword)) {
-    std::move(slot + 1, slots.data() + slots.size(), slot);
-    slots.back().Text.clear();
-  }
-}
-
 }  // namespace
-
-FieldValueSlot* FindSlot(FieldSlots& slots, std::string_view keyword) { return Find(slots, keyword); }
-
-const FieldValueSlot* FindSlot(const FieldSlots& slots, std::string_view keyword) { return Find(slots, keyword); }
 
 Refusal CheckField(const FieldDefinition& entry, int number, const FieldSlots& working) {
   const std::string& keyword = entry.Keyword;
@@ -240,9 +219,9 @@ void DeleteField(int number, FieldSlots& working) {
   Step step("Delete Field " + keyword);
   for (int record = 1; record <= TheDocument.Things.Count(); ++record) {
     if (FindSlot(TheDocument.Things[record].Values, keyword) == nullptr) continue;
-    RemoveSlots(step.Thing(record).Values, keyword);
+    RemoveValue(step.Thing(record).Values, keyword);
   }
-  RemoveSlots(working, keyword);
+  RemoveValue(working, keyword);
   step.RemoveField(number);
 }
 

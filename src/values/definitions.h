@@ -2,15 +2,12 @@
 // they write. Everything that changes the document marks it as changed. Numbers count from 1.
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "document/document.h"
 #include "platform/lists.h"
-
-using FieldSlots = std::array<FieldValueSlot, kFieldValues>;
 
 // The control of a definition dialog that a refusal speaks of.
 enum class DefinitionBox { None, Name, Description, Type, Template };
@@ -57,7 +54,3 @@ std::string DeleteFieldQuestion(int number);
 // Deletes the definition; a field's values go from all things and from `working`.
 void DeleteField(int number, FieldSlots& working);
 void DeleteFormula(int number);
-
-// The slot that holds the field's value, nullptr when there is none. Keywords compare without regard to case.
-FieldValueSlot* FindSlot(FieldSlots& slots, std::string_view keyword);
-const FieldValueSlot* FindSlot(const FieldSlots& slots, std::string_view keyword);

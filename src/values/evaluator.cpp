@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "document/text.h"
 #include "platform/locale.h"
 #include "platform/program.h"
 #include "platform/runtime_error.h"
+#include "platform/text.h"
 #include "shell/messages.h"
 #include "values/field_types.h"
 #include "values/number_store.h"
@@ -24,20 +24,6 @@ constexpr int kMostReplacements = 1000;
 constexpr std::size_t kLongestExpanded = 32767;
 
 bool IsOperator(char character) { return character == '+' || character == '-' || character == '*' || character == '/'; }
-
-void Complain(bool quiet, const std::string& text) {
-  if (!quiet) Say(text, Icon::Exclamation);
-}
-
-// The value of the field of that keyword (in capitals); empty when there is none.
-std::string_view ValueOf(std::string_view keyword, const std::array<FieldValueSlot, kFieldValues>& slots) {
-  for (const FieldValueSlot& slot : slots) {
-    if (slot.Keyword().size() == keyword.size() && !keyword.empty() && UpperCase(slot.Keyword()) == keyword) {
-      return slot.Value();
-    }
-  }
-  return {};
-}
 
 double Computed(double left, double right, char sign) {
   double result = 0;
@@ -76,7 +62,7 @@ bool ReplaceGroups(std::string& expression, char separator, bool quiet) {
 
 }  // namespace
 
-std::string ExpandFieldReferences(std::string_view expression, const std::array<FieldValueSlot, kFieldValues>& slots) {
+std::string ExpandFieldReferences(std::string_view expression, const FieldSlots& slots) {
   std::string expanded = UpperCase(Trim(expression));
   for (int replaced = 0;; ++replaced) {
     const auto open = expanded.find('[');
@@ -85,7 +71,7 @@ std::string ExpandFieldReferences(std::string_view expression, const std::array<
     if (replaced == kMostReplacements || expanded.size() > kLongestExpanded) return {};
     // Values come as they are stored: a reference in one may be in small letters.
     const std::string keyword = UpperCase(std::string_view(expanded).substr(open + 1, close - open - 1));
-    const std::string_view value = ValueOf(keyword, slots);
+    const std::string_view value = keyword.empty() ? std::string_view() : ValueOf(slots, keyword);
     if (value.empty()) return {};
     expanded.replace(open, close - open + 1, value);
   }
@@ -123,7 +109,7 @@ std::string ConvertPercentages(std::string expression, char separator, bool quie
     try {
       fraction = WriteNumber(ReadNumber(number, separator) / 100, separator);
     } catch (const RuntimeError& error) {
-      Complain(quiet, "Failed to convert percentage " + number + "%" + DueToError(error));
+      SayUnless(quiet, "Failed to convert percentage " + number + "%" + DueToError(error));
     }
     expression.replace(first, percent - first + 1, fraction);
   }
@@ -211,7 +197,7 @@ std::string ComputeOperation(std::string_view operation, int position, char sign
     const double right = Operand(operation.substr(at + 1), separator);
     return WriteNumber(Computed(left, right, sign), separator);
   } catch (const RuntimeError& error) {
-    Complain(quiet, "Failed to calculate expression " + std::string(operation) + DueToError(error));
+    SayUnless(quiet, "Failed to calculate expression " + std::string(operation) + DueToError(error));
     return kFailure;
   }
 }
@@ -223,7 +209,7 @@ int LastPositionOf(std::string_view text, std::string_view needle) {
 
 }  // namespace Global
 
-std::string FormulaResult(const FormulaDefinition& formula, const std::array<FieldValueSlot, kFieldValues>& slots) {
+std::string FormulaResult(const FormulaDefinition& formula, const FieldSlots& slots) {
   std::string expression = Global::ExpandFieldReferences(formula.Formula, slots);
   if (expression.empty()) return {};
   const std::string type = StorageType(formula.Type);

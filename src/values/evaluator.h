@@ -2,7 +2,6 @@
 // (15 digits), until one number is left, which is stored by the formula's type.
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -14,7 +13,7 @@ namespace Global {
 // capitals; empty as soon as one value is missing or empty. A value that holds references is expanded,
 // too, up to a bound past which the result is empty.
 std::string ExpandFieldReferences(std::string_view expression, int thing);
-std::string ExpandFieldReferences(std::string_view expression, const std::array<FieldValueSlot, kFieldValues>& slots);
+std::string ExpandFieldReferences(std::string_view expression, const FieldSlots& slots);
 
 // Computes an expression and stores the result under the type (a keyword that StoreNumberByType knows).
 // Returns the stored text, "0" for an empty expression, or "?" when it cannot be computed; why is said
@@ -34,4 +33,4 @@ int LastPositionOf(std::string_view text, std::string_view needle);
 
 // A formula's result for a thing, as text: "?" for a formula of a type that no value can be stored under.
 // Quiet. Empty when one of the values it needs is missing.
-std::string FormulaResult(const FormulaDefinition& formula, const std::array<FieldValueSlot, kFieldValues>& slots);
+std::string FormulaResult(const FormulaDefinition& formula, const FieldSlots& slots);

@@ -2,22 +2,12 @@
 #include "values/field_def_form.h"
 
 #include "platform/locale.h"
-#include "resource.h"
 #include "shell/help.h"
 #include "shell/messages.h"
 #include "values/field_types.h"
 
 FieldDefForm::FieldDefForm(int number, FieldSlots& working)
-    : Form(IDD_FieldDefForm),
-      NameBox(*this, IDC_NameBox),
-      DescriptionBox(*this, IDC_DescriptionBox),
-      TextOption(*this, IDC_TextOption),
-      NumberOption(*this, IDC_NumberOption),
-      ChoiceCombo(*this, IDC_ChoiceCombo),
-      OKButton(*this, IDC_OKButton),
-      CancelButton(*this, IDC_CancelButton),
-      number_(number),
-      working_(working) {
+    : Form(IDD_FieldDefForm), number_(number), working_(working) {
   TextOption.Click = [this] { TextOption_Click(); };
   NumberOption.Click = [this] { NumberOption_Click(); };
   OKButton.Click = [this] { OKButton_Click(); };

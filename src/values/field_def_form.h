@@ -4,6 +4,8 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
+#include "resource.h"
+#include "values/definition_ids.h"
 #include "values/definitions.h"
 
 class FieldDefForm : public Form {
@@ -14,12 +16,13 @@ class FieldDefForm : public Form {
   bool Accepted = false;  // O.K. was pressed and the document has the field
 
  private:
-  TextBox NameBox;
-  TextBox DescriptionBox;
-  OptionButton TextOption, NumberOption;
-  DropDownList ChoiceCombo;
-  Button OKButton;
-  Button CancelButton;
+  TextBox NameBox{*this, IDC_NameBox};
+  TextBox DescriptionBox{*this, IDC_DescriptionBox};
+  OptionButton TextOption{*this, IDC_TextOption};
+  OptionButton NumberOption{*this, IDC_NumberOption};
+  DropDownList ChoiceCombo{*this, IDC_ChoiceCombo};
+  Button OKButton{*this, IDC_OKButton};
+  Button CancelButton{*this, IDC_CancelButton};
 
   void Form_Load() override;
   void TextOption_Click();

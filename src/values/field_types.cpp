@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "document/text.h"
 #include "platform/locale.h"
+#include "platform/text.h"
 
 bool IsNumberType(std::string_view type) {
   const std::string keyword = UpperCase(type);

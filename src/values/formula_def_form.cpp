@@ -1,28 +1,14 @@
 // FormulaDefForm: see formula_def_form.h.
 #include "values/formula_def_form.h"
 
-#include "document/text.h"
 #include "platform/locale.h"
-#include "resource.h"
+#include "platform/text.h"
 #include "shell/help.h"
 #include "shell/messages.h"
 #include "values/field_types.h"
 #include "values/templates.h"
 
-FormulaDefForm::FormulaDefForm(int number)
-    : Form(IDD_FormulaDefForm),
-      NameBox(*this, IDC_NameBox),
-      DescriptionBox(*this, IDC_DescriptionBox),
-      FieldTypeCombo(*this, IDC_FieldTypeCombo),
-      AutoOption(*this, IDC_AutoOption),
-      FixedOption(*this, IDC_FixedOption),
-      TemplateBox(*this, IDC_TemplateBox),
-      FormulaBox(*this, IDC_FormulaBox),
-      FieldNameCombo(*this, IDC_FieldNameCombo),
-      InsertButton(*this, IDC_InsertButton),
-      OKButton(*this, IDC_OKButton),
-      CancelButton(*this, IDC_CancelButton),
-      number_(number) {
+FormulaDefForm::FormulaDefForm(int number) : Form(IDD_FormulaDefForm), number_(number) {
   FieldTypeCombo.Click = [this] { FieldTypeCombo_Click(); };
   AutoOption.Click = [this] { AutoOption_Click(); };
   FixedOption.Click = [this] { FixedOption_Click(); };

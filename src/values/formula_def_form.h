@@ -4,6 +4,8 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
+#include "resource.h"
+#include "values/definition_ids.h"
 #include "values/definitions.h"
 
 class FormulaDefForm : public Form {
@@ -13,16 +15,17 @@ class FormulaDefForm : public Form {
   bool Accepted = false;  // O.K. was pressed and the document has the formula
 
  private:
-  TextBox NameBox;
-  TextBox DescriptionBox;
-  DropDownList FieldTypeCombo;
-  OptionButton AutoOption, FixedOption;
-  TextBox TemplateBox;
-  TextBox FormulaBox;
-  DropDownList FieldNameCombo;
-  Button InsertButton;
-  Button OKButton;
-  Button CancelButton;
+  TextBox NameBox{*this, IDC_NameBox};
+  TextBox DescriptionBox{*this, IDC_DescriptionBox};
+  DropDownList FieldTypeCombo{*this, IDC_FieldTypeCombo};
+  OptionButton AutoOption{*this, IDC_AutoOption};
+  OptionButton FixedOption{*this, IDC_FixedOption};
+  TextBox TemplateBox{*this, IDC_TemplateBox};
+  TextBox FormulaBox{*this, IDC_FormulaBox};
+  DropDownList FieldNameCombo{*this, IDC_FieldNameCombo};
+  Button InsertButton{*this, IDC_InsertButton};
+  Button OKButton{*this, IDC_OKButton};
+  Button CancelButton{*this, IDC_CancelButton};
 
   void Form_Load() override;
   void ShowFormula(const FormulaDefinition& formula);

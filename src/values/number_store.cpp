@@ -9,6 +9,7 @@
 #include "platform/locale.h"
 #include "platform/program.h"
 #include "platform/runtime_error.h"
+#include "platform/text.h"
 #include "shell/messages.h"
 #include "values/numbers.h"
 
@@ -18,10 +19,6 @@ namespace {
 
 int interest_scopes = 0;
 std::optional<bool> interest_answer;
-
-void Complain(bool quiet, const std::string& text) {
-  if (!quiet) Say(text, Icon::Exclamation);
-}
 
 template <class Whole>
 std::string Whole32(double number) {
@@ -74,20 +71,20 @@ std::string PercentText(const std::string& type, float percentage, char separato
   std::string written = WriteSingle(percentage, separator) + "%";
   if (type == "INTRATE") {
     if (percentage < 0) {
-      Complain(quiet, "Invalid interest value " + written +
-                          " is replaced with 0.  (For interest, type a positive numbers followed by a percent sign or "
-                          "type a fractional amount.)");
+      SayUnless(quiet, "Invalid interest value " + written +
+                           " is replaced with 0.  (For interest, type a positive numbers followed by a percent sign or "
+                           "type a fractional amount.)");
       return "0";
     }
     return percentage > 100 && !KeepsHighInterest(quiet) ? "0" : written;
   }
   const bool is_signed = type == "ODDSPM";
   if (percentage >= (is_signed ? -100.0F : 0.0F) && percentage <= 100) return written;
-  Complain(quiet, "Invalid odds value " + written + " is replaced with 100%.  " +
-                      (is_signed ? "(Type a positive or negative number followed by a percent sign or type a "
-                                   "fractional amount.)"
-                                 : "(For odds, please type numbers followed by a percent sign or type a fractional "
-                                   "amount.)"));
+  SayUnless(quiet, "Invalid odds value " + written + " is replaced with 100%.  " +
+                       (is_signed ? "(Type a positive or negative number followed by a percent sign or type a "
+                                    "fractional amount.)"
+                                  : "(For odds, please type numbers followed by a percent sign or type a fractional "
+                                    "amount.)"));
   return "100%";
 }
 
@@ -115,7 +112,7 @@ bool StoreNumberByType(std::string& text, std::string_view type, char separator,
     text = StoredText(text, keyword, separator, quiet);
     return true;
   } catch (const RuntimeError& error) {
-    Complain(quiet, "Failed to store number " + text + DueToError(error));
+    SayUnless(quiet, "Failed to store number " + text + DueToError(error));
     text.clear();
     return false;
   }
@@ -124,7 +121,7 @@ bool StoreNumberByType(std::string& text, std::string_view type, char separator,
 double RoundToPennies(double amount, bool quiet) {
   const double pennies = std::nearbyint(amount * 100);
   if (!(std::abs(pennies) <= 2147483648.0) || pennies == 2147483648.0) {
-    Complain(quiet, "Failed to round your number to pennies due to error #" + SignedText(kOverflow));
+    SayUnless(quiet, "Failed to round your number to pennies due to error #" + SignedText(kOverflow));
     throw RuntimeError(kOverflow);
   }
   return pennies / 100;

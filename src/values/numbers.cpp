@@ -7,8 +7,8 @@
 #include <limits>
 #include <system_error>
 
-#include "document/text.h"
 #include "platform/runtime_error.h"
+#include "platform/text.h"
 
 namespace {
 
@@ -148,5 +148,3 @@ std::string Written(double number, int digits, char separator) {
 
 std::string WriteNumber(double number, char separator) { return Written(number, 15, separator); }
 std::string WriteSingle(float number, char separator) { return Written(static_cast<double>(number), 7, separator); }
-
-std::string SignedText(int number) { return (number < 0 ? "" : " ") + std::to_string(number); }

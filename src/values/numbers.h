@@ -26,6 +26,3 @@ double ReadNumber(std::string_view text, char separator);
 // A number as text with that decimal separator: 15 digits (7 for a single), "0.5", "-3", "1E+20", "1.5E-07".
 std::string WriteNumber(double number, char separator);
 std::string WriteSingle(float number, char separator);
-
-// A whole number with one blank before it unless it is negative, as messages quote numbers.
-std::string SignedText(int number);

@@ -7,9 +7,9 @@
 #include <cstdlib>
 #include <vector>
 
-#include "document/text.h"
 #include "platform/locale.h"
 #include "platform/runtime_error.h"
+#include "platform/text.h"
 #include "values/numbers.h"
 
 namespace Global {

@@ -5,19 +5,11 @@
 #include <utility>
 
 #include "platform/printing.h"
-#include "resource.h"
 #include "shell/help.h"
 #include "viewer/print_report.h"
-#include "viewer/viewer_ids.h"
 
 PreviewForm::PreviewForm(const ReportText& text, std::string name)
     : Form(IDD_PreviewForm),
-      PreviousButton(*this, IDC_PreviousButton),
-      NextButton(*this, IDC_NextButton),
-      PageLabel(*this, IDC_PageLabel),
-      PrintButton(*this, IDC_PrintButton),
-      CancelButton(*this, IDC_CancelButton),
-      PreviewSurface(*this, IDC_PreviewSurface),
       text_(text),
       name_(std::move(name)),
       layout_(std::make_unique<PrintLayout>(text, name_, PrinterSheet())) {
@@ -28,9 +20,9 @@ PreviewForm::PreviewForm(const ReportText& text, std::string name)
   HelpKey = Global::HelpOn(HelpPages::kViewer);
   PreviewSurface.KeyDown = [this](const KeyPress& key) { PreviewSurface_KeyDown(key); };
   PreviewSurface.Wheel = [this](const WheelTurn& turn) { GoTo(page_ + (turn.Cells > 0 ? 1 : -1)); };
-  Anchor(PreviewSurface, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
-  Anchor(PrintButton, kEdgeTop | kEdgeRight);
-  Anchor(CancelButton, kEdgeTop | kEdgeRight);
+  Anchor(PreviewSurface, {0, 0, 100, 100});
+  Anchor(PrintButton, {100, 0, 100, 0});
+  Anchor(CancelButton, {100, 0, 100, 0});
 }
 
 void PreviewForm::Form_Load() {

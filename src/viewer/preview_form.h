@@ -7,7 +7,9 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/surface.h"
+#include "resource.h"
 #include "viewer/print_layout.h"
+#include "viewer/viewer_ids.h"
 
 class PreviewForm : public Form {
  public:
@@ -15,12 +17,12 @@ class PreviewForm : public Form {
   PreviewForm(const ReportText& text, std::string name);
 
  private:
-  Button PreviousButton;
-  Button NextButton;
-  Label PageLabel;
-  Button PrintButton;
-  Button CancelButton;
-  Surface PreviewSurface;
+  Button PreviousButton{*this, IDC_PreviousButton};
+  Button NextButton{*this, IDC_NextButton};
+  Label PageLabel{*this, IDC_PageLabel};
+  Button PrintButton{*this, IDC_PrintButton};
+  Button CancelButton{*this, IDC_CancelButton};
+  Surface PreviewSurface{*this, IDC_PreviewSurface};
 
   void Form_Load() override;
   void PreviousButton_Click() { GoTo(page_ - 1); }

@@ -5,10 +5,10 @@
 #include <array>
 #include <utility>
 
-#include "mainwindow/file_names.h"
 #include "platform/clipboard.h"
 #include "resource.h"
 #include "shell/about_form.h"
+#include "shell/file_names.h"
 #include "shell/help.h"
 #include "shell/messages.h"
 #include "viewer/preview_form.h"
@@ -65,10 +65,10 @@ ViewerForm::ViewerForm(const std::string& command_line)
   EnterKey = [this] { FindNextItem_Click(); };
   EscapeKey = [this] { EscapeKey_Pressed(); };
   HelpKey = [this] { ContentsItem_Click(); };
-  Anchor(ReportSurface, kEdgeLeft | kEdgeTop | kEdgeRight | kEdgeBottom);
-  Anchor(FileLabel, kEdgeLeft | kEdgeRight | kEdgeBottom);
-  Anchor(LinesLabel, kEdgeRight | kEdgeBottom);
-  Anchor(ZoomLabel, kEdgeRight | kEdgeBottom);
+  Anchor(ReportSurface, {0, 0, 100, 100});
+  Anchor(FileLabel, {0, 100, 100, 100});
+  Anchor(LinesLabel, {100, 100, 100, 100});
+  Anchor(ZoomLabel, {100, 100, 100, 100});
 }
 
 void ViewerForm::Form_Load() {
@@ -159,7 +159,7 @@ void ViewerForm::PreviewItem_Click() { PreviewForm(view_.Text(), FileTitle()).Sh
 void ViewerForm::ContentsItem_Click() { Global::ShowHelpPage(HelpPages::kViewer); }
 
 void ViewerForm::AboutItem_Click() {
-  AboutForm("Shows, searches and prints the reports of Larkspur Filer.").ShowModal();
+  AboutForm("Shows, searches and prints the reports of Larkspur Filer.", HelpPages::kViewer).ShowModal();
 }
 
 void ViewerForm::Refresh() {

@@ -1,8 +1,9 @@
 // The viewer's window: opening, saving and finding. See viewer_form.h.
-#include "mainwindow/file_names.h"
 #include "platform/file_dialog.h"
 #include "platform/files.h"
+#include "shell/file_names.h"
 #include "shell/messages.h"
+#include "shell/replace_file.h"
 #include "viewer/viewer_form.h"
 
 namespace {
@@ -26,7 +27,7 @@ std::string ChooseNameToWrite(const std::string& report) {
     std::string name = ChooseFile(choice);
     if (name.empty()) return name;
     if (TypeDot(name) == std::string::npos) name += ".TXT";
-    if (!Files::Exists(name) || Global::Ask("File already exists.  Overwrite?", Buttons::YesNo)) return name;
+    if (!Files::Exists(name) || Global::AskBeforeLoss("File already exists.  Overwrite?", Buttons::YesNo)) return name;
   }
 }
 
@@ -68,18 +69,11 @@ bool ViewerForm::Load(const std::string& name, bool keep_place) {
 void ViewerForm::SaveTextItem_Click() {
   const std::string name = ChooseNameToWrite(file_);
   if (name.empty()) return;
-  const int handle = Files::FreeHandle();
   try {
-    Files::Open(handle, name, Files::Mode::Output);
-    Files::Write(handle, view_.Text().TextOf(view_.Text().Body()));
-    Files::Close(handle);
+    ReplaceFile(Files::FreeHandle(), name,
+                [this](int handle) { Files::Write(handle, view_.Text().TextOf(view_.Text().Body())); });
   } catch (const RuntimeError& error) {
     Global::Say("Failed to write file " + name + Global::DueToError(error), Icon::Exclamation);
-    try {
-      Files::Close(handle);
-    } catch (const RuntimeError&) {
-      // Said already.
-    }
   }
 }
 

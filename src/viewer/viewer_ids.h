@@ -23,9 +23,6 @@
 #define IDC_PrintItem 1623
 #define IDC_CopyItem 1624
 #define IDC_SelectAllItem 1625
-#define IDC_FindItem 1626
-#define IDC_FindNextItem 1627
-#define IDC_FindPreviousItem 1628
 #define IDC_ZoomInItem 1629
 #define IDC_ZoomOutItem 1630
 #define IDC_ZoomNormalItem 1631

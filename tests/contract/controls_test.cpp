@@ -16,37 +16,35 @@ TEST_F(ControlsTest, TextsComeBackByteForByte) {
   for (int byte = 0xA0; byte <= 0xFF; ++byte) high += static_cast<char>(byte);
   while (words.size() < 2000) words += "many words that wrap ";
   while (many.size() < 40000) many += "a line that is short enough\r\n";
-  const std::vector<std::string> texts = {"plain",    "",  "Fish & Chips && more", " caf\xE9 ", high, "tab\tbed",
-                                          "100%s %d", kFar};
-  // Lines are parted by CR LF, and long ones stay whole.
-  const std::vector<std::string> lines = {"first\r\n\r\n  third\r\n", std::string(1000, 'w'), words, many};
-  for (Control* control : form.Members) {
+  for (const auto& [control, name] : form.Members) {
     const int id = control->Id();
-    EXPECT_EQ(&control->Owner(), &form);
+    const bool is_typed = id == IDC_LineBox || id == IDC_LinesBox || id == IDC_NameCombo;
     if (id >= IDC_KindDrop && id <= IDC_PhotoPic) continue;  // has no text, or not its own
-    std::vector<std::string> all = texts;
-    if (control == &form.LinesBox) all.insert(all.end(), lines.begin(), lines.end());
-    if (control == &form.LineBox) all.emplace_back(40000, 'y');
-    for (const std::string& text : all) {
+    std::vector<std::string> texts = {"plain",    "",  "Fish & Chips && more", " caf\xE9 ", high, "tab\tbed",
+                                      "100%s %d", kFar};
+    // Lines are parted by CR LF, and long ones stay whole.
+    if (id == IDC_LinesBox)
+      texts.insert(texts.end(), {"first\r\n\r\n  third\r\n", std::string(1000, 'w'), words, many});
+    if (id == IDC_LineBox) texts.emplace_back(40000, 'y');
+    for (const std::string& text : texts) {
       control->SetText(text);
-      EXPECT_EQ(control->Text(), text) << id;
+      EXPECT_EQ(control->Text(), text) << name;
       EXPECT_EQ(user.Sees(id), text);
-      if (id != IDC_LineBox && id != IDC_LinesBox && id != IDC_NameCombo) continue;
       control->SetText("-");
-      user.Types(id, text);
-      EXPECT_EQ(control->Text(), text) << id;
+      if (is_typed) user.Types(id, text);
+      EXPECT_EQ(control->Text(), is_typed ? text : "-") << name;
     }
   }
 }
 
 TEST_F(ControlsTest, ChangeComesOnceAndOnlyWhenTheTextDiffers) {
-  for (const auto& [box, name] : std::initializer_list<std::pair<Control*, std::string>>{
-           {&form.LineBox, "LineBox"}, {&form.LinesBox, "LinesBox"}, {&form.NameCombo, "NameCombo"}}) {
-    const auto sets = [&box](const char* text) { box->SetText(text); };
+  for (Control* box : std::initializer_list<Control*>{&form.LineBox, &form.LinesBox, &form.NameCombo}) {
+    const std::string change = form.Members[box] + " Change ";
+    const auto sets = [box](const char* text) { box->SetText(text); };
     const auto types = [&](const char* text) { user.Types(box->Id(), text); };
-    Does([&] { sets("code"), sets("code"), types("code"); }, name + " Change code");
-    Does([&] { types("person"), types("person"), sets("person"); }, name + " Change person");
-    Does([&] { sets("PERSON"); }, name + " Change PERSON");
+    Does([&] { sets("code"), sets("code"), types("code"); }, change + "code");
+    Does([&] { types("person"), types("person"), sets("person"); }, change + "person");
+    Does([&] { sets("PERSON"); }, change + "PERSON");
   }
   form.LineBox.Change = [&, tell = form.LineBox.Change] {
     tell();
@@ -65,12 +63,13 @@ TEST_F(ControlsTest, LimitAndReadOnlyBindThePersonNotTheCode) {
   Does([&] { user.Types(IDC_LineBox, "&#937;abc"); }, "LineBox Change &#937;a");
   form.LineBox.SetTextLimit(0);
   Does([&] { user.Types(IDC_LineBox, "no limit any more"); }, "LineBox Change no limit any more");
-  EXPECT_FALSE(form.LinesBox.ReadOnly());
-  form.LinesBox.SetReadOnly(true);
-  EXPECT_TRUE(form.LinesBox.ReadOnly());
-  Does([&] { form.LinesBox.SetText("code"); }, "LinesBox Change code");
-  Does([&] { EXPECT_NONFATAL_FAILURE(user.Types(IDC_LinesBox, "typed"), "5013"); }, "");
-  form.LinesBox.SetReadOnly(false);
+  for (const bool read_only : {true, false}) {
+    EXPECT_NE(form.LinesBox.ReadOnly(), read_only);
+    form.LinesBox.SetReadOnly(read_only);
+    Does([&] { form.LinesBox.SetText(read_only ? "bound" : "free"); },
+         read_only ? "LinesBox Change bound" : "LinesBox Change free");
+    if (read_only) Does([&] { EXPECT_NONFATAL_FAILURE(user.Types(IDC_LinesBox, "typed"), "5013"); }, "");
+  }
   Does([&] { user.Types(IDC_LinesBox, "typed"); }, "LinesBox Change typed");
 }
 
@@ -95,14 +94,15 @@ TEST_F(ControlsTest, PropertiesAreOfOneControlEach) {
   } properties[] = {{&Control::SetEnabled, &Control::Enabled, &User::SeesEnabled, true},
                     {&Control::SetVisible, &Control::Visible, &User::SeesVisible, true},
                     {&Control::SetBold, &Control::Bold, &User::SeesBold, false}};
-  for (Control* each : form.Members) {
-    SCOPED_TRACE(each->Id());
-    for (const auto& property : properties) {
-      EXPECT_EQ((each->*property.Get)(), property.Usual);
-      for (const bool value : {!property.Usual, property.Usual}) {
-        (each->*property.Set)(value);
-        EXPECT_EQ((each->*property.Get)(), value);
-        EXPECT_EQ((user.*property.Sees)(each->Id()), value);
+  for (const auto& [each, name] : form.Members) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(&each->Owner(), &form);
+    for (const auto& [set, get, sees, usual] : properties) {
+      EXPECT_EQ((each->*get)(), usual);
+      for (const bool value : {!usual, usual}) {
+        (each->*set)(value);
+        EXPECT_EQ((each->*get)(), value);
+        EXPECT_EQ((user.*sees)(each->Id()), value);
       }
     }
     EXPECT_EQ(each->ToolTip(), "");
@@ -111,35 +111,23 @@ TEST_F(ControlsTest, PropertiesAreOfOneControlEach) {
       EXPECT_EQ(each->ToolTip(), tip);
     }
   }
-  for (const bool border : {true, false}) {
-    EXPECT_NE(form.TitleLabel.Border(), border);
-    form.TitleLabel.SetBorder(border);
-    EXPECT_EQ(form.TitleLabel.Border(), border);
-  }
-  for (const BackColor color : {BackColor::Marked, BackColor::ButtonFace}) {
-    EXPECT_NE(form.FirstButton.BackColor(), color);
+  for (const bool marked : {true, false}) {
+    const BackColor color = marked ? BackColor::Marked : BackColor::ButtonFace;
+    EXPECT_TRUE(form.TitleLabel.Border() != marked && form.FirstButton.BackColor() != color);
+    form.TitleLabel.SetBorder(marked);
     form.FirstButton.SetBackColor(color);
-    EXPECT_EQ(form.FirstButton.BackColor(), color);
+    EXPECT_TRUE(form.TitleLabel.Border() == marked && form.FirstButton.BackColor() == color);
   }
 }
 
 TEST_F(ControlsTest, OptionsOfAGroupGoOutForEachOther) {
-  const auto checked = [&] {
-    std::string marks;
-    for (const OptionButton* option : std::initializer_list<OptionButton*>{&form.RedOption, &form.GreenOption,
-                                                                           &form.SmallOption, &form.LargeOption}) {
-      marks += option->Checked() ? "x" : "-";
-    }
-    return marks;
-  };
-  Does([&] { form.RedOption.SetChecked(true), form.LargeOption.SetChecked(true); },
-       "RedOption Click, LargeOption Click");
-  EXPECT_EQ(checked(), "x--x");
+  OptionButton &red = form.RedOption, &green = form.GreenOption, &small = form.SmallOption, &large = form.LargeOption;
+  Does([&] { red.SetChecked(true), large.SetChecked(true); }, "RedOption Click, LargeOption Click");
+  EXPECT_TRUE(red.Checked() && !green.Checked() && !small.Checked() && large.Checked());
   Does([&] { user.Clicks(IDC_GreenOption), user.Clicks(IDC_GreenOption); }, "GreenOption Click");
-  EXPECT_EQ(checked(), "-x-x");
-  Does([&] { form.RedOption.SetChecked(true), form.RedOption.SetChecked(true); }, "RedOption Click");
-  Does([&] { form.LargeOption.SetChecked(false); }, "");
-  EXPECT_EQ(checked(), "x---");
+  EXPECT_TRUE(!red.Checked() && green.Checked() && !small.Checked() && large.Checked());
+  Does([&] { red.SetChecked(true), red.SetChecked(true), large.SetChecked(false); }, "RedOption Click");
+  EXPECT_TRUE(red.Checked() && !green.Checked() && !small.Checked() && !large.Checked());
 }
 
 TEST_F(ControlsTest, FocusIsLostAndGotBeforeAnythingElseAndNotToBoxesAboveTheForm) {

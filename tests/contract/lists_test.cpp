@@ -7,9 +7,7 @@ namespace {
 
 class ListsTest : public ShownFormTest {
  protected:
-  // With the names they have in the log.
-  std::vector<std::pair<ListControl*, std::string>> lists = {
-      {&form.NameCombo, "NameCombo"}, {&form.KindDrop, "KindDrop"}, {&form.EntryList, "EntryList"}};
+  std::vector<ListControl*> lists = {&form.NameCombo, &form.KindDrop, &form.EntryList};
 };
 
 TEST_F(ListsTest, EntriesKeepOrderTextAndDataAsManyAsThereCanBeRecords) {
@@ -17,80 +15,74 @@ TEST_F(ListsTest, EntriesKeepOrderTextAndDataAsManyAsThereCanBeRecords) {
                                 {"caf\xE9 & b", 0}, {"", -2147483647}, {kFar, 4},    {" x ", 7}};
   std::vector<ListEntry> many;
   for (int number = 32767; number >= 1; --number) many.push_back({"Thing " + std::to_string(number), number});
-  for (const auto& [each, name] : lists) {
-    ListControl& list = *each;
+  for (ListControl* list : lists) {
     for (const std::vector<ListEntry>& entries : {odd, many, odd}) {
-      Does([&] { list.Fill(entries); }, "");
-      EXPECT_EQ(list.Entries(), entries) << name;
+      SCOPED_TRACE(form.Members[list]);
+      Does([&] { list->Fill(entries); }, "");
+      EXPECT_EQ(list->Entries(), entries);
       std::vector<std::string> texts;
       for (const ListEntry& entry : entries) texts.push_back(entry.Text);
-      EXPECT_EQ(user.SeesEntries(list.Id()), texts) << name;
-      list.Select(static_cast<int>(entries.size()) - 1);
-      EXPECT_EQ(list.SelectedData(), entries.back().Data) << name;
-      EXPECT_EQ(user.SeesSelected(list.Id()), entries.back().Text) << name;
+      EXPECT_EQ(user.SeesEntries(list->Id()), texts);
+      list->Select(static_cast<int>(entries.size()) - 1);
+      EXPECT_EQ(list->SelectedData(), entries.back().Data);
+      EXPECT_EQ(user.SeesSelected(list->Id()), entries.back().Text);
     }
   }
 }
 
 TEST_F(ListsTest, ClickComesOnceAndOnlyWhenTheSelectionMoved) {
-  for (const auto& each : lists) {
-    ListControl& list = *each.first;
-    const int id = list.Id();
-    const auto click = [&](const std::string& position, const char* text) {
-      return each.second + " Click " + position + " " + (&list == &form.EntryList ? "" : text);
+  for (ListControl* list : lists) {
+    const int id = list->Id();
+    const auto does = [&](const Event& act, const std::string& position, const std::string& text, int data) {
+      Does(act, form.Members[list] + " Click " + position + " " + (list == &form.EntryList ? "" : text));
+      EXPECT_EQ(list->SelectedData(-5), data);
+      EXPECT_EQ(std::to_string(list->Selected()) + user.SeesSelected(id), position + text);
     };
-    list.Fill({{"Smith", 11}, {"smith", 22}, {"Smith", 33}});
-    EXPECT_EQ(list.SelectedData(-5), -5);
-    Does([&] { list.Select(2), list.Select(2); }, click("2", "Smith"));
-    EXPECT_EQ(list.SelectedData(), 33);
-    Does([&] { user.Picks(id, "Smith"), user.Picks(id, "Smith"); }, click("0", "Smith"));
-    EXPECT_EQ(list.SelectedData(-5), 11);
-    Does([&] { user.Picks(id, "smith"), user.PicksAt(id, 1); }, click("1", "smith"));
-    EXPECT_EQ(list.SelectedData() + list.Selected(), 22 + 1);
-    EXPECT_EQ(user.SeesSelected(id), "smith");
-    Does([&] { list.Select(-1), list.Select(-1), list.Select(3); }, click("-1", ""));
-    EXPECT_EQ(user.SeesSelected(id), "");
-    list.Select(2);
-    Does([&] { list.Fill({{"other", 4}}); }, "");
-    EXPECT_EQ(std::to_string(list.Selected()) + list.Text() + user.SeesSelected(id), "-1");
-    list.Select(0);
-    Does([&] { list.Clear(); }, "");
-    EXPECT_EQ(std::to_string(list.Selected()) + list.Text(), "-1");
-    EXPECT_TRUE(list.Entries().empty());
+    list->Fill({{"Smith", 11}, {"smith", 22}, {"Smith", 33}});
+    does([&] { list->Select(2), list->Select(2); }, "2", "Smith", 33);
+    does([&] { user.Picks(id, "Smith"), user.Picks(id, "Smith"); }, "0", "Smith", 11);
+    does([&] { user.Picks(id, "smith"), user.PicksAt(id, 1); }, "1", "smith", 22);
+    does([&] { list->Select(-1), list->Select(-1), list->Select(3); }, "-1", "", -5);
+    for (const Event& act : {Event([&] { list->Fill({{"other", 4}}); }), Event([&] { list->Clear(); })}) {
+      list->Select(0);
+      Does(act, "");
+      EXPECT_EQ(std::to_string(list->Selected()) + list->Text() + user.SeesSelected(id), "-1");
+    }
+    EXPECT_TRUE(list->Entries().empty());
     // Its handler may fill the list anew.
-    list.Fill({{"one", 1}, {"two", 2}});
-    list.Click = [&] {
+    list->Fill({{"one", 1}, {"two", 2}});
+    list->Click = [&] {
       Log("Click");
-      list.Fill({{"anew", 9}});
+      list->Fill({{"anew", 9}});
     };
     Does([&] { user.Picks(id, "two"); }, "Click");
-    EXPECT_EQ(list.Entries().size(), 1U);
-    EXPECT_EQ(list.Selected(), -1);
+    EXPECT_EQ(std::to_string(list->Entries().size()) + std::to_string(list->Selected()), "1-1");
   }
 }
 
 TEST_F(ListsTest, ComboTextMayBeAnything) {
-  form.NameCombo.Fill({{"one", 1}, {"twenty", 2}});
-  Does([&] { user.Types(IDC_NameCombo, "three"), form.NameCombo.SetText("three"); }, "NameCombo Change three");
+  ComboBox& combo = form.NameCombo;
+  const auto types = [&](const char* text) { user.Types(IDC_NameCombo, text); };
+  const auto fills = [&] { combo.Fill({{"one", 1}, {"twenty", 2}}); };
+  fills();
+  Does([&] { types("three"), combo.SetText("three"); }, "NameCombo Change three");
   Does([&] { user.Picks(IDC_NameCombo, "one"); }, "NameCombo Click 0 one");
   EXPECT_EQ(user.Sees(IDC_NameCombo), "one");
-  for (const Event& act :
-       {Event([&] { user.Types(IDC_NameCombo, "on"); }), Event([&] { form.NameCombo.SetText("on"); })}) {
-    form.NameCombo.Select(0);
+  for (const Event& act : {Event([&] { types("on"); }), Event([&] { combo.SetText("on"); })}) {
+    combo.Select(0);
     Does(act, "NameCombo Change on");
-    EXPECT_EQ(form.NameCombo.Selected(), -1);
+    EXPECT_EQ(combo.Selected(), -1);
   }
-  EXPECT_EQ(form.NameCombo.Entries().size(), 2U);
-  Does([&] { form.NameCombo.Fill({{"one", 1}, {"twenty", 2}}); }, "");
-  EXPECT_EQ(form.NameCombo.Text(), "");
+  Does(fills, "");
+  EXPECT_EQ(combo.Text(), "");
   // Its handler may complete the text.
-  form.NameCombo.Change = [&, tell = form.NameCombo.Change] {
+  combo.Change = [&, tell = combo.Change] {
     tell();
-    if (form.NameCombo.Text() != "tw") return;
-    form.NameCombo.SetText("twenty");
-    form.NameCombo.SelectText(2, 6);
+    if (combo.Text() != "tw") return;
+    combo.SetText("twenty");
+    combo.SelectText(2, 6);
   };
-  Does([&] { user.Types(IDC_NameCombo, "tw"); }, "NameCombo Change tw, NameCombo Change twenty");
+  Does([&] { types("tw"); }, "NameCombo Change tw, NameCombo Change twenty");
   EXPECT_EQ(user.Sees(IDC_NameCombo), "twenty");
   // A drop-down's is one of its entries or nothing.
   form.KindDrop.Fill({{"red", 1}, {"green", 2}});
@@ -111,28 +103,25 @@ TEST_F(ListsTest, TheWheelTurnsNoClosedDropDownButAComboWithTheFocus) {
 }
 
 TEST_F(ListsTest, ChecksAreTurnedOver) {
-  using Texts = std::vector<std::string>;
   CheckList& list = form.TickList;
-  Does([&] { list.Fill({"b", "a", "C & D", "a"}); }, "");
-  EXPECT_EQ(list.Count(), 4);
-  EXPECT_EQ(user.SeesEntries(IDC_TickList), (Texts{"b", "a", "C & D", "a"}));
-  EXPECT_EQ(user.SeesTicked(IDC_TickList), Texts{});
-  Does([&] { list.SetChecked(3, true), list.SetChecked(3, true); }, "TickList ItemCheck 3 on");
-  Does([&] { user.Ticks(IDC_TickList, "C & D"); }, "TickList ItemCheck 2 on");
-  EXPECT_EQ(user.SeesTicked(IDC_TickList), (Texts{"C & D", "a"}));
-  Does([&] { list.SetChecked(3, false), list.SetChecked(0, false); }, "TickList ItemCheck 3 off");
-  Does([&] { user.Ticks(IDC_TickList, "C & D"); }, "TickList ItemCheck 2 off");
+  const auto does = [&](const Event& act, const char* events, const std::vector<std::string>& ticked) {
+    Does(act, events);
+    EXPECT_EQ(user.SeesTicked(IDC_TickList), ticked);
+  };
+  does([&] { list.Fill({"b", "a", "C & D", "a"}); }, "", {});
+  EXPECT_EQ(user.SeesEntries(IDC_TickList), (std::vector<std::string>{"b", "a", "C & D", "a"}));
+  does([&] { list.SetChecked(3, true), list.SetChecked(3, true); }, "TickList ItemCheck 3 on", {"a"});
+  does([&] { user.Ticks(IDC_TickList, "C & D"); }, "TickList ItemCheck 2 on", {"C & D", "a"});
+  does([&] { list.SetChecked(3, false), list.SetChecked(0, false); }, "TickList ItemCheck 3 off", {"C & D"});
+  does([&] { user.Ticks(IDC_TickList, "C & D"); }, "TickList ItemCheck 2 off", {});
   // Its handler may turn another check over.
   list.ItemCheck = [&, tell = list.ItemCheck](int position) {
     tell(position);
     if (position == 0) list.SetChecked(1, !list.Checked(1));
   };
-  Does([&] { user.Ticks(IDC_TickList, "b"); }, "TickList ItemCheck 0 on, TickList ItemCheck 1 on");
-  EXPECT_TRUE(list.Checked(0) && list.Checked(1));
-  Does([&] { list.Fill({"caf\xE9" + kFar, "x"}); }, "");
-  EXPECT_EQ(list.EntryText(0) + list.EntryText(2), "caf\xE9" + kFar);
-  EXPECT_EQ(list.Count(), 2);
-  EXPECT_EQ(user.SeesTicked(IDC_TickList), Texts{});
+  does([&] { user.Ticks(IDC_TickList, "b"); }, "TickList ItemCheck 0 on, TickList ItemCheck 1 on", {"b", "a"});
+  does([&] { list.Fill({"caf\xE9" + kFar, "x"}); }, "", {});
+  EXPECT_EQ(list.EntryText(0) + list.EntryText(2) + std::to_string(list.Count()), "caf\xE9" + kFar + "2");
   for (const int position : {-1, 0, 1, 2}) EXPECT_FALSE(list.Checked(position)) << position;
   Does([&] { list.SetChecked(-1, true), list.SetChecked(2, true); }, "");
 }

@@ -31,13 +31,11 @@ TEST(RegistryTest, KeysOpenByPathAndValuesTellTypeSizeAndText) {
       EXPECT_EQ(open.ReadText(name, value.Size - 1), std::nullopt) << name;
     }
   }
-  const RegistryKey empty(RegistryRoot::CurrentUser, class_key);
-  EXPECT_TRUE(empty.IsOpen());
-  const RegistryKey cut(RegistryRoot::CurrentUser, key.substr(0, key.size() - 1)),
-      other(RegistryRoot::LocalMachine, key);
-  EXPECT_FALSE(cut.IsOpen() || other.IsOpen());
-  for (const RegistryKey* none : {&empty, &cut, &other}) EXPECT_FALSE(none->Query("") || none->ReadText("", 100));
   EXPECT_FALSE(open.Query("missing") || open.ReadText("missing", 100));
+  const RegistryKey empty(RegistryRoot::CurrentUser, class_key), other(RegistryRoot::LocalMachine, key),
+      cut(RegistryRoot::CurrentUser, key.substr(0, key.size() - 1));
+  EXPECT_TRUE(empty.IsOpen() && !cut.IsOpen() && !other.IsOpen());
+  for (const RegistryKey* none : {&empty, &cut, &other}) EXPECT_FALSE(none->Query("") || none->ReadText("", 100));
   TestRegistry::Remove(class_key);
 }
 

@@ -1,5 +1,5 @@
 // What runtime_error.h, locale.h, program.h and process.h promise, on both platforms alike.
-#include <gtest/gtest.h>
+#include <sstream>
 
 #include "contract/error_of.h"
 #include "platform/files.h"
@@ -7,43 +7,30 @@
 #include "platform/process.h"
 #include "platform/program.h"
 #include "support/files.h"
+#include "support/rows.h"
 
 namespace {
 
 using namespace std::string_literals;
 
 TEST(SystemTest, ErrorsAreDescribedInTheClassicWordsAndStandForTheSystemsCodes) {
-  const struct {
-    int Number;
-    const char* Words;
-    std::vector<unsigned long> Codes;
-  } rows[] = {{5, "Invalid procedure call or argument", {0, 1, 87, 4000000000UL}},
-              {6, "Overflow", {}},
-              {7, "Out of memory", {}},
-              {11, "Division by zero", {}},
-              {13, "Type mismatch", {}},
-              {52, "Bad file name or number", {123, 206}},
-              {53, "File not found", {2, 18}},
-              {57, "Device I/O error", {23, 25, 27, 29, 30, 31, 59, 121, 1117}},
-              {58, "File already exists", {80, 183}},
-              {61, "Disk full", {39, 112, 1295}},
-              {62, "Input past end of file", {38}},
-              {68, "Device unavailable", {20, 55, 64, 1167}},
-              {70, "Permission denied", {32, 33, 1224}},
-              {71, "Disk not ready", {21, 26, 1005, 1110, 1112}},
-              {75, "Path/File access error", {5, 19, 65, 82, 303}},
-              {76, "Path not found", {3, 15, 53, 67, 161, 267}},
-              {481, "Invalid picture", {}},
-              {482, "Printer error", {}},
-              {521, "Can't open Clipboard", {}}};
-  for (const auto& row : rows) {
-    const RuntimeError error(row.Number);
-    EXPECT_EQ(error.Number, row.Number);
-    EXPECT_EQ(error.Description, row.Words);
-    EXPECT_STREQ(error.what(), row.Words);
-    for (const unsigned long code : row.Codes) EXPECT_EQ(ErrorNumberOfSystemCode(code), row.Number) << code;
+  for (const auto& [words, numbers] : Rows(R"(Invalid procedure call or argument => 5 0 1 87 4000000000
+Overflow => 6 | Out of memory => 7 | Division by zero => 11 | Type mismatch => 13 | Bad file name or number => 52 123 206
+File not found => 53 2 18 | Device I/O error => 57 23 25 27 29 30 31 59 121 1117 | File already exists => 58 80 183
+Disk full => 61 39 112 1295 | Input past end of file => 62 38 | Device unavailable => 68 20 55 64 1167
+Permission denied => 70 32 33 1224 | Disk not ready => 71 21 26 1005 1110 1112 | Printer error => 482
+Path/File access error => 75 5 19 65 82 303 | Path not found => 76 3 15 53 67 161 267 | Invalid picture => 481
+Can't open Clipboard => 521)")) {
+    std::istringstream read(numbers);
+    int number = 0;
+    read >> number;
+    const RuntimeError error(number);
+    EXPECT_EQ(error.Number, number);
+    EXPECT_EQ(error.Description, words);
+    EXPECT_STREQ(error.what(), words.c_str());
+    for (unsigned long code = 0; read >> code;) EXPECT_EQ(ErrorNumberOfSystemCode(code), number) << code;
   }
-  for (const int unknown : {-1, 0, 9999}) EXPECT_EQ(ErrorDescription(unknown), rows[0].Words) << unknown;
+  for (const int unknown : {-1, 0, 9999}) EXPECT_EQ(ErrorDescription(unknown), ErrorDescription(5)) << unknown;
 }
 
 std::string Range(int first, int last) {
@@ -70,9 +57,8 @@ TEST(SystemTest, TextIsOfTheSystemsLanguage) {
 TEST(SystemTest, ProgramHasFoldersAnEnvironmentAndAnEnd) {
   TestFiles::Start();
   EXPECT_EQ(CurrentFolder(), TestFiles::Folder());
-  for (const std::string& folder : {ProgramFolder(), CurrentFolder()}) {
-    EXPECT_TRUE(folder.size() > 3 && folder.substr(1, 2) == ":\\" && folder.back() != '\\') << folder;
-  }
+  const std::string folder = ProgramFolder();
+  EXPECT_TRUE(folder.size() > 3 && folder.substr(1, 2) == ":\\" && folder.back() != '\\') << folder;
   EXPECT_NE(EnvironmentValue("PATH").value_or(""), "");
   EXPECT_EQ(EnvironmentValue("Path"), EnvironmentValue("PATH"));
   EXPECT_FALSE(EnvironmentValue("FILER_TEST_NOT_DEFINED") || EnvironmentValue(""));

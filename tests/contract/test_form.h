@@ -5,10 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <source_location>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "contract/test_ids.h"
 #include "platform/controls.h"
@@ -44,10 +44,10 @@ class LoggingForm : public Form {
   void Tell(const std::string& event) const { Log(Name + event); }
 
   const int Template;
-  const std::string Name;         // opens what the form tells
-  bool Refuses = false;           // Form_QueryUnload cancels
-  Event OnLoad;                   // in Form_Load
-  std::vector<Control*> Members;  // all controls
+  const std::string Name;                   // opens what the form tells
+  bool Refuses = false;                     // Form_QueryUnload cancels
+  Event OnLoad;                             // in Form_Load
+  std::map<Control*, std::string> Members;  // all controls, with the names they have in the log
 
  protected:
   void Form_Load() override {
@@ -66,7 +66,7 @@ class LoggingForm : public Form {
 template <typename Kind>
 struct Logging : Kind {
   Logging(LoggingForm& form, int id, const std::string& name) : Kind(form, id) {
-    form.Members.push_back(this);
+    form.Members[this] = name;
     const auto tell = [&form, name](const std::string& event) { form.Tell(name + event); };
     this->GotFocus = [=] { LogsFocus ? tell(" got") : void(); };
     this->LostFocus = [=] { LogsFocus ? tell(" lost") : void(); };

@@ -1,32 +1,17 @@
 // The forms of a thing's name: as typed, as stored, and turned around.
 #include "document/names.h"
 
-#include <gtest/gtest.h>
-
-#include <array>
+#include "support/rows.h"
 
 namespace {
 
 TEST(NamesTest, TakeTheirForms) {
-  const std::array<const char*, 3> rows[] = {
-      {"Barn, Red", "Red Barn", "Barn, Red"},
-      {"Red Barn, Big", "Big Red_Barn", "Red Barn, Big"},
-      {"  Garden Shed ", "Garden Shed", "Shed, Garden"},
-      {"Red_Barn", "Red_Barn", "Red_Barn"},
-      {"Big Old Red_Barn", "Big Old Red_Barn", "Red Barn, Big Old"},
-      {"Shed", "Shed", "Shed"},
-      {"", "", ""},
-      {",", "", ""},
-      {" A  B ,", "A__B", "A__B"},
-      {", Red", "Red", "Red"},
-      {"A, B, C", "B, C A", "B, C A"},
-      {"Old_Big Red_Barn_Door", "Old_Big Red_Barn_Door", "Red Barn Door, Old_Big"}};
-  for (const auto& [typed, stored, turned] : rows) {
-    EXPECT_EQ(NormaliseName(typed), stored) << typed;
-    EXPECT_EQ(TurnName(NormaliseName(typed)), turned) << typed;
-  }
-  EXPECT_EQ(TurnName(" Barn ,  Red "), "Barn, Red");
-  EXPECT_EQ(JoinUnderscoredWords(" Big_Red_Barn "), "Big Red Barn");
+  ExpectRows(R"(Barn, Red => Red Barn/Barn, Red | Red Barn, Big => Big Red_Barn/Red Barn, Big
+  Garden Shed  => Garden Shed/Shed, Garden | Red_Barn => Red_Barn/Red_Barn | Shed => Shed/Shed |  => / | , => /
+Big Old Red_Barn => Big Old Red_Barn/Red Barn, Big Old |  A  B , => A__B/A__B | , Red => Red/Red
+A, B, C => B, C A/B, C A | Old_Big Red_Barn_Door => Old_Big Red_Barn_Door/Red Barn Door, Old_Big)",
+             [](const std::string& typed) { return NormaliseName(typed) + "/" + TurnName(NormaliseName(typed)); });
+  EXPECT_EQ(TurnName(" Barn ,  Red ") + JoinUnderscoredWords(" Big_Red_Barn "), "Barn, RedBig Red Barn");
 }
 
 }  // namespace

@@ -3,30 +3,22 @@
 
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
 #include "document/document.h"
 #include "support/fresh_test.h"
+#include "support/rows.h"
 
 namespace {
 
 TEST(EscapeTest, KeepsWhatTheRecordSyntaxWouldTakeForItsOwn) {
-  const std::pair<const char*, const char*> rows[] = {
-      {"", ""},
-      {"plain [text]=*'", "plain [text]=*'"},
-      {"~a~~b~", "?a??b?"},
-      {";a;;b;", "~;a~;~;b~;"},
-      {"~;", "?~;"},
-      {"+", "~+"},
-      {"a+b+", "a+b~+"},
-      {"a++", "a+~+"},
-      {"~+", "?~+"},
-      {"a+ ", "a+ "},
-      {"a+\r\n", "a+~/"},  // the line break is the last character, not the "+"
-      {"a\r\nb\rc\nd", "a~/b~/c~/d"},
-      {"\r\r\n\n", "~/~/~/"},
-      {"\r", "~/"},
-  };
-  for (const auto& [text, escaped] : rows) EXPECT_EQ(EscapeValue(text), escaped) << text;
+  ExpectRows(
+      R"( =>  | plain [text]=*' => plain [text]=*' | ~a~~b~ => ?a??b? | ;a;;b; => ~;a~;~;b~; | ~; => ?~; | + => ~+
+a+b+ => a+b~+ | a++ => a+~+ | ~+ => ?~+ | a+  => a+ )",
+      EscapeValue);
+  // A line break is a character of its own, also behind a "+".
+  EXPECT_EQ(EscapeValue("a+\r\nb\rc\nd\r\r\n\n+") + EscapeValue("\r"), "a+~/b~/c~/d~/~/~/~+~/");
+  EXPECT_EQ(EscapeValue("a+\r\n"), "a+~/");
 }
 
 class WriterTest : public FreshTest {
@@ -62,47 +54,28 @@ TEST_F(WriterTest, WritesANastyDocument) {
   thing.XREF2 = 32767;
   thing.CATBITMAP = -2147483647;
   thing.HierarchyMark = 7;
-  thing.Values = {{{"PRICE:12.50"},
-                   {},
-                   {"COLOR:red: da;rk~+"},
-                   {"PRICE:"},
-                   {"no keyword"},
-                   {":12"},
-                   {"P::"},
-                   {"T: 5 "},
-                   {"P;Q:1"},
-                   {"E:5+ "}}};
+  const char* const values[] = {
+      "PRICE:12.50", "", "COLOR:red: da;rk~+", "PRICE:", "no keyword", ":12", "P::", "T: 5 ", "P;Q:1", "E:5+ "};
+  for (std::size_t slot = 0; slot < kFieldValues; ++slot) thing.Values[slot].Text = values[slot];
   AddThing("Links above 0 only").XREF1 = -1;
   TheDocument.Things.Writable(3).XREF2 = 2;
   AddThing("Zoo").XREF1 = 2;
   AddThing("+ ").XREF2 = -32768;
 
   // Notes: cut from 70 characters on behind the last blank, and blanks that follow it; hard when there is none; by
-  // their lengths before escaping.
-  const auto x = [](std::size_t count) { return std::string(count, 'x'); };
+  // their lengths before escaping. A number says how many of the next character there are.
   std::string words;
   while (words.size() < 190) words += "123456789 ";
-  for (const std::string& note : {x(60) + " " + x(8),
-                                  x(60) + " " + x(9),
-                                  x(70),
-                                  x(69) + " ",
-                                  x(71),
-                                  x(70) + " ",
-                                  x(70) + "   y",
-                                  x(68) + "     y z",
-                                  "a b " + x(66),
-                                  " " + x(70),
-                                  x(140),
-                                  x(141),
-                                  x(139),
-                                  words + "1234567890",
-                                  x(69) + "+yz",
-                                  x(70) + "+y+",
-                                  x(40) + "+ " + x(40),
-                                  std::string(69, ';'),
-                                  std::string(71, '~') + ";",
-                                  x(69) + "\r\ny"}) {
-    AddThing("Note", note);
+  for (const char* shape :
+       {"60x 8x", "60x 9x", "70x",  "69x ", "71x",    "70x ",   "70x3 y",   "68x5 y z", "a b 66x", " 70x",
+        "140x",   "141x",   "139x", "",     "69x+yz", "70x+y+", "40x+ 40x", "69;",      "71~;",    "69x\r\ny"}) {
+    std::string note;
+    for (std::istringstream in(shape); in.peek() != EOF;) {
+      std::size_t count = 1;
+      if (std::isdigit(in.peek()) != 0) in >> count;
+      note.append(count, static_cast<char>(in.get()));
+    }
+    AddThing("Note", note.empty() ? words + "1234567890" : note);
   }
   const std::string before = DescribeDocument();
   std::ifstream golden(FILER_SOURCE_DIR "/tests/document/golden/Nasty.FIL", std::ios::binary);

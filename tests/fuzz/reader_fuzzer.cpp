@@ -4,10 +4,10 @@
 #include <cstdint>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/names.h"
 #include "document/reader.h"
 #include "mainwindow/settings.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/headless/internals.h"
 #include "platform/locale.h"
@@ -26,13 +26,13 @@ Icon last_icon = Icon::None;
 // An older document, of which nothing may show through: many records, and then one of each kind.
 std::string OlderFile() {
   std::string file = "LARKSPUR V5.0 FILER DATA\n";
-  for (const int count : {20, 1}) {
-    for (const auto& [head, key] : {std::pair("[CATEGORIES]\n", "*;NAME="),
-                                    {"[FIELDS]\n", "*;FIELDTYPE="},
-                                    {"[FORMULAS]\n", "*;FORMAT="},
-                                    {"[THINGS]\n", "*;NOTE="}}) {
-      file += head;
-      for (int number = 1; number <= count; ++number) file += key + (count == 1 ? "A" : kStale) + "\n";
+  for (const auto& [count, text] : {std::pair(20, kStale), {1, "A"}}) {
+    for (const char* head :
+         {"[CATEGORIES]\n*;NAME=", "[FIELDS]\n*;FIELDTYPE=", "[FORMULAS]\n*;FORMAT=", "[THINGS]\n*;NOTE="}) {
+      const std::string section = head, record = section.substr(section.find('\n'));
+      file += section + text;
+      for (int number = 2; number <= count; ++number) file += record + text;
+      file += "\n";
     }
   }
   return file + "[END]";

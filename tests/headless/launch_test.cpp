@@ -5,6 +5,7 @@
 #include "platform/program.h"
 #include "support/fresh_test.h"
 #include "support/rows.h"
+#include "support/said.h"
 
 namespace {
 
@@ -33,70 +34,64 @@ class LaunchTest : public FreshTest {
     FreshTest::TearDown();
   }
 
-  // The result, and behind it what was started.
+  // The result, what was started and what was said.
   std::string Launch(std::string program, std::string argument) {
-    std::string outcome = std::to_string(APISubs::LaunchProgram(program, argument));
-    for (const std::string& line : Machine::StartedPrograms()) outcome += " " + line;
-    return outcome;
+    std::string told = std::to_string(APISubs::LaunchProgram(program, argument));
+    for (const std::string& line : Machine::StartedPrograms()) told += " " + line;
+    return told + said.Take();
   }
   std::string LaunchPage() {
     const bool registered = APISubs::IsRegistered(".HTM");
-    const std::string outcome = Launch(".HTM", "C:\\H\\page.htm");
-    EXPECT_EQ(registered, outcome != "-1");
-    return outcome;
+    const std::string told = Launch(".HTM", "C:\\H\\page.htm");
+    EXPECT_EQ(registered, !told.starts_with("-1"));
+    return told;
   }
   void Ends(const std::string& text) {
-    user.Reads(text, Icon::Critical);
     EXPECT_FALSE(APISubs::IsRegistered(".HTM"));
     EXPECT_THROW(LaunchPage(), ProgramEnded);
+    EXPECT_EQ(said.Take(), "x" + text);
   }
+
+  Said said;
 };
 
-// What is registered, and what is started with the page, or wrong with it.
 TEST_F(LaunchTest, TakesOnlyTheProgramOfARegisteredCommand) {
-  for (const auto& [command, outcome] : Rows(R"T(
-"C:\TEST\My Web\browse.exe" -url "%1" => "C:\TEST\My Web\browse.exe" | %Odd%\browse.exe => C:\TEST\100%\browse.exe
-C:\TEST\browse.exe -url %1 => C:\TEST\browse.exe |   C:\TEST\browse.exe   => C:\TEST\browse.exe
-"C:\TEST\browse.exe => C:\TEST\browse.exe | "%drive%%WEB%\browse.exe" "%1" => "C:\TEST\My Web\browse.exe"
-%Drive%\TEST\browse.exe %1 => C:\TEST\browse.exe | C:\50%\browse.exe %1 => invalid program name <<C:\50%\browse.exe>>
-%Drive%\%\browse.exe => invalid program name <<C:\%\browse.exe>> | C:\%%\browse.exe => undefined symbolic name <<>>
-%Nowhere%\browse.exe => undefined symbolic name <<Nowhere>>)T")) {
-    Machine::SetRegistryValue(kMachine, kCommand, "", command, 2);
-    const bool fails = outcome.ends_with('>');
-    const std::string fault = "Error due to " + outcome + ". Check your registry settings for .HTM<<" + command + ">>.";
-    if (fails) user.Reads(fault, Icon::Exclamation);
-    EXPECT_EQ(LaunchPage(), fails ? "-2" : "0 " + outcome + " C:\\H\\page.htm") << command;
-  }
+  ExpectRows(R"T("C:\TEST\My Web\browse.exe" -url "%1" => 0 "C:\TEST\My Web\browse.exe" C:\H\page.htm
+%Odd%\browse.exe => 0 C:\TEST\100%\browse.exe C:\H\page.htm | C:\TEST\browse.exe -url %1 => 0 C:\TEST\browse.exe C:\H\page.htm
+  C:\TEST\browse.exe   => 0 C:\TEST\browse.exe C:\H\page.htm | "C:\TEST\browse.exe => 0 C:\TEST\browse.exe C:\H\page.htm
+"%drive%%WEB%\browse.exe" "%1" => 0 "C:\TEST\My Web\browse.exe" C:\H\page.htm
+%Drive%\TEST\browse.exe %1 => 0 C:\TEST\browse.exe C:\H\page.htm
+C:\50%\browse.exe %1 => -2!Error due to invalid program name <<C:\50%\browse.exe>>. Check your registry settings for .HTM<<C:\50%\browse.exe %1>>.
+%Drive%\%\browse.exe => -2!Error due to invalid program name <<C:\%\browse.exe>>. Check your registry settings for .HTM<<%Drive%\%\browse.exe>>.
+C:\%%\browse.exe => -2!Error due to undefined symbolic name <<>>. Check your registry settings for .HTM<<C:\%%\browse.exe>>.
+%Nowhere%\browse.exe => -2!Error due to undefined symbolic name <<Nowhere>>. Check your registry settings for .HTM<<%Nowhere%\browse.exe>>.)T",
+             [this](const std::string& command) {
+               Machine::SetRegistryValue(kMachine, kCommand, "", command, 2);
+               return LaunchPage();
+             });
 }
 
 TEST_F(LaunchTest, CompletesAndQuotesWhatItIsGiven) {
-  for (const auto& [argument, behind] : Rows(R"T(C:\H\a b.htm =>  "C:\H\a b.htm" | page.htm =>  C:\TEST\page.htm
-"C:\H\a b.htm" c =>  "C:\H\a b.htm" c | a page.htm =>  "C:\TEST\a page.htm" |  => )T")) {
-    EXPECT_EQ(Launch("C:\\TEST\\browse.exe", argument), "0 C:\\TEST\\browse.exe" + behind);
-  }
+  ExpectRows(R"T(C:\H\a b.htm =>  "C:\H\a b.htm" | page.htm =>  C:\TEST\page.htm | "C:\H\a b.htm" c =>  "C:\H\a b.htm" c
+a page.htm =>  "C:\TEST\a page.htm" |  => )T",
+             [this](const std::string& argument) { return Launch("C:\\TEST\\browse.exe", argument).substr(20); });
   // Nothing is looked up for a program that is named itself.
-  user.Reads("Error due to undefined symbolic name <<Nowhere>>. ", Icon::Exclamation);
-  EXPECT_EQ(Launch("%Nowhere%", ""), "-2");
-  user.Reads(
-      "Failed to start program with command line: <<\"C:\\No Web\\none.exe\" C:\\H\\page.htm>> because of: Error # 53: "
-      "File not found",
-      Icon::Exclamation);
-  EXPECT_EQ(Launch("C:\\No Web\\none.exe", "C:\\H\\page.htm"), "-3");
+  EXPECT_EQ(Launch("%Nowhere%", ""), "-2!Error due to undefined symbolic name <<Nowhere>>. ");
+  EXPECT_EQ(Launch("C:\\No Web\\none.exe", "C:\\H\\page.htm"),
+            "-3!Failed to start program with command line: <<\"C:\\No Web\\none.exe\" C:\\H\\page.htm>> because of: "
+            "Error # 53: File not found");
   Machine::FailStart(0);  // a start that gives no process is one nevertheless
   EXPECT_EQ(Launch("C:\\TEST\\browse.exe", ""), "0");
   std::string program = "C:\\TEST\\My Web\\browse.exe", argument = "a page.htm";
-  EXPECT_EQ(APISubs::LaunchProgram(program, argument), 0);
+  APISubs::LaunchProgram(program, argument);
   EXPECT_EQ(program + argument, R"("C:\TEST\My Web\browse.exe""C:\TEST\a page.htm")");
 }
 
 TEST_F(LaunchTest, FindsWhatIsRegisteredForTheUserFirst) {
-  const std::string hint =
-      ">>. You may typed an invalid filetype, or you do not have an appropriate viewer program registered on your "
-      "computer.";
-  for (const auto& [type, key] : {std::pair{".HTM", kCommand}, {".XYZ", "SOFTWARE\\Classes\\.XYZ"}}) {
-    user.Reads("Failed to open registry key <<HKEY_LOCAL_MACHINE\\" + key + hint, Icon::Critical);
-    EXPECT_EQ(Launch(type, "C:\\H\\page.htm"), "-1");
-  }
+  EXPECT_EQ(Launch(".XYZ", "C:\\H\\page.htm"),
+            "-1xFailed to open registry key <<HKEY_LOCAL_MACHINE\\SOFTWARE\\Classes\\.XYZ>>. You may typed an invalid "
+            "filetype, or you do not have an appropriate viewer program registered on your computer.");
+  EXPECT_EQ(LaunchPage().substr(0, 34), "-1xFailed to open registry key <<H");
   Machine::SetRegistryValue(kMachine, kCommand, "", "C:\\TEST\\none.exe");
   Machine::SetRegistryValue(kUser, kCommand, "", "C:\\TEST\\browse.exe");
   // The user's key of the type has no default value, as on today's machines: the machine's has it.
@@ -105,15 +100,12 @@ TEST_F(LaunchTest, FindsWhatIsRegisteredForTheUserFirst) {
   Machine::FailRegistryReads(true);
   Ends("Failed to return a value for:  Program Exiting.");
   Machine::FailRegistryReads(false);
-  Machine::SetRegistryValue(kUser, kCommand, "", "   ");
-  EXPECT_EQ(LaunchPage(), "-1");
-  Machine::SetRegistryValue(kUser, kType, "", "");
-  EXPECT_EQ(LaunchPage(), "-1");
+  for (const auto& [key, text] : {std::pair(kCommand, "   "), {kType, ""}}) {
+    Machine::SetRegistryValue(kUser, key, "", text);
+    EXPECT_EQ(LaunchPage(), "-1");
+  }
   Machine::SetRegistryValue(kUser, kType, "", "page", 4);
   Ends("Registry value for:  is not text.  Program exiting.");
-  for (const RegistryRoot root : {kUser, kMachine}) Machine::RemoveRegistryKey(root, kType);
-  Machine::SetRegistryValue(kUser, kType, "Content Type", "text/html");
-  Ends("Failed to find registry value for:  Program exiting.");
   EXPECT_EQ(APISubs::ReadRegistryText(kType, "content type"), "text/html");
 }
 

@@ -1,11 +1,13 @@
 // Reports on a disk that fails at each call in turn.
 #include <algorithm>
 
-#include "document/file_handles.h"
 #include "mainwindow/main_form.h"
+#include "mainwindow/main_ids.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/headless/machine.h"
 #include "platform/program.h"
+#include "reports/report_ids.h"
 #include "resource.h"
 #include "support/fresh_test.h"
 

@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <map>
 
+#include "document/copies.h"
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/reader.h"
 #include "document/rescue.h"
-#include "document/save.h"
+#include "mainwindow/save.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/headless/internals.h"
 #include "platform/headless/machine.h"
@@ -21,53 +22,39 @@ namespace {
 struct Scenario {
   std::string Current;             // the file opened before, or empty
   std::string Target;              // the name saved to
-  std::string Backup;              // the name that the replaced file gets, empty when there is none
   std::vector<std::string> Files;  // that are there: each holds a text of its own
   std::string ReadOnlyFile;
+
+  // The name that the replaced file gets, empty when there is none; a backup is none itself.
+  std::string Backup() const {
+    const bool replaces = std::count(Files.begin(), Files.end(), Target) > 0 && Target.ends_with(".FIL");
+    return replaces ? BackupName(Target) : "";
+  }
 };
 
 const std::vector<Scenario> kScenarios = {
-    {"", "New.FIL", "", {}, ""},
-    {"Home.FIL", "Home.FIL", "Home.BAK", {"Home.FIL"}, ""},
-    {"Home.FIL", "Home.FIL", "Home.BAK", {"Home.FIL", "Home.BAK"}, ""},
-    {"Home.FIL", "Other.FIL", "Other.BAK", {"Home.FIL", "Other.FIL"}, ""},
-    {"", "Other.FIL", "Other.BAK", {"Other.FIL", "Other.BAK"}, ""},
-    {"Home.FIL", "New.FIL", "", {"Home.FIL"}, ""},
-    {"Home.FIL", "Home.FIL", "Home.BAK", {"Home.FIL", "Home.BAK"}, "Home.BAK"},
-    {"Home.FIL", "Home.FIL", "Home.BAK", {"Home.FIL", "Torvane.INI"}, "Torvane.INI"},
-    {"Home.FIL", "Old.BAK", "", {"Home.FIL", "Old.BAK"}, ""},  // a file that is its own backup
+    {"", "New.FIL", {}, ""},
+    {"Home.FIL", "Home.FIL", {"Home.FIL"}, ""},
+    {"Home.FIL", "Home.FIL", {"Home.FIL", "Home.BAK"}, ""},
+    {"Home.FIL", "Other.FIL", {"Home.FIL", "Other.FIL"}, ""},
+    {"", "Other.FIL", {"Other.FIL", "Other.BAK"}, ""},
+    {"Home.FIL", "New.FIL", {"Home.FIL"}, ""},
+    {"Home.FIL", "Home.FIL", {"Home.FIL", "Home.BAK"}, "Home.BAK"},
+    {"Home.FIL", "Home.FIL", {"Home.FIL", "Torvane.INI"}, "Torvane.INI"},
+    {"Home.FIL", "Old.BAK", {"Home.FIL", "Old.BAK"}, ""},
 };
 
 const std::string kSaved = "The Larkspur Filer file was saved.";
 const std::string kCannotLock =
     "I have loaded the plan file, but I cannot lock it for writing.  If you make changes, you must save to a "
     "different file.|";
-// What may be said, but for questions and the lock; CAUSE is the error and BACKUP the backup's full name.
-const std::string kKnown = R"(
-The Larkspur Filer file was saved.|
-The Larkspur Filer file was saved.|Failed to save optional info to Torvane.INI CAUSE|
-Can't test for presence of output file CAUSE|
-Failed to open file CAUSE|
-Failed to open file due to error # 58: File already exists|
-Failed to write file CAUSE|
-Failed to create backup (.BAK) of the file to be replaced, CAUSE.  The save will NOT be completed.  Try saving to a different filename or disk.|
-Failed to create backup (.BAK) of the file to be replaced, due to error # 58: File already exists.  The save will NOT be completed.  Try saving to a different filename or disk.|
-Failed to erase old backup, BACKUPCAUSE.  No new backup will be created and the save will NOT be completed. Try saving to a different filename or disk.|
-)";
 
-// Long enough for what fails to leave a part.
+// What is new is long enough for what fails to leave a part.
+const std::string kNewName = "new" + std::string(70000, 'x');
+
 std::string TextOf(const std::string& name) {
   return Lines({"LARKSPUR V5.0 FILER DATA", "'Larkspur Handy Reference Data File", "", "[THINGS]", "",
-                "*1; NAME=" + name + std::string(70000, 'x'), "", "[END]", "DONE=YES"});
-}
-
-void Replace(std::string& text, const std::string& part, const std::string& by) {
-  if (const auto at = text.find(part); !part.empty() && at != std::string::npos) text.replace(at, part.size(), by);
-}
-
-std::string Cause(unsigned long code) {
-  const int number = ErrorNumberOfSystemCode(code);
-  return "due to error # " + std::to_string(number) + ": " + std::string(ErrorDescription(number));
+                "*1; NAME=" + name, "", "[END]", "DONE=YES"});
 }
 
 class SaveFaultTest : public FreshTest {
@@ -103,7 +90,7 @@ class SaveFaultTest : public FreshTest {
       TheDocument.FileName = TheDocument.ShownFileName = InFolder(scenario.Current);
     }
     TheDocument.Things.SetCount(1);
-    TheDocument.Things.Writable(1).NAME = "new" + std::string(70000, 'x');
+    TheDocument.Things.Writable(1).NAME = kNewName;
     TheDocument.Modified = true;
     if (!scenario.ReadOnlyFile.empty()) Machine::SetReadOnly(scenario.ReadOnlyFile, true);
     contents = DescribeDocument();
@@ -139,23 +126,24 @@ class SaveFaultTest : public FreshTest {
     }
     for (const std::string& name : scenario.Files) {
       const std::string& found = place[TextOf(name)];
-      if (name == scenario.Backup || name == "Torvane.INI" || (SavedWas() && name == scenario.Target)) continue;
-      const bool aside = name == scenario.Target && !scenario.Backup.empty() && found == scenario.Backup;
+      if (name == scenario.Backup() || name == "Torvane.INI" || (SavedWas() && name == scenario.Target)) continue;
+      const bool aside = name == scenario.Target && !scenario.Backup().empty() && found == scenario.Backup();
       EXPECT_TRUE(found == name || aside) << "the text of " << name << " is lost";
     }
     EXPECT_EQ(Machine::FileBytes(scenario.Target) == new_text, SavedWas());
-    EXPECT_TRUE(!SavedWas() || scenario.Backup.empty() || place[TextOf(scenario.Target)] == scenario.Backup);
+    EXPECT_TRUE(!SavedWas() || scenario.Backup().empty() || place[TextOf(scenario.Target)] == scenario.Backup());
   }
 
-  // What was said is that one thing failed, and why.
-  void CheckSaid(const Scenario& scenario, unsigned long code) {
-    EXPECT_EQ(said.find(kCannotLock) == std::string::npos, TheDocument.Writable);
-    std::string text = said;
-    Replace(text, kCannotLock, "");
-    Replace(text, Cause(code), "CAUSE");
-    if (!scenario.ReadOnlyFile.empty()) Replace(text, "due to error # 75: Path/File access error", "CAUSE");
-    Replace(text, InFolder(scenario.Backup), "BACKUP");
-    EXPECT_NE(kKnown.find("\n" + text + "\n"), std::string::npos) << said;
+  // What was said is as usual, or that one thing failed, and why. Stories show all of the words.
+  void CheckSaid(unsigned long code) {
+    const auto at = said.find(kCannotLock);
+    EXPECT_EQ(at == std::string::npos, TheDocument.Writable);
+    if (at != std::string::npos) said.erase(at, kCannotLock.size());
+    const int number = ErrorNumberOfSystemCode(code);
+    const std::string cause = "due to error # " + std::to_string(number) + ": " + std::string(ErrorDescription(number));
+    const bool told = said.find(cause) != std::string::npos || said.find("due to error # 58: ") != std::string::npos;
+    EXPECT_TRUE(said == usual || told) << said;
+    EXPECT_EQ(std::count(said.begin(), said.end(), '|'), SavedWas() && said != kSaved + "|" ? 2 : 1) << said;
   }
 
   // Once the disk works again, and nothing stands in the way any more.
@@ -188,12 +176,12 @@ class SaveFaultTest : public FreshTest {
     if (nth == 0) usual = said;
     CheckMemory(scenario);
     CheckDisk(scenario, permanent);
-    CheckSaid(scenario, code);
+    CheckSaid(code);
     CheckNextSave(scenario);
     return true;
   }
 
-  const std::string new_text = TextOf("new");
+  const std::string new_text = TextOf(kNewName);
   std::string target;
   std::string contents;  // of the document
   std::optional<std::string> settings;
@@ -204,7 +192,7 @@ class SaveFaultTest : public FreshTest {
 TEST_F(SaveFaultTest, LosesNothingWhicheverCallFails) {
   for (const Scenario& scenario : kScenarios) {
     const std::string title = scenario.Current + " to " + scenario.Target + ", read only " + scenario.ReadOnlyFile;
-    for (const unsigned long code : {5UL, 32UL, 112UL, 1117UL}) {
+    for (const unsigned long code : {5UL, 32UL, 112UL}) {
       for (const bool permanent : {false, true}) {
         int nth = 0;
         for (bool failed = true; failed && !HasFailure(); ++nth) {

@@ -1,13 +1,8 @@
 // Telling a story: its acts one by one, what comes up meanwhile, and what is seen after each.
 #include "scenarios/story.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <filesystem>
 
-#include "document/document.h"
-#include "platform/controls.h"
 #include "platform/program.h"
 #include "platform/runtime_error.h"
 #include "shell/messages.h"
@@ -16,7 +11,8 @@
 
 namespace {
 
-bool updating = false;
+const bool kRegistered =
+    RegisterStories("Stories", "scenarios", [](const Tale& above, const Tale& tale) { return new Story(above, tale); });
 
 void ReplaceAll(std::string& text, const std::string& from, const std::string& to) {
   for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
@@ -43,19 +39,42 @@ std::string Plain(const std::string& line) {
   return plain;
 }
 
-// The first word, and what stands behind it.
+std::string Expanded(std::string text) {
+  for (const auto& [real, name] : Stand()) ReplaceAll(text, name, real);
+  for (std::size_t at = text.find('{'); at != std::string::npos; at = text.find('{', at + 1)) {
+    if (text.find('}', at) == at + 3)
+      text.replace(at, 4, 1, static_cast<char>(std::stoi(text.substr(at + 1, 2), nullptr, 16)));
+  }
+  return text;
+}
+
+// A click on these closes a form.
+bool Leaves(const std::string& part) { return part == "OKButton" || part == "CancelButton"; }
+
+}  // namespace
+
 std::pair<std::string, std::string> Parted(const std::string& text) {
   const std::size_t end = std::min(text.find(' '), text.size());
   return {text.substr(0, end), text.substr(std::min(end + 1, text.size()))};
 }
 
-// A click on these closes a form.
-bool Leaves(const Act& act) { return act.Text.ends_with("click OKButton") || act.Text.ends_with("click CancelButton"); }
+std::deque<std::string> Story::PartsOf(const std::string& act) {
+  std::deque<std::string> parts(1);
+  bool quoted = false;
+  for (std::size_t at = 0; at < act.size(); ++at) {
+    if (act[at] == '"') quoted = !quoted;
+    if (!quoted && act.compare(at, 2, ", ") == 0) {
+      parts.emplace_back();
+      ++at;
+    } else {
+      parts.back() += act[at];
+    }
+  }
+  return parts;
+}
 
-}  // namespace
-
-Story::Story(std::shared_ptr<StoryFile> file, std::size_t number)
-    : Sees([this](const std::string& line) { Say(line); }, Plain), file_(std::move(file)), number_(number) {}
+Story::Story(const Tale& above, const Tale& tale)
+    : Sees([this](const std::string& line) { Say(line); }, Plain), above_(above), tale_(tale) {}
 Story::~Story() = default;
 
 void Story::SetUp() {
@@ -71,22 +90,11 @@ void Story::TearDown() {
 }
 
 void Story::TestBody() {
-  Tale& tale = file_->Tales[number_];
-  if (tale.InMemoryOnly && MachineVerbs().empty()) GTEST_SKIP() << "only in memory";
-  std::vector<Act> before = file_->Tales[0].Acts;
-  for (Act& act : before) acts_.push_back(&act);
+  const bool in_memory = above_.Says("only in memory") || tale_.Says("only in memory");
+  if (in_memory && MachineVerbs().empty()) GTEST_SKIP() << "only in memory";
+  acts_ = above_.Acts();
   untold_ = acts_.size();
-  for (Act& act : tale.Acts) {
-    act.Now.clear();
-    acts_.push_back(&act);
-  }
-  Run();
-  if (!updating) return ExpectAsWritten(*file_, tale);
-  for (Act& act : tale.Acts) act.Seen = act.Now;
-  file_->Write();
-}
-
-void Story::Run() {
+  for (StoryLine* act : tale_.Acts()) acts_.push_back(act);
   while (next_ < acts_.size()) {
     try {
       Step();
@@ -100,101 +108,63 @@ void Story::Run() {
       Fail(std::string("thrown: ") + error.what());
     }
   }
-  replies_.insert(replies_.end(), given_.begin(), given_.end());
-  CheckReplies();
+  CheckParts();
+  tale_.Compare();
 }
 
-// Answers that the act before had no use for.
-void Story::CheckReplies() {
-  for (const Reply& reply : replies_) {
-    ADD_FAILURE_AT(file_->Path.c_str(), reply.Line) << "Never came to use: " << reply.Kind << " " << reply.Text;
-  }
-  replies_.clear();
+void Story::CheckParts() {
+  for (const std::string& part : parts_) Fail("Never came to use: " + part);
+  parts_.clear();
 }
 
 void Story::Step() {
-  if (next_ == untold_) {
-    Quiet = true;
-    Sees.LookAtDocument();
-    Quiet = false;
-  }
+  CheckParts();
   now_ = acts_[next_++];
-  const testing::ScopedTrace trace(file_->Path.c_str(), now_->Line, now_->Text);
-  if (TakeReply(now_->Text)) return;
-  CheckReplies();
-  replies_.swap(given_);
-  const bool leaves = Leaves(*now_);
+  const auto [word, rest] = Parted(now_->Text);
+  const bool given = GivenVerbs().contains(word), quietly = word == "quietly";
+  quiet_ = given || quietly || next_ <= untold_;
+  parts_ = given ? std::deque{now_->Text} : PartsOf(quietly ? rest : now_->Text);
+  DoPart();
+}
+
+void Story::DoPart() {
+  part_ = parts_.front();
+  parts_.pop_front();
+  const bool leaves = Leaves(part_);
   const std::size_t open = Hands::OpenForms().size();
-  Do(Expanded(now_->Text));
-  const bool stays = leaves && Hands::OpenForms().size() >= open && !Hands::OpenForms().back()->Closed();
-  if (stays) Sees.Note("stays");
+  Do(Expanded(part_));
+  if (leaves && Hands::OpenForms().size() >= open && !Hands::OpenForms().back()->Closed()) Sees.Note("stays");
   Sees.LookAround();
 }
 
-bool Story::TakeReply(const std::string& text) {
-  const auto [word, rest] = Parted(text);
-  Reply reply{word, Unquoted(Expanded(rest)), now_->Line};
-  constexpr const char* kKinds[] = {"ok", "cancel", "yes", "no", "answers", "chooses"};
-  if (std::find(std::begin(kKinds), std::end(kKinds), reply.Kind) == std::end(kKinds)) return false;
-  given_.push_back(std::move(reply));
-  return true;
+void Story::Do(const std::string& act) {
+  const auto [word, rest] = Parted(act);
+  for (const Verbs* verbs : {&GivenVerbs(), &PersonVerbs(), &MachineVerbs()}) {
+    const auto verb = verbs->find(word);
+    if (verb != verbs->end()) return verb->second(*this, user, rest);
+  }
+  const int id = Names::ControlOf(word);
+  if (id == 0) return Fail("There is no act or control " + word);
+  Use(id, rest.empty() ? std::nullopt : std::optional(Unquoted(rest)));
 }
 
-void Story::Do(const std::string& text) {
-  static const auto kVerbs = [] {
-    auto verbs = PersonVerbs();
-    verbs.merge(CallVerbs());
-    verbs.merge(MachineVerbs());
-    return verbs;
-  }();
-  const auto [word, rest] = Parted(text);
-  const auto verb = kVerbs.find(word);
-  if (verb == kVerbs.end() && rest.starts_with("times ")) {
-    for (int left = std::stoi(word); left > 0; --left) Do(Parted(rest).second);
-    return;
-  }
-  if (verb == kVerbs.end()) return Fail("There is no act \"" + word + "\"");
-  const auto& [traits, act] = verb->second;
-  Said said{*this, user, rest, 0, ""};
-  if ((traits & kControl) != 0) {
-    const auto [name, behind] = Parted(rest);
-    said.Id = Names::ControlOf(name);
-    said.Text = Unquoted(behind);
-    if (said.Id == 0) return Fail("There is no name " + name);
-    if ((traits & kFocus) != 0) Foresee(said, traits);
-  }
-  if ((traits & kUntold) == 0) return act(said);
-  const bool quiet = std::exchange(Quiet, true);
-  act(said);
-  Sees.LookAround();  // what was given beforehand is no news
-  Sees.LookAtDocument();
-  Quiet = quiet;
-}
-
-// Labels and pictures take no focus.
-void Story::Foresee(const Said& said, unsigned traits) {
+// What is no control of the window is an entry of its menu.
+void Story::Use(int id, const std::optional<std::string>& text) {
+  if (Hands::OpenForms().empty()) return Fail("No window is open");
   const auto& controls = Hands::ControlsOf(*Hands::OpenForms().back());
-  const auto found = controls.find(said.Id);
-  if (found == controls.end() || dynamic_cast<const Label*>(found->second) != nullptr ||
-      dynamic_cast<const Picture*>(found->second) != nullptr) {
-    return;
+  const auto found = controls.find(id);
+  if (found == controls.end()) return user.ChoosesMenu(id);
+  Sees.Foresee(*found->second, text);
+  const auto entries = Hands::LookAt(*found->second).Entries;
+  if (!text) {
+    user.Clicks(id);
+  } else if (dynamic_cast<const CheckList*>(found->second) != nullptr) {
+    user.Ticks(id, *text);
+  } else if (std::find(entries.begin(), entries.end(), *text) != entries.end()) {
+    user.Picks(id, *text);
+  } else {
+    user.Types(id, *text);
   }
-  Sees.Foresee({said.Id, (traits & kShows) != 0 ? std::optional(said.Text) : std::nullopt, (traits & kMarks) != 0});
-}
-
-std::string Story::Given() const {
-  std::string text;
-  for (const std::string& line : now_->Given) text += Expanded(line) + "\r\n";
-  return text;
-}
-
-std::string Story::Expanded(std::string text) {
-  for (const auto& [real, name] : Stand()) ReplaceAll(text, name, real);
-  for (std::size_t at = text.find('{'); at != std::string::npos; at = text.find('{', at + 1)) {
-    if (text.find('}', at) == at + 3)
-      text.replace(at, 4, 1, static_cast<char>(std::stoi(text.substr(at + 1, 2), nullptr, 16)));
-  }
-  return text;
 }
 
 std::string Story::Unquoted(const std::string& text) {
@@ -202,12 +172,11 @@ std::string Story::Unquoted(const std::string& text) {
 }
 
 void Story::Say(const std::string& line) {
-  if (!Quiet && now_ != nullptr) now_->Now.push_back(Plain(line));
+  if (!quiet_) now_->Now.push_back(Plain(line));
 }
 
 void Story::Fail(const std::string& why) {
-  ADD_FAILURE_AT(file_->Path.c_str(), now_ == nullptr ? 0 : now_->Line)
-      << (now_ == nullptr ? "" : now_->Text) << ": " << why;
+  ADD_FAILURE_AT(tale_.File->Path.c_str(), now_->Number) << now_->Text << ": " << why;
 }
 
 void Story::Leave() {
@@ -216,74 +185,55 @@ void Story::Leave() {
   StartFresh();
 }
 
-std::optional<Story::Reply> Story::Take(std::initializer_list<const char*> kinds, const std::string& question) {
-  const auto fits = [&](const char* kind) { return !replies_.empty() && replies_.front().Kind == kind; };
-  if (std::none_of(kinds.begin(), kinds.end(), fits)) {
-    Fail("nobody said what to answer to: " + question);
-    return std::nullopt;
+std::string Story::Reply(const std::string& asked) {
+  if (parts_.empty()) {
+    Fail("nobody said what to answer to: " + asked);
+    return "cancel";
   }
-  const Reply reply = replies_.front();
-  replies_.pop_front();
+  const std::string reply = parts_.front();
+  parts_.pop_front();
   return reply;
+}
+
+std::string Story::TextReply(const std::string& asked) {
+  Say(asked);
+  const std::string reply = Reply(asked);
+  if (reply == "cancel") return "";
+  if (!reply.starts_with('"')) Fail(reply + " is no answer to: " + asked);
+  return Unquoted(Expanded(reply));
 }
 
 Answer Story::MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
   Sees.LookAtFiles();
   std::string line = NameOf(icon) + " " + NameOf(buttons) + ": " + text;
   if (caption != Global::ProgramTitle) line += " [" + caption + "]";
-  if (buttons == Buttons::Ok) {
-    Say(line);
-    return Answer::Ok;
-  }
+  Say(line);
+  if (buttons == Buttons::Ok) return Answer::Ok;
   const bool yes_no = buttons == Buttons::YesNo;
-  const auto reply = yes_no ? Take({"yes", "no"}, line) : Take({"ok", "cancel"}, line);
-  const bool agreed = reply && (reply->Kind == "yes" || reply->Kind == "ok");
-  Say(line + (agreed ? yes_no ? " -> yes" : "" : yes_no ? " -> no" : " -> cancel"));
-  if (yes_no) return agreed ? Answer::Yes : Answer::No;
-  return agreed ? Answer::Ok : Answer::Cancel;
+  const std::string reply = Reply(line);
+  if (reply == (yes_no ? "yes" : "ok")) return yes_no ? Answer::Yes : Answer::Ok;
+  if (reply != (yes_no ? "no" : "cancel")) Fail(reply + " is no answer to: " + line);
+  return yes_no ? Answer::No : Answer::Cancel;
 }
 
 std::string Story::InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) {
   std::string line = "input: " + prompt;
   if (!offered.empty()) line += " offers \"" + offered + "\"";
   if (caption != Global::ProgramTitle) line += " [" + caption + "]";
-  Say(line);
-  const auto reply = Take({"answers", "cancel"}, line);
-  return reply ? reply->Text : "";
+  return TextReply(line);
 }
 
 std::string Story::FileDialogCame(const std::string& /*caption*/, const std::string& asked) {
-  Say("file dialog: " + asked);
-  const auto reply = Take({"chooses", "cancel"}, asked);
-  return reply ? reply->Text : "";
+  return TextReply("file dialog: " + asked);
 }
 
 void Story::FormCame(Form& form) {
   const auto open = Hands::OpenForms();
   if (open.size() > 1 && Sees.Knows(*open[open.size() - 2])) Sees.LookAt(*open[open.size() - 2]);
   Sees.LookAround();
-  while (!form.Closed() && next_ < acts_.size()) Step();
+  while (!form.Closed() && (!parts_.empty() || next_ < acts_.size())) parts_.empty() ? Step() : DoPart();
   const std::string name = Names::Of(Hands::TemplateOf(form)).Name;
   if (!form.Closed()) Fail(name + " was left open");
-  if (!Leaves(*now_) && Sees.Knows(form)) Say(name + " closes");
+  if (!Leaves(part_) && Sees.Knows(form)) Say(name + " closes");
   Sees.Forget(form);
-}
-
-void RegisterStories(bool update) {
-  updating = update;
-  std::vector<std::string> paths;
-  for (const auto& entry : std::filesystem::directory_iterator(std::string(FILER_SOURCE_DIR "/tests/scenarios"))) {
-    if (entry.path().extension() == ".txt") paths.push_back(entry.path().generic_string());
-  }
-  std::sort(paths.begin(), paths.end());
-  for (const std::string& path : paths) {
-    const auto file = std::make_shared<StoryFile>(path);
-    for (std::size_t number = 1; number < file->Tales.size(); ++number) {
-      std::string name = file->Tales[number].Title;
-      std::replace_if(
-          name.begin(), name.end(), [](char each) { return std::isalnum(static_cast<unsigned char>(each)) == 0; }, '_');
-      testing::RegisterTest(("Stories/" + file->Name).c_str(), name.c_str(), nullptr, nullptr, path.c_str(),
-                            file->Tales[number].Line, [file, number]() -> Story* { return new Story(file, number); });
-    }
-  }
 }

@@ -1,32 +1,34 @@
 // Stories: what a person does at the program, an act a line, and below each act what is then seen. Text files beside
 // this one hold them; what is seen is written by `filer_tests --update` and reviewed like code.
 //
-//   == does this and that             begins a story; "# ..." is a remark
-//   only in memory                    below a title: not in real windows; above the first title: all of the file
+//   == does this and that      begins a story; "# ..." is a remark
+//   only in memory             below a title: not in real windows; above the first title: all of the file
 //   Acts above the first title come before each story of the file, and nothing of them is told.
 //
-// Given; FILE and FOLDER are names in the test's folder, which "{folder}" stands for; {E9} is a byte, {n} a line's end
-//   given FILE [FILE]                 a file of tests/scenarios/given, under that name
-//   file FILE "text"                  a file of that text; without one, of the lines "| ..." that follow
-//   data FILE                         a data file: the lines "| ..." that follow stand between its first and last
-//   folder FOLDER, erase FILE, read-only FILE, writable FILE
-//   held FILE, kept FILE, released    another program keeps others from writing it, from everything; lets go
-//   recent FILE, FILE                 the recent-files list
-//   home, empty                       the main window shows Home.FIL, or a new document; untold
-// A person's acts, on the topmost window; CONTROL is a name of resource.h, of a row LetterLabel[S], CategoryNameBox[2]
-//   start COMMANDLINE, viewer COMMANDLINE, shutdown (the system asks), leave (unasked)
-//   type CONTROL "text", click CONTROL, focus CONTROL, pick CONTROL "entry", tick CONTROL "entry"
-//   menu ITEM, close, key Enter (Escape, Down, PageDown, Help, ..., with Shift+ or Ctrl+ on a surface; Ctrl+A, Ctrl+C)
+// A person's acts, on the topmost window. CONTROL is a name of resource.h, of a row LetterLabel[S], CategoryNameBox[2].
+//   CONTROL                    clicks a button, label, picture, or chooses a menu entry
+//   CONTROL "text"             picks or ticks the entry of that text; where there is none, types
+//   focus CONTROL, key Enter (Escape, Down, PageDown, Help, ..., with Shift+ or Ctrl+ on a surface; Ctrl+A; several)
+//   start COMMANDLINE, viewer COMMANDLINE, leave (unasked), close, shutdown (the system asks)
 //   drag SURFACE 1,2 3,4 (column, row; from 0), double-click SURFACE 1,2, wheel SURFACE 3, page SURFACE 2 (or 2 across)
 //   drag and wheel with "shift" at the end, wheel with "ctrl"
-//   A click on OKButton or CancelButton closes a form; one that does not is told of ("stays").
-//   3 times ACT, quietly ACT (untold)
-// Standing before the act whose questions they answer; a plain OK box needs none
-//   ok, cancel, yes, no, answers "text" (an input box), chooses "file" (a file dialog)
+//   drop FILE                  with the mouse, on the main window
+// Behind the act, parted by ", ", what is done to what it brings up until the window is at hand again:
+//   yes, no, ok, cancel        to boxes; a plain OK box needs none
+//   "text" or cancel           to an input box or a file dialog
+//   acts                       in a form; those that leave it open may also stand in lines of their own
 // Looking closer
-//   document (what changed in it since last told), entry ITEM (what it says), show FILE, clipboard,
-//   lock FILE (can another write it?)
-// What code does: calls.cpp. In memory only: tests/support/headless/machine_verbs.cpp
+//   show FILE, clipboard
+// What code does: prints NAME (opens a print file as reports do), fails (runs a form whose start fails)
+// Given, untold; FILE and FOLDER are names in the test's folder, which "{folder}" stands for; {E9} is a byte
+//   given FILE [FILE]          a file of tests/scenarios/given, under that name
+//   file FILE text / text      a file of these lines; of one, without a line's end
+//   data FILE text / text      a data file: these lines stand between its first and last
+//   folder FOLDER, FOLDER; erase FILE, read-only FILE, writable FILE
+//   held FILE, kept FILE, released    another program keeps others from writing it, from everything; lets go
+//   home [FILE], shows text / text    the main window shows Home.FIL or another given file, or one of these lines
+//   quietly ACT; full          as many things as can be
+// In memory only: tests/support/headless/machine_verbs.cpp
 #pragma once
 
 #include <deque>
@@ -44,26 +46,14 @@
 
 class Story : public FreshTest, public Listener {
  public:
-  // An act: what stands behind its word; if that begins with the name of a control, its id and what stands behind it.
-  struct Said {
-    Story& Teller;
-    User& Person;
-    std::string Rest;
-    int Id = 0;
-    std::string Text;
-  };
-  // Of a verb: nothing of it is told; it names a control; it gives that the focus, shows its text there, marks it.
-  enum Traits : unsigned { kUntold = 1, kControl = 2, kFocus = 4, kShows = 8, kMarks = 16 };
-  struct Verb {
-    unsigned Is = 0;
-    std::function<void(const Said& said)> Act;
-  };
+  using Verb = std::function<void(Story& story, User& person, const std::string& rest)>;
+  using Verbs = std::map<std::string, Verb>;
 
-  Story(std::shared_ptr<StoryFile> file, std::size_t number);
+  Story(const Tale& above, const Tale& tale);
   ~Story() override;
 
   // For verbs.
-  void Do(const std::string& text);
+  void Do(const std::string& act);
   void Say(const std::string& line);
   void Fail(const std::string& why);
   void Leave();  // closes the main window unasked
@@ -73,11 +63,9 @@ class Story : public FreshTest, public Listener {
     form_ = std::move(form);
     return opened;
   }
-  std::string Given() const;  // the lines "| ..." of the act
-  static std::string Expanded(std::string text);
+  static std::deque<std::string> PartsOf(const std::string& act);  // parted by ", ", except in quotes
   static std::string Unquoted(const std::string& text);
   Recorder Sees;
-  bool Quiet = true;  // nothing is told
 
   Answer MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
   std::string InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) override;
@@ -85,33 +73,30 @@ class Story : public FreshTest, public Listener {
   void FormCame(Form& form) override;
 
  private:
-  struct Reply {
-    std::string Kind, Text;
-    int Line;
-  };
   void SetUp() override;
   void TearDown() override;
   void TestBody() override;
-  void Run();
   void Step();
-  void Foresee(const Said& said, unsigned traits);
-  bool TakeReply(const std::string& text);
-  void CheckReplies();
-  std::optional<Reply> Take(std::initializer_list<const char*> kinds, const std::string& question);
+  void DoPart();
+  void Use(int id, const std::optional<std::string>& text);
+  std::string Reply(const std::string& asked);
+  std::string TextReply(const std::string& asked);
+  void CheckParts();
 
-  std::shared_ptr<StoryFile> file_;
-  std::size_t number_;
-  std::vector<Act*> acts_;
+  Tale above_, tale_;
+  std::vector<StoryLine*> acts_;
   std::size_t untold_ = 0, next_ = 0;  // so many come before the story; the one to come
-  Act* now_ = nullptr;
-  std::deque<Reply> replies_, given_;  // to the act that runs; to the next one
+  StoryLine* now_ = nullptr;
+  bool quiet_ = true;              // nothing is told
+  std::deque<std::string> parts_;  // of the act that runs, those to come
+  std::string part_;
   std::unique_ptr<Form> form_;
 };
 
-std::map<std::string, Story::Verb> PersonVerbs();
-std::map<std::string, Story::Verb> CallVerbs();
-std::map<std::string, Story::Verb> MachineVerbs();  // none in real windows
-void ResetMachine();                                // after those
+// The first word, and what stands behind it.
+std::pair<std::string, std::string> Parted(const std::string& text);
 
-// Makes each story a test case; with `update`, running one writes what was seen into its file.
-void RegisterStories(bool update);
+const Story::Verbs& GivenVerbs();  // nothing of them is told
+const Story::Verbs& PersonVerbs();
+const Story::Verbs& MachineVerbs();  // none in real windows
+void ResetMachine();                 // after those

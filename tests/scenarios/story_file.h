@@ -1,35 +1,37 @@
-// The files that hold the stories: read, compared with what a run saw, and written anew.
+// The files that hold stories: read, made test cases of, compared with what a run saw, and written anew.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
-struct Act {
-  std::vector<std::string> Before;  // titles, remarks and empty lines above it
-  int Line = 0;                     // in the file, from 1
+// A line that a person wrote - a title, an act, a remark - and what is indented below it.
+struct StoryLine {
+  int Number = 0;  // in the file, from 1
   std::string Text;
-  std::vector<std::string> Given;  // the lines "| ..." below it
-  std::vector<std::string> Seen;   // as the file has it
-  std::vector<std::string> Now;    // as this run saw it
-};
-
-struct Tale {
-  std::string Title;
-  int Line = 0;
-  bool InMemoryOnly = false;
-  std::vector<Act> Acts;
+  std::vector<std::string> Seen = {}, Now = {};  // as the file has it; as this run saw it
 };
 
 struct StoryFile {
   std::string Path;
-  std::string Name;                 // without folder and type
-  std::vector<Tale> Tales{Tale()};  // the first one: what comes before each of the others
-  std::vector<std::string> Tail;
-
-  explicit StoryFile(const std::string& path);
-  void Write() const;
+  std::vector<StoryLine> Lines;
 };
 
-// Fails the test, with the lines that differ, unless what was seen is as the file has it.
-void ExpectAsWritten(const StoryFile& file, const Tale& tale);
+// One story: the lines from its title up to the next one; or what stands above all titles.
+struct Tale {
+  std::shared_ptr<StoryFile> File;
+  std::size_t From, To;
+
+  std::vector<StoryLine*> Acts() const;
+  bool Says(const std::string& line) const;
+  // Fails the test, with the lines that differ, unless what was seen is as the file has it; or makes it so.
+  void Compare() const;
+};
+
+// Makes each story in the files of tests/`folder` a test case "suite/file.title", which `make` makes of the story and
+// of what stands above the titles.
+using MakeStory = std::function<testing::Test*(const Tale& above, const Tale& tale)>;
+bool RegisterStories(const std::string& suite, const std::string& folder, const MakeStory& make);

@@ -4,11 +4,11 @@
 #include <iterator>
 
 #include "document/document.h"
-#include "document/file_handles.h"
+#include "document/find.h"
+#include "document/names.h"
 #include "document/reader.h"
-#include "document/writer.h"
-#include "platform/files.h"
 #include "support/fresh_test.h"
+#include "support/rows.h"
 #include "values/evaluator.h"
 #include "values/field_types.h"
 #include "values/templates.h"
@@ -34,20 +34,15 @@ std::vector<std::string> Between(const std::string& text, const std::string& bef
 
 // The text of a piece of a page: without tags, entities as characters.
 std::string Plain(std::string text) {
-  for (const std::string& tag : Between(text, "<", ">")) text.erase(text.find("<" + tag), tag.size() + 2);
-  const std::pair<std::string, std::string> entities[] = {{"&lt;", "<"}, {"&gt;", ">"}, {"&amp;", "&"}};
-  for (const auto& [entity, character] : entities) {
-    for (auto at = text.find(entity); at != std::string::npos; at = text.find(entity, at + 1)) {
-      text.replace(at, entity.size(), character);
-    }
-  }
-  return text;
+  for (const std::string& tag : Between(text, "<", ">")) text = Replaced(text, "<" + tag + ">", "");
+  return Replaced(Replaced(Replaced(text, "&lt;", "<"), "&gt;", ">"), "&amp;", "&");
 }
 
 // The rows of all tables of a class with that many columns, headings left out.
-std::vector<std::vector<std::string>> RowsOf(const std::string& table_class, std::size_t columns) {
+std::vector<std::vector<std::string>> RowsOf(const std::string& table_class, std::size_t columns,
+                                             const std::string& name = "Larkspur_Formulas.htm") {
   std::vector<std::vector<std::string>> rows;
-  const std::string page = ReadPage("Larkspur_Formulas.htm");
+  const std::string page = ReadPage(name);
   for (const std::string& table : Between(page, "<table class=\"" + table_class + "\">", "</table>")) {
     for (const std::string& row : Between(table, "<tr>", "</tr>")) {
       std::vector<std::string> cells = Between(row, "<td>", "</td>");
@@ -62,9 +57,8 @@ std::vector<std::vector<std::string>> RowsOf(const std::string& table_class, std
 class HelpPagesTest : public FreshTest {};
 
 TEST_F(HelpPagesTest, CalculationsAndFormulasComeOutAsTheySay) {
-  std::array<FieldValueSlot, kFieldValues> slots{};
-  const char* const values[] = {"PRICE:12.50", "QTY:4", "CHANCE:55%", "WEIGHT:0.75"};
-  for (std::size_t slot = 0; slot < std::size(values); ++slot) slots[slot].Text = values[slot];
+  const std::array<FieldValueSlot, kFieldValues> slots = {
+      {{"PRICE:12.50"}, {"QTY:4"}, {"CHANCE:55%"}, {"WEIGHT:0.75"}}};
   const auto rows = RowsOf("checked", 4);
   EXPECT_GT(rows.size(), 40U);
   for (const auto& row : rows) {
@@ -72,6 +66,28 @@ TEST_F(HelpPagesTest, CalculationsAndFormulasComeOutAsTheySay) {
     const std::string result = Global::EvaluateExpression(expression, StorageType(row[1]), true);
     EXPECT_EQ(result, row[2]) << row[0];
     EXPECT_EQ(FormatValue(result, row[1], ""), row[3]) << row[0];
+  }
+}
+
+TEST_F(HelpPagesTest, FindsWhatItSays) {
+  TestFiles::Put("Household.FIL", ReadPage("../samples/Household.FIL"));
+  ASSERT_TRUE(LoadFilerFile("Household.FIL"));
+  const std::vector<std::string> places = {"Everything", "Names", "Notes", "Values", "Categories"};
+  const std::vector<std::string> signs = {"is",        "is not",   "less than", "at most",
+                                          "more than", "at least", "is empty",  "is not empty"};
+  const auto number_of = [](const std::vector<std::string>& all, const std::string& text) {
+    return std::find(all.begin(), all.end(), text) - all.begin();
+  };
+  const auto rows = RowsOf("checked-find", 6, "Larkspur_FindForm.htm");
+  EXPECT_GT(rows.size(), 10U);
+  for (const auto& row : rows) {
+    FindRequest request{row[0], static_cast<FindPlace>(number_of(places, row[1])), {row[2], Comparison::Is, row[4]}};
+    if (!row[3].empty()) request.Value.How = static_cast<Comparison>(number_of(signs, row[3]));
+    std::string found;
+    for (const Hit& hit : FindThings(request)) {
+      found += (found.empty() ? "" : ", ") + JoinUnderscoredWords(TheDocument.Things[hit.Record].NAME);
+    }
+    EXPECT_EQ(found, row[5]) << row[0] << row[2];
   }
 }
 
@@ -83,18 +99,12 @@ TEST_F(HelpPagesTest, FormatsShowWhatTheySay) {
 
 TEST_F(HelpPagesTest, TheDataFileLoadsAndIsSavedAsItStands) {
   const auto examples = Between(ReadPage("Larkspur_DataFile.htm"), "<pre id=\"example-file\">", "</pre>");
-  ASSERT_EQ(examples.size(), 1U);
-  std::string bytes;
-  for (const char each : Plain(examples[0])) bytes += each == '\n' ? std::string("\r\n") : std::string(1, each);
+  const std::string bytes = Replaced(Plain(examples.at(0)), "\n", "\r\n");
   TestFiles::Put("Example.FIL", bytes);
   MakeNew();
   ASSERT_TRUE(LoadFilerFile(InFolder("Example.FIL")));
   EXPECT_EQ(TheDocument.Things.Count(), 3);
-  Files::Open(kDataFileHandle, InFolder("Again.FIL"), Files::Mode::Output);
-  SaveFilerFile(kDataFileHandle);
-  Files::Close(kDataFileHandle);
-  EXPECT_EQ(TestFiles::Get("Again.FIL"), bytes);
-  MakeNew();
+  EXPECT_EQ(Saved("Again.FIL"), bytes);
 }
 
 }  // namespace

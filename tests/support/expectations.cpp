@@ -83,7 +83,7 @@ std::string Expectations::InputCame(const std::string& prompt, const std::string
 
 std::string Expectations::FileDialogCame(const std::string& caption, const std::string& /*asked*/) {
   LastCaption = caption;
-  return Take(File(), caption).Reply;
+  return Take("a file dialog", caption).Reply;
 }
 
 void Expectations::FormCame(Form& form) {

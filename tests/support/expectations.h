@@ -30,7 +30,6 @@ class Expectations : public Listener {
   // Their wording.
   static std::string Box(const std::string& text, Icon icon, Buttons buttons);
   static std::string Input(const std::string& prompt) { return "an input box \"" + prompt + "\""; }
-  static std::string File() { return "a file dialog"; }
   static std::string Window(int template_id) { return "form " + std::to_string(template_id); }
 
  private:

@@ -48,10 +48,11 @@ void DoubleClick(Control& control, Cell at);  // a surface at a cell, or a pictu
 void TurnWheel(Control& control, int notches, bool shift, bool control_key);
 void PageBar(Surface& surface, Surface::Bar bar, int pages);
 void Close(Form& form);
-void ShutDown(Form& form);  // the system asks whether it may
-void Settle();              // lets everything happen that an act set off
+bool Drop(Form& form, const std::string& file);  // by its full name; false when the pointer refuses it
+void ShutDown(Form& form);                       // the system asks whether it may
+void Settle();                                   // lets everything happen that an act set off
 
-// The command lines of the programs started since the last call; only the in-memory machine knows.
-std::vector<std::string> StartedPrograms();
+// The programs started and the pages printed since the last call, in words; only the in-memory machine knows.
+std::vector<std::string> MachineNews();
 
 }  // namespace Hands

@@ -3,12 +3,10 @@
 
 #include <string_view>
 
-#include "scenarios/story.h"
 #include "support/update.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   UpdatesGolden = argc > 1 && std::string_view(argv[1]) == "--update";
-  RegisterStories(UpdatesGolden);
   return RUN_ALL_TESTS();
 }

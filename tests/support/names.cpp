@@ -53,7 +53,8 @@ void ReadControl(const std::string& line, const Book& book, Names::Template& for
   form.Controls[first + place] = in_row ? InRow(name, place) : name;
   if (in_row) form.Controls[first] = InRow(name, 0);
   if (kind == "MENUITEM") {
-    form.MenuItems.push_back(first);
+    // One that begins greyed follows what is shown: an act asks for it.
+    if (line.find("GRAYED") == std::string::npos) form.MenuItems.push_back(first);
   } else {
     form.Texts[first + place] = Between(line.substr(0, at));
     if (line.find("ES_MULTILINE") != std::string::npos) form.Lines.insert(first);

@@ -2,14 +2,13 @@
 #include "support/properties.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "document/document.h"
-#include "document/file_handles.h"
 #include "document/file_lock.h"
 #include "document/reader.h"
 #include "document/writer.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/references.h"
 #include "shell/messages.h"
@@ -17,18 +16,18 @@
 
 namespace {
 
-template <class Record, std::size_t kTexts>
-using Texts = std::array<std::pair<const char*, std::string Record::*>, kTexts>;
+template <class Record>
+using Texts = std::vector<std::pair<const char*, std::string Record::*>>;
 
-const Texts<FieldDefinition, 3> kFieldTexts = {
-    {{"keyword", &FieldDefinition::Keyword}, {"title", &FieldDefinition::Title}, {"type", &FieldDefinition::Type}}};
-const Texts<FormulaDefinition, 5> kFormulaTexts = {{{"name", &FormulaDefinition::Name},
-                                                    {"title", &FormulaDefinition::Title},
-                                                    {"type", &FormulaDefinition::Type},
-                                                    {"format", &FormulaDefinition::Format},
-                                                    {"formula", &FormulaDefinition::Formula}}};
-const Texts<ThingRecord, 3> kThingTexts = {
-    {{"name", &ThingRecord::NAME}, {"note", &ThingRecord::NOTE}, {"photo", &ThingRecord::PICFILENAME}}};
+const Texts<FieldDefinition> kFieldTexts = {
+    {"keyword", &FieldDefinition::Keyword}, {"title", &FieldDefinition::Title}, {"type", &FieldDefinition::Type}};
+const Texts<FormulaDefinition> kFormulaTexts = {{"name", &FormulaDefinition::Name},
+                                                {"title", &FormulaDefinition::Title},
+                                                {"type", &FormulaDefinition::Type},
+                                                {"format", &FormulaDefinition::Format},
+                                                {"formula", &FormulaDefinition::Formula}};
+const Texts<ThingRecord> kThingTexts = {
+    {"name", &ThingRecord::NAME}, {"note", &ThingRecord::NOTE}, {"photo", &ThingRecord::PICFILENAME}};
 
 std::string Member(const std::string& title, const std::string& text) {
   return text.empty() ? "" : " " + title + "<" + text + ">";
@@ -38,17 +37,6 @@ std::string Member(const std::string& title, int number) {
   return number == 0 ? "" : " " + title + " " + std::to_string(number);
 }
 
-template <class Table, class Texts, class More>
-std::string Describe(const std::string& kind, const Table& table, const Texts& texts, More more) {
-  std::string lines;
-  for (int number = 1; number <= table.Count(); ++number) {
-    lines += kind + std::to_string(number);
-    for (const auto& [title, text] : texts) lines += Member(title, table[number].*text);
-    lines += more(table[number]) + "\n";
-  }
-  return lines;
-}
-
 std::string NumbersAndValues(const ThingRecord& thing) {
   std::string line =
       Member("xref1", thing.XREF1) + Member("xref2", thing.XREF2) + Member("categories", thing.CATBITMAP);
@@ -56,6 +44,18 @@ std::string NumbersAndValues(const ThingRecord& thing) {
     line += Member("slot" + std::to_string(slot + 1), thing.Values[slot].Text);
   }
   return line;
+}
+
+template <class Record>
+std::string Describe(const std::string& kind, const RecordTable<Record>& table, const Texts<Record>& texts) {
+  std::string lines;
+  for (int number = 1; number <= table.Count(); ++number) {
+    lines += kind + std::to_string(number);
+    for (const auto& [title, text] : texts) lines += Member(title, table[number].*text);
+    if constexpr (std::is_same_v<Record, ThingRecord>) lines += NumbersAndValues(table[number]);
+    lines += "\n";
+  }
+  return lines;
 }
 
 // The first line of each in which two documents differ.
@@ -69,14 +69,13 @@ std::string Difference(const std::string& before, const std::string& after) {
 }  // namespace
 
 std::string DescribeDocument() {
-  const auto nothing = [](const auto&) { return std::string(); };
   std::string lines;
   for (int number = 1; number <= TheDocument.CategoryNames.Highest(); ++number) {
     lines += "category " + std::to_string(number) + Member("name", TheDocument.CategoryNames[number]) + "\n";
   }
-  return lines + Describe("field ", TheDocument.Fields, kFieldTexts, nothing) +
-         Describe("formula ", TheDocument.Formulas, kFormulaTexts, nothing) +
-         Describe("thing ", TheDocument.Things, kThingTexts, NumbersAndValues);
+  return lines + Describe("field ", TheDocument.Fields, kFieldTexts) +
+         Describe("formula ", TheDocument.Formulas, kFormulaTexts) +
+         Describe("thing ", TheDocument.Things, kThingTexts);
 }
 
 std::string JoinedSlots(const FieldSlots& slots) {

@@ -12,6 +12,11 @@
 namespace {
 
 using Texts = std::vector<std::string>;
+using Aspects = std::map<std::string, std::string>;
+
+constexpr const char* kIfs[] = {"bold",   "bordered",  "checked",        "chosen", "disabled", "focus",
+                                "greyed", "read-only", "with a picture", "hidden", "lit"};
+constexpr const char* kMarked = " marked";  // behind the text that it marks; " marked 1-5" for a part of it
 
 std::string Quoted(const std::string& text) { return '"' + text + '"'; }
 
@@ -30,33 +35,17 @@ Texts LinesIn(const std::string& lines) {
 
 // "a | b | (3) | c": entries without a text are counted.
 std::string Joined(const Texts& texts) {
+  constexpr int kMany = 10;
   std::string line;
-  for (std::size_t at = 0; at < texts.size(); ++at) {
+  int parts = 0;
+  for (std::size_t at = 0; at < texts.size(); ++at, ++parts) {
     std::size_t empty = 0;
     while (at + empty < texts.size() && texts[at + empty].empty()) ++empty;
     line += (line.empty() ? "" : " | ") + (empty == 0 ? texts[at] : "(" + std::to_string(empty) + ")");
     if (empty != 0) at += empty - 1;
   }
+  if (parts > kMany) return texts.front() + " ... " + texts.back() + " (" + std::to_string(texts.size()) + ")";
   return line.empty() ? "(none)" : line;
-}
-
-// A short list whole, of a long one what is between the places that stayed: ": 12 of 40 + Fork | Spade - Zoo".
-std::string ListNews(const Texts& before, const Texts& now) {
-  constexpr std::size_t kLong = 100, kMany = 6;
-  if (Joined(now).size() <= kLong) return ": " + Joined(now);
-  const auto first = std::mismatch(now.begin(), now.end(), before.begin(), before.end());
-  auto now_end = now.end();
-  auto before_end = before.end();
-  while (now_end != first.first && before_end != first.second && now_end[-1] == before_end[-1]) --now_end, --before_end;
-  std::string news = ": " + std::to_string(first.first - now.begin() + 1) + " of " + std::to_string(now.size());
-  for (const auto& [sign, part] :
-       {std::pair(" + ", Texts(first.first, now_end)), std::pair(" - ", Texts(first.second, before_end))}) {
-    if (part.size() > kMany)
-      news += sign + part.front() + " ... " + part.back();
-    else if (!part.empty())
-      news += sign + Joined(part);
-  }
-  return news;
 }
 
 // The rows of a page that differ: " 4: text / 5: text"; of many, the first one and the last.
@@ -94,59 +83,76 @@ std::string NamesOf(int form, const std::vector<int>& ids) {
   return line;
 }
 
-// Behind the text that it marks: " marked", or " marked 1-5" for a part of it.
-constexpr const char* kMarked = " marked";
-
-std::string MarkIn(const Hands::Sight& sight) {
-  const auto [first, last] = sight.Mark;
-  const bool whole = first == 0 && last == static_cast<int>(sight.Text.size());
-  return whole ? kMarked : kMarked + (" " + std::to_string(first)) + "-" + std::to_string(last);
+template <typename... Kinds>
+bool IsA(const Control& control) {
+  return (... || (dynamic_cast<const Kinds*>(&control) != nullptr));
 }
 
 // What the template says on a label or button. In memory nobody sees it: an empty one stands for that text.
 std::string BlankText(const Form& form, const Control& control) {
-  const bool has_text =
-      dynamic_cast<const Label*>(&control) != nullptr || dynamic_cast<const Button*>(&control) != nullptr ||
-      dynamic_cast<const OptionButton*>(&control) != nullptr || dynamic_cast<const Frame*>(&control) != nullptr;
   const auto& texts = Names::Of(Hands::TemplateOf(form)).Texts;
   const auto found = texts.find(control.Id());
-  return !has_text || found == texts.end() ? "" : found->second;
+  return !IsA<Label, Button, OptionButton, Frame>(control) || found == texts.end() ? "" : found->second;
 }
 
 // What is in a list or on a surface.
-void SeeInside(const Control& control, const Hands::Sight& sight, std::map<std::string, std::string>& told) {
+void SeeInside(const Control& control, const Hands::Sight& sight, Aspects& told) {
   Texts ticked;
   for (std::size_t at = 0; at < sight.Ticks.size(); ++at) {
     if (sight.Ticks[at]) ticked.push_back(sight.Entries[at]);
   }
   if (!ticked.empty()) told[" ticked"] = Joined(ticked);
   if (!sight.Entries.empty()) told[":"] = InLines(sight.Entries);
-  const bool box = dynamic_cast<const ListBox*>(&control) != nullptr;
-  if (box && sight.Selected >= 0) told[""] = Quoted(sight.Entries.at(static_cast<std::size_t>(sight.Selected)));
+  if ((IsA<ListBox, RowList>(control)) && sight.Selected >= 0) {
+    told[""] = Quoted(sight.Entries.at(static_cast<std::size_t>(sight.Selected)));
+  }
   const auto* surface = dynamic_cast<const Surface*>(&control);
   if (surface == nullptr) return;
   const Page page = Hands::PageOn(*surface);
   told["#"] = InLines(RowsOf(page, true));
   if (page.ShowsCaret) told[" caret"] = std::to_string(page.Caret.Column) + "," + std::to_string(page.Caret.Row);
-  const int across = Hands::BarOn(*surface, Surface::Bar::Across), down = Hands::BarOn(*surface, Surface::Bar::Down);
-  if (across >= 0) told[" across"] = std::to_string(across);
-  if (down >= 0) told[" down"] = std::to_string(down);
+  for (const auto& [bar, word] : {std::pair(Surface::Bar::Across, " across"), std::pair(Surface::Bar::Down, " down")}) {
+    if (const int at = Hands::BarOn(*surface, bar); at >= 0) told[word] = std::to_string(at);
+  }
 }
 
-std::set<std::string> MarksOf(const Control& control, const Hands::Sight& sight) {
-  std::set<std::string> marks;
-  const auto add = [&marks](bool holds, const char* word) {
-    if (holds) marks.insert(word);
-  };
-  add(!sight.Enabled, "disabled");
-  add(sight.Bold, "bold");
-  if (const auto* label = dynamic_cast<const Label*>(&control)) add(label->Border(), "bordered");
-  if (const auto* button = dynamic_cast<const Button*>(&control))
-    add(button->BackColor() == BackColor::Marked, "marked");
-  if (const auto* option = dynamic_cast<const OptionButton*>(&control)) add(option->Checked(), "chosen");
-  if (const auto* box = dynamic_cast<const TextBox*>(&control)) add(box->ReadOnly(), "read-only");
-  if (const auto* picture = dynamic_cast<const Picture*>(&control)) add(!picture->Empty(), "with a picture");
-  return marks;
+// What is so of it.
+void SeeIfs(const Control& control, const Hands::Sight& sight, Aspects& told) {
+  const auto* label = dynamic_cast<const Label*>(&control);
+  const auto* button = dynamic_cast<const Button*>(&control);
+  const auto* option = dynamic_cast<const OptionButton*>(&control);
+  const auto* box = dynamic_cast<const TextBox*>(&control);
+  const auto* picture = dynamic_cast<const Picture*>(&control);
+  const std::pair<const char*, bool> all[] = {{"disabled", !sight.Enabled},
+                                              {"bold", sight.Bold},
+                                              {"bordered", label != nullptr && label->Border()},
+                                              {"lit", button != nullptr && button->BackColor() == BackColor::Marked},
+                                              {"chosen", option != nullptr && option->Checked()},
+                                              {"read-only", box != nullptr && box->ReadOnly()},
+                                              {"with a picture", picture != nullptr && !picture->Empty()}};
+  for (const auto& [word, holds] : all) {
+    if (holds) told[word];
+  }
+}
+
+// What is new of a control, piece by piece; that a text is marked no longer is no news.
+Texts NewsOf(Aspects before, Aspects now) {
+  Texts news;
+  for (const auto& [what, text] : Aspects(before)) now[what];
+  for (const auto& [what, text] : now) {
+    const std::string old = before[what];
+    if (old == text || old.starts_with(text + kMarked)) continue;
+    if (what.empty()) {
+      news.push_back(" " + (text.empty() ? Quoted("") : text));
+    } else if (what == ":") {
+      if (news.empty() || !news.back().starts_with(" \"")) news.emplace_back();
+      news.back() += ": " + Joined(LinesIn(text));
+    } else {
+      news.push_back(what == "#" ? PageNews(LinesIn(old), LinesIn(text))
+                                 : what + " " + (text.empty() ? "no more" : text));
+    }
+  }
+  return news;
 }
 
 }  // namespace
@@ -160,33 +166,35 @@ Recorder::State Recorder::BlankOf(const Form& form) {
 }
 
 Recorder::State Recorder::StateOf(const Form& form, const State& before) {
-  State state;
-  state.Form = Hands::TemplateOf(form);
-  state.Caption = form.Caption().empty() ? Names::Of(state.Form).Caption : form.Caption();
+  const auto& names = Names::Of(Hands::TemplateOf(form));
+  State state{Hands::TemplateOf(form), form.Caption().empty() ? names.Caption : form.Caption(), {}};
   const bool topmost = Hands::OpenForms().back() == &form;
   for (const auto& [id, control] : Hands::ControlsOf(form)) {
     const Hands::Sight sight = Hands::LookAt(*control);
     Aspects& told = state.Controls[id];
     if (!sight.Visible) {
-      state.Marks.emplace("hidden", id);
+      told["hidden"];
       continue;
     }
     const std::string text = sight.Text.empty() ? BlankText(form, *control) : sight.Text;
     if (!text.empty()) told[""] = Quoted(text);
-    const bool marked = topmost && sight.Focused && sight.Mark.first != sight.Mark.second;
-    if (marked && !Names::Of(state.Form).Lines.contains(id)) told[""] += MarkIn(sight);
+    const auto [first, last] = sight.Mark;
+    if (topmost && sight.Focused && first != last && !names.Lines.contains(id)) {
+      const bool whole = first == 0 && last == static_cast<int>(sight.Text.size());
+      told[""] += kMarked + (whole ? "" : " " + std::to_string(first) + "-" + std::to_string(last));
+    }
     if (!control->ToolTip().empty()) told[" tip"] = Quoted(control->ToolTip());
     SeeInside(*control, sight, told);
-    for (const std::string& mark : MarksOf(*control, sight)) state.Marks.emplace(mark, id);
-    if (topmost && sight.Focused) state.Marks.emplace("focus", id);
+    SeeIfs(*control, sight, told);
+    // While another form is on top, it waits where it was.
+    const auto old = before.Controls.find(id);
+    if (topmost ? sight.Focused : old != before.Controls.end() && old->second.contains("focus")) told["focus"];
   }
-  for (const auto& mark : before.Marks) {
-    if (!topmost && mark.first == "focus") state.Marks.insert(mark);  // it waits there
-  }
-  for (const int item : Names::Of(state.Form).MenuItems) {
-    // What an entry says that the program words itself, an act asks for.
-    if (!form.MenuEnabled(item) && form.MenuText(item).empty()) state.Marks.emplace("greyed", item);
-    if (form.MenuChecked(item)) state.Marks.emplace("checked", item);
+  for (const int item : names.MenuItems) {
+    const std::string text = form.MenuText(item);  // of those that the program words itself
+    if (!text.empty()) state.Controls[item][""] = Quoted(text.substr(0, text.find('\t')));
+    if (!form.MenuEnabled(item)) state.Controls[item]["greyed"];
+    if (form.MenuChecked(item)) state.Controls[item]["checked"];
   }
   return state;
 }
@@ -195,54 +203,30 @@ void Recorder::LookAt(const Form& form) {
   const bool known = Knows(form);
   const auto opened = opened_.find(Hands::TemplateOf(form));
   State before = known ? forms_.at(&form) : opened == opened_.end() ? BlankOf(form) : opened->second;
-  if (known) ForeseeAct(before);
+  if (known && foreseen_ && before.Controls.contains(foreseen_->first)) {
+    for (auto& [id, told] : before.Controls) told.erase("focus");
+    for (const auto& [what, text] : foreseen_->second) before.Controls[foreseen_->first][what] = text;
+  }
   const State now = StateOf(form, before);
-  if (!known) say_(Names::Of(now.Form).Name + " opens: " + now.Caption);
+  if (!known) Note(Names::Of(now.Form).Name + " opens: " + now.Caption);
   if (known && before.Caption != now.Caption) Note("caption " + Quoted(now.Caption));
   Tell(before, now);
   forms_[&form] = now;
   if (!known) opened_[now.Form] = now;
 }
 
-void Recorder::ForeseeAct(State& before) const {
-  if (!before.Controls.contains(foreseen_.Id)) return;
-  Aspects& told = before.Controls.at(foreseen_.Id);
-  if (foreseen_.Text) told[""] = Quoted(*foreseen_.Text);
-  if (foreseen_.Text && foreseen_.Text->empty()) told.erase("");
-  if (foreseen_.Marked && told.contains("") && !told[""].ends_with(kMarked)) told[""] += kMarked;
-  std::erase_if(before.Marks, [](const auto& mark) { return mark.first == "focus"; });
-  before.Marks.emplace("focus", foreseen_.Id);
-}
-
-namespace {
-
-// What is new of a control, piece by piece; that a text is marked no longer is no news.
-Texts NewsOf(std::map<std::string, std::string> before, std::map<std::string, std::string> now) {
-  Texts news;
-  for (const auto* aspects : {&before, &now}) {
-    for (const auto& [what, text] : std::map(*aspects)) {
-      before[what];
-      now[what];
-    }
+// Labels and pictures take no focus. What is picked is marked, and so is what comes to a box that gets the focus.
+void Recorder::Foresee(const Control& control, const std::optional<std::string>& text) {
+  if (IsA<Label, Picture>(control)) return;
+  const Hands::Sight sight = Hands::LookAt(control);
+  const bool picked = text && std::count(sight.Entries.begin(), sight.Entries.end(), *text) != 0;
+  foreseen_.emplace(control.Id(), Aspects{{"focus", ""}});
+  if (IsA<CheckList>(control)) return;
+  const std::string shown = text.value_or(sight.Text);
+  if (text || IsA<TextBox, ComboBox>(control)) {
+    foreseen_->second[""] = shown.empty() ? "" : Quoted(shown) + (picked || !text ? kMarked : "");
   }
-  for (const auto& [what, text] : now) {
-    const std::string& old = before.at(what);
-    if (old == text || old.starts_with(text + kMarked)) continue;
-    if (what.empty()) {
-      news.push_back(" " + (text.empty() ? Quoted("") : text));
-    } else if (what == ":") {
-      const bool joins = !news.empty() && news.back().starts_with(" \"");
-      if (!joins) news.emplace_back();
-      news.back() += ListNews(LinesIn(old), LinesIn(text));
-    } else {
-      news.push_back(what == "#" ? PageNews(LinesIn(old), LinesIn(text))
-                                 : what + " " + (text.empty() ? "no more" : text));
-    }
-  }
-  return news;
 }
-
-}  // namespace
 
 void Recorder::Tell(const State& before, const State& now) {
   // Controls that say the same are named together; so are the texts of neighbours in a row.
@@ -258,27 +242,27 @@ void Recorder::Tell(const State& before, const State& now) {
     lines.back().second.push_back(id);
   };
   for (const auto& [id, told] : now.Controls) {
-    if (now.Marks.contains({"hidden", id})) continue;
     const auto old = before.Controls.find(id);
+    if (told.contains("hidden")) continue;
     for (const std::string& news : NewsOf(old == before.Controls.end() ? Aspects() : old->second, told)) add(id, news);
   }
   for (const auto& [news, ids] : lines) Note(NamesOf(now.Form, ids) + news);
-  TellMarks(before, now);
-  Note("");
+  for (const char* what : kIfs) TellIf(what, before, now);
 }
 
-void Recorder::TellMarks(const State& before, const State& now) {
-  std::map<std::string, std::pair<std::vector<int>, std::vector<int>>> lines;  // it is so; not any more
-  for (const auto& [mark, id] : now.Marks) {
-    if (!before.Marks.contains({mark, id})) lines[mark].first.push_back(id);
-  }
-  for (const auto& [mark, id] : before.Marks) {
-    if (!now.Marks.contains({mark, id}) && mark != "focus") lines[mark].second.push_back(id);
-  }
-  for (const auto& [mark, ids] : lines) {
-    const std::string gone = ids.second.empty() ? "" : "not " + NamesOf(now.Form, ids.second);
-    Note(mark + ": " + NamesOf(now.Form, ids.first) + (ids.first.empty() || gone.empty() ? "" : ", ") + gone);
-  }
+// Of which controls it is so now, and of which not any more.
+void Recorder::TellIf(const std::string& what, const State& before, const State& now) {
+  const auto news = [&](const State& here, const State& there) {
+    std::vector<int> ids;
+    for (const auto& [id, told] : here.Controls) {
+      const auto other = there.Controls.find(id);
+      if (told.contains(what) && (other == there.Controls.end() || !other->second.contains(what))) ids.push_back(id);
+    }
+    return NamesOf(now.Form, ids);
+  };
+  const std::string come = news(now, before), gone = what == "focus" ? "" : news(before, now);
+  if (come.empty() && gone.empty()) return;
+  Note(what + ": " + come + (come.empty() || gone.empty() ? "" : ", ") + (gone.empty() ? "" : "not " + gone));
 }
 
 void Recorder::Note(const std::string& raw) {
@@ -290,14 +274,16 @@ void Recorder::Note(const std::string& raw) {
 
 void Recorder::LookAround() {
   LookAtFiles();
-  for (const std::string& line : Hands::StartedPrograms()) say_("starts " + line);
+  LookAtLocks();
+  for (const std::string& news : Hands::MachineNews()) Note(news);
+  LookAtDocument();
   const auto open = Hands::OpenForms();
   std::erase_if(forms_, [&](const auto& known) {
     const bool gone = std::find(open.begin(), open.end(), known.first) == open.end();
-    if (gone) say_(Names::Of(known.second.Form).Name + " closes");
+    if (gone) Note(Names::Of(known.second.Form).Name + " closes");
     return gone;
   });
   if (!open.empty() && !open.back()->Closed()) LookAt(*open.back());
   Note("");
-  foreseen_ = {};
+  foreseen_.reset();
 }

@@ -2,10 +2,26 @@
 #include <algorithm>
 #include <sstream>
 
-#include "document/document.h"
+#include "platform/file_handles.h"
+#include "platform/files.h"
+#include "platform/runtime_error.h"
 #include "support/files.h"
-#include "support/fresh_test.h"
+#include "support/properties.h"
 #include "support/recorder.h"
+
+namespace {
+
+bool IsLocked(const std::string& name) {
+  try {
+    Files::Open(kProbeHandle, name, Files::Mode::Lock);
+    Files::Close(kProbeHandle);
+    return false;
+  } catch (const RuntimeError& error) {
+    return error.Number == kPermissionDenied;
+  }
+}
+
+}  // namespace
 
 void Recorder::LookAtFiles() {
   std::map<std::string, std::string> now;
@@ -16,44 +32,49 @@ void Recorder::LookAtFiles() {
       now[path] = bytes ? *bytes : files_[path];  // one that nobody can read did not change
     }
   }
-  for (const auto& [name, bytes] : now) {
-    const auto old = files_.find(name);
-    if (old != files_.end() && old->second == bytes) continue;
-    const std::string& same = bytes;
+  for (const auto& file : now) {
+    const auto old = files_.find(file.first);
+    if (old != files_.end() && old->second == file.second) continue;
     const auto copied =
-        std::find_if(files_.begin(), files_.end(), [&](const auto& each) { return each.second == same; });
-    say_("file " + name + (old == files_.end() ? " came" : " written") +
-         (copied == files_.end() ? "" : ", what " + copied->first + " was"));
+        std::find_if(files_.begin(), files_.end(), [&](const auto& each) { return each.second == file.second; });
+    const auto lines = std::count(file.second.begin(), file.second.end(), '\n');
+    Note("file " + file.first + (old == files_.end() ? " came, " : " written, ") +
+         (copied == files_.end() ? std::to_string(lines) + " lines" : "what " + copied->first + " was"));
   }
   for (const auto& [name, bytes] : files_) {
-    if (!now.contains(name)) say_("file " + name + " is gone");
+    if (!now.contains(name)) Note("file " + name + " is gone");
   }
   files_ = std::move(now);
 }
 
-void Recorder::LookAtDocument() {
-  const Document& document = TheDocument;
-  std::string first = "document current " + std::to_string(document.CurrentThing);
-  for (const auto& [holds, word] :
-       {std::pair(document.Modified, " modified"), std::pair(!document.Writable, " read-only"),
-        std::pair(document.LockHeld, " locked"), std::pair(document.PendingEdits, " pending"),
-        std::pair(document.DocumentOpen, " open")}) {
-    if (holds) first += word;
+// Which files nobody else can write now.
+void Recorder::LookAtLocks() {
+  for (const auto& [name, bytes] : files_) {
+    const bool locked = IsLocked(name);
+    if (locked == locks_.contains(name)) continue;
+    Note(name + (locked ? " locked" : " free"));
+    if (locked) {
+      locks_.insert(name);
+    } else {
+      locks_.erase(name);
+    }
   }
-  first += " <" + document.FileName + ">";
-  if (document.ShownFileName != document.FileName) first += " shown <" + document.ShownFileName + ">";
+  std::erase_if(locks_, [&](const std::string& lock) { return !files_.contains(lock); });
+}
+
+void Recorder::LookAtDocument() {
   std::map<std::string, std::string> now;  // "thing 2" and the line
-  std::istringstream lines(first + "\n" + DescribeDocument());
+  std::istringstream lines(DescribeDocument());
   for (std::string line; std::getline(lines, line);) {
     const std::string key = line.substr(0, line.find(' ', line.find(' ') + 1));
     if (key == line) continue;  // an unused category
     now[key] = line;
-    if (document_[key] != line) say_(line);
+    if (document_[key] != line) Note(line);
   }
   std::string gone;
   for (const auto& [key, line] : document_) {
     if (!now.contains(key) && !line.empty()) gone += (gone.empty() ? "no " : ", ") + key;
   }
-  if (!gone.empty()) say_(gone);
+  if (!gone.empty()) Note(gone);
   document_ = std::move(now);
 }

@@ -1,14 +1,26 @@
 // Tables of a test as text, a row "given => expected".
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <source_location>
 #include <string>
 #include <utility>
 #include <vector>
 
+// The text with each part replaced by another.
+inline std::string Replaced(std::string text, const std::string& part, const std::string& by) {
+  for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + by.size())) {
+    text.replace(at, part.size(), by);
+  }
+  return text;
+}
+
 // The rows of a text, parted by " | " or line ends.
-inline std::vector<std::pair<std::string, std::string>> Rows(std::string text) {
+inline std::vector<std::pair<std::string, std::string>> Rows(const std::string& table) {
+  const std::string text = Replaced(table, " | ", "\n");
   std::vector<std::pair<std::string, std::string>> rows;
-  for (auto at = text.find(" | "); at != std::string::npos; at = text.find(" | ", at)) text.replace(at, 3, "\n");
   for (std::size_t at = 0, end = 0; at < text.size(); at = end + 1) {
     end = std::min(text.find('\n', at), text.size());
     const std::string row = text.substr(at, end - at);
@@ -16,6 +28,13 @@ inline std::vector<std::pair<std::string, std::string>> Rows(std::string text) {
     if (arrow != std::string::npos) rows.emplace_back(row.substr(0, arrow), row.substr(arrow + 4));
   }
   return rows;
+}
+
+// What is told of each given text is what its row expects.
+template <class Told>
+void ExpectRows(const std::string& rows, Told told, const std::source_location& at = std::source_location::current()) {
+  const testing::ScopedTrace trace(at.file_name(), static_cast<int>(at.line()), "");
+  for (const auto& [given, expected] : Rows(rows)) EXPECT_EQ(told(given), expected) << given;
 }
 
 // What stands before the first mark, and what behind it; all before it when there is none.

@@ -149,7 +149,7 @@ void User::Drags(int id, Cell from, Cell to, bool shift) {
 }
 
 void User::DoubleClicks(int id, Cell at) {
-  if (Control* control = Reach<Surface, Picture>(id)) Hands::DoubleClick(*control, at);
+  if (Control* control = Reach<Surface, Picture, RowList>(id)) Hands::DoubleClick(*control, at);
   Hands::Settle();
 }
 

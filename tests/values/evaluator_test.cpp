@@ -2,12 +2,10 @@
 // (tests/shell/help_pages_test.cpp) are not repeated here.
 #include "values/evaluator.h"
 
-#include <algorithm>
-#include <map>
-
 #include "platform/program.h"
 #include "support/fresh_test.h"
 #include "support/rows.h"
+#include "support/said.h"
 #include "values/number_store.h"
 
 namespace {
@@ -18,79 +16,59 @@ class EvaluatorTest : public FreshTest {
                            char separator = '.') {
     return Global::CalculateExpression(expression, type, separator, quiet);
   }
-  void Says(const std::string& text) { user.Reads(text, Icon::Exclamation); }
 };
 
 TEST_F(EvaluatorTest, ComputesAndStores) {
   // "-+3" is one operand, and reads as 0.
-  const std::map<std::string, const char*> tables = {{"DOUBLE", R"(
+  ExpectRows(R"(
 2 - 3 + 4 => 3 | 8 / 2 * 3 => 12 | 5 - -3 => 8 | 5 * -2 => -10 | -+3 + 1 => 1 | ((1 + 2) * (3 + 4)) => 21
  => 0 |     => 0 | 7 => 7 | 9 => 9 | x => ? | ? => ? | : => ? | / => ? | 12abc => 12 | *5 => 0 | )( => 0
 1+2)( => ? | () =>  | 50% => 0.5 | (5%) => 0 | 10%% => 0.001 | 1e-2 => -1 | 1,000 + 1 => 2 | 5/0 => ? | 0/0 => ?
 1E308*10 => ? | 1.5E-7 * 2 => 3E-07 | 1E+20 => 21 | 1e20 => 1E+20 | 100000000000*1000000000 => 21 | 1e999 => ?
-.5 => 0.5 | -3 => -3 | -0 => 0 | 0.00000015 => 1.5E-07 | 123456789012345.6 => 123456789012346)"},
-                                                     {"byte", "255 => 255 | 255.5 => ? | 256 => ? | -1 => ?"},
-                                                     {"INTEGER", R"(
-abc => 0 | 12abc => 12 | 1,000 => 1 | -2.5 => -2 | 32767.4 => 32767 | 32768 => ? | -32768.5 => -32768 | 300*300 => ?)"},
-                                                     {"LONG", "2147483647 => 2147483647 | -2147483649 => ?"},
-                                                     {"SINGLE", R"(
-0.1 => 0.1 | 16777217 => 1.677722E+07 | 3.4028235E38 => 3.402823E+38 | 3.4028236E38 => ?)"},
-                                                     {"DOLLAR", R"(
- => 0 | 12.5 => 12.50 | -0.05 => -0.05 | 1234567 => 1234567.00 | 21474836.47 => 21474836.47 | 21474836.48 => ?
--21474836.48 => -21474836.48 | -21474836.49 => ? | 30,000,000 => 30.00)"},
-                                                     {"ODDS", "0.5 => 50% | 1 => 100% | 1.5 => 100% | -0.1 => 100%"},
-                                                     {"ODDSPM", "-1 => -100% | -1.2 => 100%"},
-                                                     {"INTRATE", "0.035 => 3.5% | -0.05 => 0 | 0*1 => 0% | 1 => 100%"}};
-  for (const auto& [type, rows] : tables) {
-    for (const auto& [expression, result] : Rows(rows)) EXPECT_EQ(Value(expression, type), result) << expression;
-  }
-  EXPECT_EQ(Value("1,5 * 3", "DOUBLE", false, ','), "4,5");
-  EXPECT_EQ(Value("12,345", "DOLLAR", false, ','), "12,34");
-  EXPECT_THROW(Value("11", "INTEREST"), ProgramEnded);
-  EXPECT_THROW(Value("11", ""), ProgramEnded);
+.5 => 0.5 | -3 => -3 | -0 => 0 | 0.00000015 => 1.5E-07 | 123456789012345.6 => 123456789012346)",
+             [](const std::string& expression) { return Value(expression); });
+  ExpectRows(R"(
+byte 255 => 255 | byte 255.5 => ? | byte 256 => ? | byte -1 => ? | INTEGER abc => 0 | INTEGER 12abc => 12
+INTEGER 1,000 => 1 | INTEGER -2.5 => -2 | INTEGER 32767.4 => 32767 | INTEGER 32768 => ? | INTEGER -32768.5 => -32768
+INTEGER 300*300 => ? | LONG 2147483647 => 2147483647 | LONG -2147483649 => ? | SINGLE 0.1 => 0.1
+SINGLE 16777217 => 1.677722E+07 | SINGLE 3.4028235E38 => 3.402823E+38 | SINGLE 3.4028236E38 => ? | DOLLAR  => 0
+DOLLAR 12.5 => 12.50 | DOLLAR -0.05 => -0.05 | DOLLAR 1234567 => 1234567.00 | DOLLAR 21474836.47 => 21474836.47
+DOLLAR 21474836.48 => ? | DOLLAR -21474836.48 => -21474836.48 | DOLLAR -21474836.49 => ? | DOLLAR 30,000,000 => 30.00
+ODDS 0.5 => 50% | ODDS 1 => 100% | ODDS 1.5 => 100% | ODDS -0.1 => 100% | ODDSPM -1 => -100% | ODDSPM -1.2 => 100%
+INTRATE 0.035 => 3.5% | INTRATE -0.05 => 0 | INTRATE 0*1 => 0% | INTRATE 1 => 100%)",
+             [](const std::string& given) {
+               const auto [type, expression] = Halves(given, ' ');
+               return Value(expression, type);
+             });
+  for (const char* type : {"INTEREST", ""}) EXPECT_THROW(Value("11", type), ProgramEnded);
 }
 
-// The type and the expression, the result and what is said.
+// With a decimal comma: the type and the expression, the result and what is said.
 TEST_F(EvaluatorTest, SaysWhatFailedAndWhatIsReplaced) {
-  for (const auto& [given, told] : Rows(R"(
-DOUBLE 1 + 5 / 0 => ? Failed to calculate expression 5/0 due to error # 11: Division by zero
-DOUBLE 1E308 * 10 => ? Failed to calculate expression 1E308*10 due to error # 6: Overflow
-DOUBLE 1e999% => ? Failed to convert percentage 1e999% due to error # 6: Overflow
-DOUBLE 1,5x * 2 => ? Failed to calculate expression 1,5x*2 due to error # 13: Type mismatch
-ODDS abc => ? Failed to store number abc due to error # 13: Type mismatch
-BYTE 256 => ? Failed to store number 256 due to error # 6: Overflow
-ODDS 1,5 => 100% Invalid odds value 150% is replaced with 100%.  (For odds, please type numbers followed by a percent sign or type a fractional amount.)
-ODDSPM -1,2 => 100% Invalid odds value -120% is replaced with 100%.  (Type a positive or negative number followed by a percent sign or type a fractional amount.)
-INTRATE -0,05 => 0 Invalid interest value -5% is replaced with 0.  (For interest, type a positive numbers followed by a percent sign or type a fractional amount.))")) {
-    const auto [type, expression] = Halves(given, ' ');
-    const auto [result, said] = Halves(told, ' ');
-    Says(said);
-    EXPECT_EQ(Value(expression, type, false, ','), result) << expression;
-  }
-  EXPECT_EQ(Value("2 + 3)", "DOUBLE", false), "?");  // without a word
-  Says("Failed to round your number to pennies due to error # 6");
-  Says("Failed to store number 30000000 due to error # 6: Overflow");
-  std::string text = "30000000";
-  EXPECT_FALSE(Global::StoreNumberByType(text, "DOLLAR", '.', false));
-  EXPECT_EQ(text, "");
-  EXPECT_TRUE(Global::StoreNumberByType(text, "INTEGER", ',', false));
-  EXPECT_EQ(text, "0");
-}
-
-TEST_F(EvaluatorTest, AsksAboutHighInterestEvenWhenQuiet) {
-  const auto asked = [this](Answer answer, const std::string& expression) {
-    user.Answers("Are you sure that you want to use an interest rate greater than 100%?", answer, Icon::None,
-                 Buttons::YesNo);
-    return Value(expression, "INTRATE");
-  };
-  EXPECT_EQ(asked(Answer::Yes, "1.5"), "150%");
-  {
-    const Global::InterestQuestionOnce once;
-    EXPECT_EQ(asked(Answer::No, "1.5"), "0");
-    const Global::InterestQuestionOnce within;
-    EXPECT_EQ(Value("2.5", "INTRATE"), "0");  // the answer holds
-  }
-  EXPECT_EQ(asked(Answer::Yes, "2.5"), "250%");
+  Said said;
+  ExpectRows(R"(
+DOUBLE 1,5 * 3 => 4,5 | DOLLAR 12,345 => 12,34 | DOUBLE 2 + 3) => ?
+DOUBLE 1 + 5 / 0 => ?!Failed to calculate expression 5/0 due to error # 11: Division by zero
+DOUBLE 1E308 * 10 => ?!Failed to calculate expression 1E308*10 due to error # 6: Overflow
+DOUBLE 1e999% => ?!Failed to convert percentage 1e999% due to error # 6: Overflow
+DOUBLE 1,5x * 2 => ?!Failed to calculate expression 1,5x*2 due to error # 13: Type mismatch
+ODDS abc => ?!Failed to store number abc due to error # 13: Type mismatch
+BYTE 256 => ?!Failed to store number 256 due to error # 6: Overflow
+ODDS 1,5 => 100%!Invalid odds value 150% is replaced with 100%.  (For odds, please type numbers followed by a percent sign or type a fractional amount.)
+ODDSPM -1,2 => 100%!Invalid odds value -120% is replaced with 100%.  (Type a positive or negative number followed by a percent sign or type a fractional amount.)
+INTRATE -0,05 => 0!Invalid interest value -5% is replaced with 0.  (For interest, type a positive numbers followed by a percent sign or type a fractional amount.))",
+             [&](const std::string& given) {
+               const auto [type, expression] = Halves(given, ' ');
+               const std::string value = Value(expression, type, false, ',');
+               return value + said.Take();
+             });
+  ExpectRows(R"(INTEGER  => 0
+DOLLAR 30000000 => !Failed to round your number to pennies due to error # 6!Failed to store number 30000000 due to error # 6: Overflow)",
+             [&](const std::string& given) {
+               auto [type, text] = Halves(given, ' ');
+               Global::StoreNumberByType(text, type, ',', false);
+               return text + said.Take();
+             });
 }
 
 TEST_F(EvaluatorTest, ExpandsReferences) {
@@ -101,20 +79,19 @@ TEST_F(EvaluatorTest, ExpandsReferences) {
   for (std::size_t slot = 0; slot < std::size(texts); ++slot) slots[slot].Text = texts[slot];
   const auto expanded = [](const std::string& text) { return Global::ExpandFieldReferences(text, 1); };
   // Empty where a value is empty or missing, and where there is no end.
-  for (const auto& [text, result] : Rows(R"(  [price] * 2 + [PRICE]  => 12.50 * 2 + 12.50
+  ExpectRows(R"(  [price] * 2 + [PRICE]  => 12.50 * 2 + 12.50
 [TIME] => 10:30 | [PRICE] + [QTY] =>  | [PRICE] + [WHAT] =>  | [] =>  | [PRICE => [PRICE | ]price[ => ]PRICE[
-abc => ABC | [LOOP] =>  | [TWO] => )")) {
-    EXPECT_EQ(expanded(text), result) << text;
-  }
+abc => ABC | [LOOP] =>  | [TWO] => )",
+             expanded);
   std::string many;
   for (int time = 0; time < 1000; ++time) many += "[a]";
   EXPECT_EQ(expanded(many), std::string(1000, '1'));
   EXPECT_EQ(expanded(many + "[a]"), "");
-  for (const auto& [formula, result] :
-       Rows("DOLLAR [PRICE]*2 => 25.00 |  [PRICE]*2 => 25 | CALC [PRICE]*2 => ? | CALC [QTY]*2 => ")) {
-    const auto [type, expression] = Halves(formula, ' ');
-    EXPECT_EQ(FormulaResult({"F", "", type, "", expression}, slots), result);
-  }
+  ExpectRows("DOLLAR [PRICE]*2 => 25.00 |  [PRICE]*2 => 25 | CALC [PRICE]*2 => ? | CALC [QTY]*2 => ",
+             [&](const std::string& formula) {
+               const auto [type, expression] = Halves(formula, ' ');
+               return FormulaResult({"F", "", type, "", expression}, slots);
+             });
 }
 
 TEST_F(EvaluatorTest, FindsOperations) {
@@ -133,10 +110,9 @@ TEST_F(EvaluatorTest, EndsOnLongExpressions) {
     sum += "+1";
     product += "*1+0";
   }
-  EXPECT_EQ(Value(sum), "5001");
-  EXPECT_EQ(Value(product), "1");
+  EXPECT_EQ(Value(sum) + " " + Value(product), "5001 1");
   std::string nested(20000, '(');
-  nested += "2";
+  nested += '2';
   EXPECT_EQ(Value(nested.append(20000, ')')), "2");
 }
 

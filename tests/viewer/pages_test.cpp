@@ -1,17 +1,15 @@
-// What of a report stands in the window and on paper. The files beside this one hold what is done, flush left, and
-// below it, indented, the whole page that is then to be seen. A run with --update writes the pages anew.
+// What of a report stands in the window and on paper: stories of pages. The files beside this one hold what is done,
+// flush left, and below it, indented, what of the page is then another, or all that is printed.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <map>
 #include <sstream>
 
-#include "platform/references.h"
-#include "support/update.h"
+#include "scenarios/story_file.h"
+#include "support/page_text.h"
 #include "viewer/print_layout.h"
 #include "viewer/report_view.h"
 
@@ -25,6 +23,12 @@ std::vector<std::string> Parts(const std::string& text, const std::string& mark)
     parts.push_back(text.substr(at, end - at));
   }
   return parts;
+}
+
+std::string Joined(const std::vector<std::string>& rows) {
+  std::string line;
+  for (const std::string& row : rows) line += (&row == rows.data() ? "" : " / ") + row;
+  return line;
 }
 
 // Lines parted by "/", the first one without "LARKSPUR V1.0 REPORT"; "-" in its place is none at all. "3*Th## a##" is
@@ -45,56 +49,69 @@ ReportText Report(const std::string& described) {
   return ReportText(described.starts_with('-') ? bytes.substr(bytes.find('\n') + 1) : bytes);
 }
 
-// Hits stand in <>, what is selected in []; grid lines are told by cell, direction and length. What would stand on
-// something else is told with its column.
-std::string Seen(const Page& page) {
-  std::vector<std::string> rows;
-  std::map<int, int> ends;  // in cells
-  for (const TextRun& run : page.Runs) {
-    rows.resize(std::max(rows.size(), static_cast<std::size_t>(run.At.Row) + 1), "    |");
-    std::string& row = rows[static_cast<std::size_t>(run.At.Row)];
-    int& end = ends[run.At.Row];
-    if (run.At.Column < end) row += "(at " + std::to_string(run.At.Column) + ")";
-    row.append(static_cast<std::size_t>(std::max(0, run.At.Column - end)), ' ');
-    end = run.At.Column + static_cast<int>(CountCharacters(run.Text));
-    const char* const marks[] = {"", "", "<", ">", "[", "]"};
-    const int style = 2 * static_cast<int>(run.Style);
-    row += marks[style] + run.Text + marks[style + 1];
-  }
-  std::ostringstream seen;
-  for (const std::string& row : rows) seen << row << "\n";
+// The grid lines by cell, direction and length.
+std::string RulesOf(const Page& page) {
+  std::string rules;
   for (const Rule& rule : page.Rules) {
-    seen << (&rule == page.Rules.data() ? "    lines " : " ") << rule.At.Column << "," << rule.At.Row
-         << (rule.Down ? "v" : ">") << rule.Length;
+    rules += (rules.empty() ? "" : " ") + std::to_string(rule.At.Column) + "," + std::to_string(rule.At.Row) +
+             (rule.Down ? "v" : ">") + std::to_string(rule.Length);
   }
-  return seen.str() + (page.Rules.empty() ? "" : "\n");
+  return rules;
 }
 
-std::string Seen(const ReportView& view) {
+// What is seen of a view, by what it is; rows by their numbers.
+using Looks = std::map<std::string, std::string>;
+
+Looks LooksOf(const ReportView& view) {
   const Page page = view.BuildPage();
-  std::ostringstream text;
-  const std::pair<const char*, ReportView::Extent> bars[] = {{"    down ", view.Down()}, {", across ", view.Across()}};
-  for (const auto& [title, bar] : bars) text << title << bar.Position << " of " << bar.Range << " by " << bar.Shown;
-  text << ", stay " << page.HeadRows << " and " << page.LeftColumns << " from " << page.LeftFrom;
-  if (page.ShowsCaret) text << ", caret " << page.Caret.Column << "," << page.Caret.Row;
-  if (view.Seeks()) text << ", hit " << view.HitNumber() << " of " << view.HitCount();
-  if (view.HasSelection()) text << "\n    selected";
-  for (const std::string& line : Parts(view.SelectedText(), "\r\n")) text << (view.HasSelection() ? " /" : "") << line;
-  return text.str() + "\n" + Seen(page);
+  const auto pair = [](auto first, const char* between, auto second) {
+    return std::to_string(first) + between + std::to_string(second);
+  };
+  const auto bar = [&](const ReportView::Extent& extent) {
+    return pair(extent.Position, " of ", extent.Range) + " by " + std::to_string(extent.Shown);
+  };
+  Looks looks{{"down", bar(view.Down())},
+              {"across", bar(view.Across())},
+              {"stay", pair(page.HeadRows, " and ", page.LeftColumns) + " from " + std::to_string(page.LeftFrom)},
+              {"lines", RulesOf(page)}};
+  if (page.ShowsCaret) looks["caret"] = pair(page.Caret.Column, ",", page.Caret.Row);
+  if (view.Seeks()) looks["hit"] = pair(view.HitNumber(), " of ", view.HitCount());
+  if (view.HasSelection()) looks["selected"] = Joined(Parts(view.SelectedText(), "\r\n"));
+  const auto rows = RowsOf(page, true);
+  for (std::size_t row = 0; row < rows.size(); ++row)
+    looks[(row < 10 ? "| " : "|") + std::to_string(row) + ":"] = rows[row];
+  return looks;
+}
+
+// What differs, in lines of some length.
+std::vector<std::string> NewsOf(Looks before, Looks now) {
+  constexpr std::size_t kWidth = 112;
+  std::vector<std::string> news(1);
+  for (const auto& look : Looks(before)) now[look.first];
+  for (const auto& [what, text] : now) {
+    if (before[what] == text) continue;
+    const std::string line = what + " " + (text.empty() && what[0] != '|' ? "no more" : text);
+    if (!news.back().empty() && news.back().size() + line.size() > kWidth) news.emplace_back();
+    news.back() += (news.back().empty() ? "" : "; ") + line;
+  }
+  return news;
 }
 
 // Every page of the report on a sheet with room for that many cells of the usual text.
-std::string Printed(const ReportText& text, int columns, int rows) {
+std::vector<std::string> Printed(const ReportText& text, int columns, int rows) {
   Sheet sheet;
   sheet.Width = columns * sheet.CellWidth() + sheet.Left + sheet.Right;
   sheet.Height = rows * sheet.CellHeight() + sheet.Top + sheet.Bottom;
   const PrintLayout layout(text, "Report.PRN", sheet);
-  std::ostringstream printed;
+  std::ostringstream head;
+  head << layout.Pages() << " pages, " << layout.Paper().TextSize << " points";
+  std::vector<std::string> printed{head.str()};
   for (int number = 1; number <= layout.Pages(); ++number) {
-    printed << "    page " << number << " of " << layout.Pages() << ", " << layout.Paper().TextSize << " points\n";
-    printed << Seen(layout.PageAt(number));
+    const Page page = layout.PageAt(number);
+    printed.push_back(Joined(RowsOf(page)));
+    if (!page.Rules.empty()) printed.push_back("lines " + RulesOf(page));
   }
-  return printed.str();
+  return printed;
 }
 
 using Bar = Surface::Bar;
@@ -124,52 +141,47 @@ const std::map<std::string, Doing> kActs = {
     {"none", [](auto& view, auto&, int, int) { view.SelectNone(); }},
 };
 
-// Does the acts of a line, and tells what is then seen.
-std::string Done(const std::string& line, ReportView& view) {
-  for (const std::string& act : Parts(line, "; ")) {
-    std::string word = act.substr(0, act.find(' '));
-    const std::string rest = act.substr(std::min(word.size() + 1, act.size()));
-    const bool shift = word.starts_with("Shift+"), control = word.find("Ctrl+") != std::string::npos;
-    word.erase(0, word.rfind('+') + 1);
-    int across = 0, down = 0;
-    std::sscanf(rest.c_str(), "%d,%d", &across, &down);
-    if (word == "print") return Printed(view.Text(), across, down);
-    if (kKeys.contains(word)) {
-      view.Press(KeyPress{kKeys.at(word), shift, control});
-    } else if (kMouse.contains(word)) {
-      view.Press(MousePress{kMouse.at(word), {across, down}, shift});
-    } else if (kActs.contains(word)) {
-      kActs.at(word)(view, rest, across, down);
-    } else {
-      ADD_FAILURE() << "nothing that can be done: " << act;
-    }
+void Do(const std::string& act, ReportView& view, std::vector<std::string>& printed) {
+  std::string word = act.substr(0, act.find(' '));
+  const std::string rest = act.substr(std::min(word.size() + 1, act.size()));
+  const bool shift = word.starts_with("Shift+"), control = word.find("Ctrl+") != std::string::npos;
+  word.erase(0, word.rfind('+') + 1);
+  int across = 0, down = 0;
+  std::sscanf(rest.c_str(), "%d,%d", &across, &down);
+  if (word == "print") {
+    printed = Printed(view.Text(), across, down);
+  } else if (kKeys.contains(word)) {
+    view.Press(KeyPress{kKeys.at(word), shift, control});
+  } else if (kMouse.contains(word)) {
+    view.Press(MousePress{kMouse.at(word), {across, down}, shift});
+  } else if (kActs.contains(word)) {
+    kActs.at(word)(view, rest, across, down);
+  } else {
+    ADD_FAILURE() << "nothing that can be done: " << act;
   }
-  return Seen(view);
 }
 
-class PagesTest : public testing::TestWithParam<const char*> {};
+class PageStory : public testing::Test {
+ public:
+  explicit PageStory(const Tale& tale) : tale_(tale) {}
 
-TEST_P(PagesTest, AreAsWritten) {
-  const std::string name = std::string(FILER_SOURCE_DIR "/tests/viewer/") + GetParam();
-  std::ifstream file(name, std::ios::binary);
-  const std::string written{std::istreambuf_iterator<char>(file), {}};
-  ASSERT_TRUE(written.ends_with("\n")) << name;
-  std::string all;
-  for (const std::string& story : Parts(written.substr(0, written.size() - 1), "\n\n")) {
+ private:
+  void TestBody() override {
     ReportView view;
-    std::string told;
-    for (const std::string& line : Parts(story, "\n")) {
-      if (!line.starts_with("    ")) told += line + "\n" + (line.starts_with("== ") ? "" : Done(line, view));
+    Looks before;
+    for (StoryLine* line : tale_.Acts()) {
+      for (const std::string& act : Parts(line->Text, "; ")) Do(act, view, line->Now);
+      const bool prints = !line->Now.empty();
+      if (!prints) line->Now = NewsOf(before, LooksOf(view));
+      if (!prints) before = LooksOf(view);
     }
-    all += (all.empty() ? "" : "\n") + told;
-    if (!UpdatesGolden) {
-      EXPECT_EQ(told, story + "\n");
-    }
+    tale_.Compare();
   }
-  if (UpdatesGolden) std::ofstream(name, std::ios::binary) << all;
-}
 
-INSTANTIATE_TEST_SUITE_P(Files, PagesTest,
-                         testing::Values("window.txt", "selection.txt", "finding.txt", "grid.txt", "paper.txt"));
+  Tale tale_;
+};
+
+const bool kRegistered =
+    RegisterStories("Pages", "viewer", [](const Tale&, const Tale& tale) { return new PageStory(tale); });
 
 }  // namespace

@@ -1,5 +1,5 @@
 // What controls and forms are on the screen of a real machine: places, sizes and pixels.
-#include <gtest/gtest.h>
+#include <algorithm>
 
 #include "contract/test_form.h"
 #include "platform/win32/internals.h"
@@ -74,23 +74,17 @@ struct RowsForm : TestForm {
 
 TEST(RowsTest, WhatStandsBelowMovesUpAndTheFormGetsLower) {
   RowsForm form;
-  const auto rects = [&form] {
-    std::vector<RECT> all;
-    for (HWND each : {WindowOf(form.HintLabel), WindowOf(form.LinesBox), WindowOf(form.FirstButton),
-                      WindowOf(form.OKButton), form.PeerOf().Window}) {
-      all.push_back(RectOf(each));
-    }
-    return all;
-  };
-  const std::vector<RECT> before = rects();
-  const LONG height = before[2].top - before[1].top;
+  const HWND windows[] = {WindowOf(form.HintLabel), WindowOf(form.LinesBox), WindowOf(form.FirstButton),
+                          WindowOf(form.OKButton), form.PeerOf().Window};
+  RECT expected[5];
+  std::transform(std::begin(windows), std::end(windows), expected, RectOf);
+  const LONG height = expected[2].top - expected[1].top;
+  for (const int lower : {2, 3}) OffsetRect(&expected[lower], 0, -height);
+  expected[4].bottom -= height;
   form.RemoveRows(form.LinesBox, form.FirstButton);
-  const std::vector<RECT> after = rects();
-  for (std::size_t each = 0; each < before.size(); ++each) {
-    RECT expected = before[each];
-    if (each >= 2) expected.bottom -= height;
-    if (each == 2 || each == 3) expected.top -= height;
-    EXPECT_TRUE(EqualRect(&after[each], &expected)) << each;
+  for (int each = 0; each < 5; ++each) {
+    const RECT now = RectOf(windows[each]);
+    EXPECT_TRUE(EqualRect(&now, &expected[each])) << each;
   }
 }
 

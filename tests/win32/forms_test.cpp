@@ -2,6 +2,7 @@
 #include <array>
 
 #include "mainwindow/main_form.h"
+#include "mainwindow/main_ids.h"
 #include "platform/win32/internals.h"
 #include "resource.h"
 #include "support/fresh_test.h"

@@ -74,7 +74,7 @@ bool Control::HasFocus() const {
 }
 
 bool Control::Peer::TakesFocus() const {
-  return Enabled && Visible && What != Kind::Label && What != Kind::Picture && What != Kind::Frame;
+  return Enabled && Visible && (What != Kind::Label || TabStop) && What != Kind::Picture && What != Kind::Frame;
 }
 
 bool Control::Peer::HasEntries() const {

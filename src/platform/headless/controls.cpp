@@ -12,6 +12,8 @@ bool Control::Bold() const { return PeerOf().Bold; }
 
 void Control::SetToolTip(const std::string& text) { PeerOf().Tip = text; }
 std::string Control::ToolTip() const { return PeerOf().Tip; }
+void Label::SetTabStop(bool stop) { PeerOf().TabStop = stop; }
+bool Label::TabStop() const { return PeerOf().TabStop; }
 void Label::SetBorder(bool border) { PeerOf().Border = border; }
 bool Label::Border() const { return PeerOf().Border; }
 

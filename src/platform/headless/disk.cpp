@@ -159,6 +159,16 @@ NodePtr Add(const std::string& name, bool is_folder) {
   return node;
 }
 
+HoldPtr Make(const std::string& name, const Sharing& rights) {
+  const NodePtr node = Add(name, false);
+  try {
+    return Take(node, rights);
+  } catch (...) {
+    std::erase_if(tree, [&](const auto& each) { return each.second == node; });
+    throw;
+  }
+}
+
 void Remove(const std::string& name) {
   const auto found = tree.find(KeyOf(name));
   if (found == tree.end()) return;
@@ -167,12 +177,13 @@ void Remove(const std::string& name) {
 }
 
 void Move(const std::string& from, const std::string& to) {
-  const auto found = tree.find(KeyOf(from));
-  const NodePtr node = found->second;
-  tree.erase(found);
   const std::string full_name = FullName(to);
-  node->Name = LastPart(full_name);
-  tree[UpperCase(full_name)] = node;
+  std::string name = LastPart(full_name);
+  std::string key = UpperCase(full_name);
+  auto moved = tree.extract(KeyOf(from));
+  moved.mapped()->Name.swap(name);
+  moved.key().swap(key);
+  tree.insert(std::move(moved));
 }
 
 std::size_t Append(Node& file, std::string_view bytes) {

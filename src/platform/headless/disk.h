@@ -46,6 +46,7 @@ bool IsHeld(const NodePtr& file);
 
 // The name is known to be free.
 NodePtr Add(const std::string& name, bool is_folder);
+HoldPtr Make(const std::string& name, const Sharing& rights);  // a file, and the first hold on it
 void Remove(const std::string& name);
 void Move(const std::string& from, const std::string& to);
 

@@ -118,10 +118,10 @@ void Open(int handle, const std::string& name, Mode mode) {
   Disk::NodePtr node = Disk::Find(name);
   if (!node && mode != Mode::Output) Disk::Fail(kFileMissing);
   if (node && (node->IsFolder || (node->ReadOnly && mode != Mode::Input))) Disk::Fail(kAccessDenied);
-  if (!node) node = Disk::Add(name, false);
   auto file = std::make_unique<Stream>();
   file->Mode = mode;
-  file->Hold = Disk::Take(node, RightsOf(mode));
+  file->Hold = node ? Disk::Take(node, RightsOf(mode)) : Disk::Make(name, RightsOf(mode));
+  node = file->Hold->File;
   if (mode == Mode::Output) Disk::Truncate(*node, 0);
   if (mode == Mode::Input) file->Reader = std::make_unique<LineReader>(ReadFrom(node));
   slot = std::move(file);

@@ -101,11 +101,20 @@ std::string Form::MenuText(int id) const {
   return found == peer_->MenuTexts.end() ? std::string() : found->second;
 }
 
+void Form::SetMenuEntries(int first, int /*before*/, const std::vector<std::string>& texts) {
+  for (int count = 0; count < peer_->EntriesCount; ++count) peer_->MenuTexts.erase(first + count);
+  peer_->EntriesCount = static_cast<int>(texts.size());
+  for (const std::string& text : texts) peer_->MenuTexts[first++] = text;
+}
+
 bool Form::MenuChecked(int id) const { return peer_->MenuTicked.contains(id); }
 
 // Nothing has a place here.
 void Form::PlaceBelow(const Control& /*control*/) {}
-void Form::Anchor(Control& /*control*/, unsigned /*edges*/) {}
+void Form::Anchor(Control& /*control*/, const Follow& /*follow*/) {}
+std::string Form::Place() const { return peer_->PlaceText; }
+void Form::SetPlace(std::string_view place) { peer_->PlaceText = place; }
+void Form::MayShrink(int /*units*/) {}
 void Form::RemoveRows(const Control& /*first*/, const Control& /*next*/) {}
 
 Control* Form::Peer::Find(int id) const {

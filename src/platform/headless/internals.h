@@ -33,6 +33,7 @@ struct Control::Peer {
   bool Bold = false;
   std::string Tip;
   bool Border = false;    // label
+  bool TabStop = false;   // label
   bool ReadOnly = false;  // text box
   int TextLimit = 0;      // text box
   BackColor Back = BackColor::ButtonFace;
@@ -50,6 +51,7 @@ struct Control::Peer {
   bool OnPaper = false;             // surface
   bool EnteredBefore = false;       // combo
   std::map<Surface::Bar, SurfaceBar> Bars;
+  int Rows = 0, Columns = 0;  // row list
 
   void MarkAll();
   void Entered();           // got the focus: a text box marks its text, a combo the first time
@@ -71,6 +73,7 @@ struct Form::Peer {
   Form* Self = nullptr;
   int Template = 0;
   std::string Caption;
+  std::string PlaceText;
   std::map<int, Control*> Controls;
   std::vector<Control*> InOrder;  // as constructed: the tab order
   Control* Focus = nullptr;
@@ -82,6 +85,7 @@ struct Form::Peer {
   std::set<int> MenuGreyed;
   std::set<int> MenuTicked;
   std::map<int, std::string> MenuTexts;
+  int EntriesCount = 0;  // of SetMenuEntries
 
   Control* Find(int id) const;       // nullptr when there is none
   void MoveFocus(Control* control);  // raises LostFocus and GotFocus while the form is shown

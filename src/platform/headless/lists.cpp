@@ -39,6 +39,17 @@ void Control::Peer::TurnWheel(int notches) {
   ChangeSelection(std::clamp(Selected + notches, 0, static_cast<int>(Entries.size()) - 1));
 }
 
+void RowList::SetColumns(const std::vector<Column>& columns) { PeerOf().Columns = static_cast<int>(columns.size()); }
+
+void RowList::SetRows(int count) {
+  PeerOf().Rows = count;
+  PeerOf().Selected = -1;
+}
+
+int RowList::Rows() const { return PeerOf().Rows; }
+int RowList::Selected() const { return PeerOf().Selected; }
+void RowList::Select(int row) { PeerOf().Selected = row < Rows() ? row : -1; }
+
 // Nothing drops down here: a person picks straight from the entries.
 
 void CheckList::Fill(const std::vector<std::string>& entries) {

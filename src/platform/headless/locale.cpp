@@ -43,6 +43,19 @@ std::string UpperCase(std::string_view text) {
   return result;
 }
 
+char PlainLetter(char character) {
+  // From the accented A on: what stands for a dot has no letter but itself.
+  static constexpr std::string_view kLetters = "AAAAAA.CEEEEIIII.NOOOOO.OUUUUY..";
+  constexpr std::size_t kFirst = 0xC0;
+  const char upper = UpperCase(character);
+  const auto code = static_cast<unsigned char>(upper);
+  if (upper == '\x8A') return 'S';
+  if (upper == '\x8E') return 'Z';
+  if (upper == '\x9F') return 'Y';
+  if (code < kFirst || code >= kFirst + kLetters.size() || kLetters[code - kFirst] == '.') return upper;
+  return kLetters[code - kFirst];
+}
+
 std::string ShortDate(int year, unsigned month, unsigned day) {
   if (year < kFirstKnownYear) return IsoDate(year, month, day);
   return std::to_string(month) + "/" + std::to_string(day) + "/" + std::to_string(year);

@@ -69,3 +69,12 @@ std::optional<std::string> RegistryKey::ReadText(const std::string& name, std::s
   if (!value || value->Size > size || reading_fails) return std::nullopt;
   return keys.at(peer_->Name).at(UpperCase(name)).Text;
 }
+
+void Remember(const std::string& name, const std::string& text) {
+  Machine::SetRegistryValue(RegistryRoot::CurrentUser, kOwnKey, name, text);
+}
+
+std::string Remembered(const std::string& name) {
+  constexpr std::size_t kAnySize = 32768;
+  return RegistryKey(RegistryRoot::CurrentUser, kOwnKey).ReadText(name, kAnySize).value_or("");
+}

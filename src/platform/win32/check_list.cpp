@@ -78,6 +78,7 @@ void CheckList::SetChecked(int position, bool checked) {
 }
 
 void Control::Peer::Notified(const NMHDR& header) {
+  if (What == Kind::RowList) return RowListNotified(header);
   if (What != Kind::CheckList || header.code != LVN_ITEMCHANGED) return;
   const NMLISTVIEW& change = reinterpret_cast<const NMLISTVIEW&>(header);
   const UINT before = ImageOf(change.uOldState);

@@ -79,6 +79,7 @@ Control::Control(Form& owner, int id, Kind kind) : peer_(std::make_unique<Peer>(
     peer.Send(LVM_SETEXTENDEDLISTVIEWSTYLE, style, style);
     peer.After(WM_SIZE);
   }
+  if (kind == Kind::RowList) peer.BeginRowList();
 }
 
 Control::~Control() {
@@ -170,7 +171,8 @@ bool Control::HasFocus() const {
 bool Control::Peer::TakesInput() const { return Self->Visible() && Self->Enabled(); }
 
 bool Control::Peer::TakesFocus() const {
-  return What != Kind::Label && What != Kind::Picture && What != Kind::Frame && TakesInput();
+  if (What == Kind::Label && !static_cast<const Label*>(Self)->TabStop()) return false;
+  return What != Kind::Picture && What != Kind::Frame && TakesInput();
 }
 
 bool Control::Peer::MultiLine() const {
@@ -201,7 +203,10 @@ LRESULT CALLBACK Control::Peer::Procedure(HWND window, UINT message, WPARAM firs
     const MSG* key = reinterpret_cast<const MSG*>(second);
     const bool leaves = key != nullptr && (key->wParam == VK_TAB || key->wParam == VK_ESCAPE);
     if (leaves && key->message != WM_CHAR) result &= ~static_cast<LRESULT>(DLGC_WANTALLKEYS | DLGC_WANTTAB);
+  } else if (message == WM_GETDLGCODE && peer.What == Kind::Label && peer.TakesFocus()) {
+    result = DLGC_WANTCHARS;  // otherwise letters would be taken for access keys
   } else if (message == WM_SETFOCUS) {
+    peer.After(message);
     form.Guard([&] { form.FocusMoved(peer.Self); });
   } else {
     peer.After(message);
@@ -228,8 +233,26 @@ void Control::Peer::After(UINT message) {
     RECT inside{};
     GetClientRect(Window, &inside);
     Send(LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(inside.right, 0));
+  } else if (What == Kind::CheckList && message == WM_SETFOCUS) {
+    // Natively no entry has the focus until an arrow key gives it to the first: the space bar would do nothing.
+    if (Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) < 0) {
+      LVITEMW item{};
+      item.state = item.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
+      Send(LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&item));
+    }
+  } else if (What == Kind::RowList && message == WM_SIZE) {
+    SizeColumns();
   } else if (What == Kind::Picture && message == WM_SIZE) {
     InvalidateRect(Window, nullptr, FALSE);
+  } else if (What == Kind::Label && (message == WM_SETFOCUS || message == WM_KILLFOCUS)) {
+    InvalidateRect(Window, nullptr, TRUE);
+  } else if (What == Kind::Label && message == WM_PAINT && GetFocus() == Window && TakesFocus()) {
+    RECT inside{};
+    GetClientRect(Window, &inside);
+    InflateRect(&inside, -1, -1);
+    HDC target = GetDC(Window);
+    DrawFocusRect(target, &inside);
+    ReleaseDC(Window, target);
   } else if (What == Kind::Button && Back == ::BackColor::Marked) {
     // The native button draws these itself, not only when it is asked to paint.
     switch (message) {

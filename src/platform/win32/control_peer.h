@@ -36,6 +36,8 @@ struct Control::Peer {
   ::BackColor Back = ::BackColor::ButtonFace;
   std::shared_ptr<Photo> Shown;       // picture; null when empty
   std::shared_ptr<SurfaceWork> Work;  // surface
+  std::vector<int> Percents;          // row list: how wide the columns are
+  int Rows = 0;                       // row list
 
   bool TakesInput() const;  // visible and enabled
   bool TakesFocus() const;  // the same, and of a kind that can
@@ -60,6 +62,10 @@ struct Control::Peer {
   void TextMayHaveChanged();
   void SelectionMayHaveMoved();
   void CheckInGroup();  // option button: natively, the others of its group go out
+
+  void BeginRowList();
+  void SizeColumns() const;
+  void RowListNotified(const NMHDR& header);
 
   // Draws what the native control cannot; false for all other controls.
   bool Paint() const;

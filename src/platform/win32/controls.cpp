@@ -39,6 +39,9 @@ void Control::SetBold(bool bold) {
 
 bool Control::Bold() const { return PeerOf().Bold; }
 
+void Label::SetTabStop(bool stop) { PeerOf().ChangeStyle(stop ? WS_TABSTOP : 0, stop ? 0 : WS_TABSTOP); }
+bool Label::TabStop() const { return (GetWindowLongW(PeerOf().Window, GWL_STYLE) & WS_TABSTOP) != 0; }
+
 void Label::SetBorder(bool border) {
   if (border == Border()) return;
   PeerOf().ChangeStyle(border ? WS_BORDER : 0, border ? 0 : WS_BORDER);

@@ -178,9 +178,9 @@ void Open(int handle, const std::string& name, Mode mode) {
   if (slot) throw RuntimeError(kBadFileNumber);
   auto file = std::make_unique<Stream>();
   file->Mode = mode;
+  if (mode == Mode::Output) file->Pending.reserve(kPendingSize);  // first: opening empties the file
   file->File = OpenSystemFile(CheckedName(name), mode);
   if (mode == Mode::Input) file->Reader = std::make_unique<LineReader>(ReadFrom(file->File.get()));
-  if (mode == Mode::Output) file->Pending.reserve(kPendingSize);
   slot = std::move(file);
 }
 

@@ -59,6 +59,8 @@ bool TurnsDropDownUnasked(const Form::Peer& form, const MSG& message) {
 
 std::optional<Key> KeyOfCode(WPARAM code) {
   switch (code) {
+    case VK_SPACE:
+      return Key::Space;
     case VK_LEFT:
       return Key::Left;
     case VK_RIGHT:
@@ -123,6 +125,7 @@ Form::Form(int template_id) : peer_(std::make_unique<Peer>()) {
 
 Form::~Form() {
   peer_->Gone();
+  peer_->TakesDrops.reset();
   SetWindowLongPtrW(peer_->Window, DWLP_USER, 0);
   DestroyWindow(peer_->Window);
   if (peer_->BoldFont != nullptr) DeleteObject(peer_->BoldFont);
@@ -164,7 +167,8 @@ void Form::Later(Event event) {
   PostMessageW(peer_->Window, WM_NULL, 0, 0);  // wakes the message loop
 }
 
-void Form::Anchor(Control& control, unsigned edges) { peer_->Sizes.Anchor(control.PeerOf().Window, edges); }
+void Form::Anchor(Control& control, const Follow& follow) { peer_->Sizes.Anchor(control.PeerOf().Window, follow); }
+void Form::MayShrink(int units) { peer_->Sizes.MayShrink(units); }
 void Form::RemoveRows(const Control& first, const Control& next) {
   peer_->Sizes.RemoveRows(first.PeerOf().Window, next.PeerOf().Window);
 }
@@ -199,10 +203,11 @@ void Form::Peer::Appear(Form* owner) {
       EnableWindow(owner_window, FALSE);
     }
   }
+  if (Self->MayDrop) TakeDrops();
   OpenForms().push_back(Self);
   Shown = true;
   Appearing = true;
-  ShowWindow(Window, Modal ? SW_SHOW : SW_SHOWDEFAULT);
+  ShowWindow(Window, Stood && Stood->Maximized ? SW_SHOWMAXIMIZED : Modal ? SW_SHOW : SW_SHOWDEFAULT);
   if (!IsWindowVisible(Window)) ShowWindow(Window, SW_SHOW);
   SetActiveWindow(Window);
   if (!Modal) SetForegroundWindow(Window);

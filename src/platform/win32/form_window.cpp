@@ -1,4 +1,4 @@
-// A form's window: made from the template with menu, accelerators and fonts, placed, and its messages.
+// A form's window: made from the template with menu, accelerators and fonts, and its messages.
 #include <utility>
 
 #include "platform/win32/internals.h"
@@ -27,22 +27,24 @@ void GiveIcon(HWND window, int size, WPARAM which) {
   if (icon != nullptr) SendMessageW(window, WM_SETICON, which, reinterpret_cast<LPARAM>(icon));
 }
 
-RECT WorkAreaOf(HWND window, DWORD otherwise) {
-  MONITORINFO monitor{};
-  monitor.cbSize = sizeof monitor;
-  GetMonitorInfoW(MonitorFromWindow(window, otherwise), &monitor);
-  return monitor.rcWork;
-}
-
-// Moves the window there, but keeps it on the work area; the upper left corner counts most.
-void MoveOnto(const RECT& area, HWND window, LONG left, LONG top) {
-  RECT rect{};
-  GetWindowRect(window, &rect);
-  if (left + (rect.right - rect.left) > area.right) left = area.right - (rect.right - rect.left);
-  if (top + (rect.bottom - rect.top) > area.bottom) top = area.bottom - (rect.bottom - rect.top);
-  if (left < area.left) left = area.left;
-  if (top < area.top) top = area.top;
-  SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+// The system makes no form larger than the screen, with controls beyond its edge; what they follow is the template's
+// size.
+void TakeTemplateSize(HWND form, HINSTANCE program, int template_id) {
+  struct Header {  // of an extended template, as far as it is read here
+    WORD Version, Signature;
+    DWORD HelpId, ExtendedStyle, Style;
+    WORD Items;
+    short Left, Top, Width, Height;
+  };
+  HRSRC place = FindResourceW(program, MAKEINTRESOURCEW(template_id), RT_DIALOG);
+  const auto* header = static_cast<const Header*>(LockResource(LoadResource(program, place)));
+  if (header == nullptr || (header->Style & WS_THICKFRAME) == 0) return;
+  RECT rect{0, 0, header->Width, header->Height};
+  MapDialogRect(form, &rect);
+  AdjustWindowRectExForDpi(&rect, header->Style, GetMenu(form) != nullptr, header->ExtendedStyle,
+                           GetDpiForWindow(form));
+  SetWindowPos(form, nullptr, 0, 0, rect.right - rect.left, rect.bottom - rect.top,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace
@@ -56,6 +58,7 @@ void Form::Peer::Make(int template_id) {
       CreateDialogParamW(program, MAKEINTRESOURCEW(template_id), below == nullptr ? nullptr : below->PeerOf().Window,
                          &Procedure, reinterpret_cast<LPARAM>(this));
   if (Window == nullptr) Fault("There is no dialog template " + std::to_string(template_id));
+  TakeTemplateSize(Window, program, template_id);
   Accelerators = LoadAcceleratorsW(program, MAKEINTRESOURCEW(template_id));
   AddMenu();
   if ((GetWindowLongW(Window, GWL_STYLE) & DS_MODALFRAME) == 0) {
@@ -77,25 +80,6 @@ void Form::Peer::AddMenu() {
   GetWindowRect(Window, &whole);
   SetWindowPos(Window, nullptr, 0, 0, whole.right - whole.left, whole.bottom - whole.top + before.bottom - after.bottom,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void Form::Peer::Place(HWND owner) const {
-  // Twice, since the form changes its size on the way to a screen of another resolution.
-  for (int pass = 0; pass < 2; ++pass) {
-    RECT own{};
-    GetWindowRect(Window, &own);
-    if (Below != nullptr) {
-      RECT above{};
-      GetWindowRect(Below->PeerOf().Window, &above);
-      MoveOnto(WorkAreaOf(Below->PeerOf().Window, MONITOR_DEFAULTTONEAREST), Window, above.left, above.bottom);
-      continue;
-    }
-    const RECT area = WorkAreaOf(owner == nullptr ? Window : owner, MONITOR_DEFAULTTONEAREST);
-    RECT around = area;
-    if (owner != nullptr && !IsIconic(owner)) GetWindowRect(owner, &around);
-    MoveOnto(area, Window, (around.left + around.right - (own.right - own.left)) / 2,
-             (around.top + around.bottom - (own.bottom - own.top)) / 2);
-  }
 }
 
 HFONT Form::Peer::Bold() {

@@ -7,12 +7,21 @@
 
 #include <exception>
 #include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/form.h"
 #include "platform/win32/control_peer.h"
 #include "platform/win32/layout.h"
+
+// Where a form stood on the screen when it was there last.
+struct StoodAt {
+  RECT Rect;
+  bool Maximized;
+};
+class Drops;
 
 struct Form::Peer {
   Form* Self = nullptr;
@@ -23,8 +32,11 @@ struct Form::Peer {
   HWND TipWindow = nullptr;
   std::map<int, Control*> Controls;
   std::map<int, std::string> MenuTexts;
+  int EntriesCount = 0;               // of SetMenuEntries
+  std::shared_ptr<Drops> TakesDrops;  // null: no file may be dropped
   Layout Sizes;
   const Control* Below = nullptr;
+  std::optional<StoodAt> Stood;
 
   Control* Focus = nullptr;  // has the focus, or gets it back when the form becomes active
   Form* Disabled = nullptr;  // the form below, while this one is modal above it
@@ -55,6 +67,7 @@ struct Form::Peer {
   void Carry(std::exception_ptr failure);
   void RethrowCarried();
   HFONT Bold();
+  void TakeDrops();
   HWND Tips();  // the window of the tool tips, made when the first one is set
   void RemakeFonts();
 

@@ -1,9 +1,8 @@
 // Arranging controls when their form is resized, and keeping up with other screen resolutions.
 #include "platform/win32/layout.h"
 
+#include <algorithm>
 #include <iterator>
-
-#include "platform/form.h"
 
 namespace {
 
@@ -29,13 +28,6 @@ LONG DroppedHeight(HWND combo) {
   return dropped.bottom - dropped.top;
 }
 
-// Stretches or moves one side of a control along one axis.
-void Follow(LONG& first, LONG& last, LONG growth, bool keeps_first, bool keeps_last) {
-  if (!keeps_last) return;
-  if (!keeps_first) first += growth;
-  last += growth;
-}
-
 // Resizing a drop-down marks its text; this remembers what was marked.
 struct Marks {
   HWND Combo;
@@ -59,7 +51,13 @@ SIZE Layout::Inside() const {
   return SizeOf(rect);
 }
 
-void Layout::Anchor(HWND control, unsigned edges) { items_.push_back({control, edges, RectIn(form_, control)}); }
+void Layout::Anchor(HWND control, const Follow& follow) { items_.push_back({control, follow, RectIn(form_, control)}); }
+
+void Layout::MayShrink(int units) {
+  RECT distance{0, 0, 0, units};
+  MapDialogRect(form_, &distance);
+  smallest_.cy -= distance.bottom;
+}
 
 void Layout::RemoveRows(HWND first, HWND next) {
   const LONG from = RectIn(form_, next).top;
@@ -77,10 +75,11 @@ void Layout::RemoveRows(HWND first, HWND next) {
 }
 
 RECT Layout::Target(const Item& item, const SIZE& inside) const {
-  RECT rect = item.Base;
-  Follow(rect.left, rect.right, inside.cx - base_.cx, (item.Edges & kEdgeLeft) != 0, (item.Edges & kEdgeRight) != 0);
-  Follow(rect.top, rect.bottom, inside.cy - base_.cy, (item.Edges & kEdgeTop) != 0, (item.Edges & kEdgeBottom) != 0);
-  return rect;
+  const int wider = inside.cx - base_.cx;
+  const int higher = inside.cy - base_.cy;
+  const auto share = [](int growth, int percent) { return MulDiv(growth, percent, 100); };
+  return {item.Base.left + share(wider, item.Shares.Left), item.Base.top + share(higher, item.Shares.Top),
+          item.Base.right + share(wider, item.Shares.Right), item.Base.bottom + share(higher, item.Shares.Bottom)};
 }
 
 void Layout::Arrange() const {
@@ -111,8 +110,13 @@ void Layout::Arrange() const {
 }
 
 void Layout::Limit(MINMAXINFO& limits) const {
+  if (items_.empty()) limits.ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
   if (items_.empty() || scaling_) return;
-  limits.ptMinTrackSize = {smallest_.cx, smallest_.cy};
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(form_, MONITOR_DEFAULTTONEAREST), &monitor);
+  const SIZE room = SizeOf(monitor.rcWork);
+  limits.ptMinTrackSize = {std::min(smallest_.cx, room.cx), std::min(smallest_.cy, room.cy)};
 }
 
 void Layout::BeginScaling(UINT new_dpi) {

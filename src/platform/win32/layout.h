@@ -5,13 +5,16 @@
 
 #include <vector>
 
+#include "platform/form.h"
+
 class Layout {
  public:
   // Takes the form as it is for the smallest one.
   void Begin(HWND form);
 
-  // `edges` are those of Form::Anchor.
-  void Anchor(HWND control, unsigned edges);
+  // As Form::Anchor and Form::MayShrink.
+  void Anchor(HWND control, const Follow& follow);
+  void MayShrink(int units);
 
   // As Form::RemoveRows, before anything is anchored.
   void RemoveRows(HWND first, HWND next);
@@ -19,8 +22,12 @@ class Layout {
   // Moves the anchored controls to where the form's present size wants them.
   void Arrange() const;
 
-  // Keeps the form from getting too small.
+  // Keeps the form from getting too small, where the screen has the room. Until something is anchored, any size will
+  // do.
   void Limit(MINMAXINFO& limits) const;
+
+  // True for a form that can be resized.
+  bool Resizes() const { return !items_.empty(); }
 
   // Between the two the system scales the form for another resolution, and nothing is arranged.
   void BeginScaling(UINT new_dpi);
@@ -29,7 +36,7 @@ class Layout {
  private:
   struct Item {
     HWND Control;
-    unsigned Edges;
+    Follow Shares;
     RECT Base;  // where it is when the form's inside is base_ large
   };
 

@@ -67,6 +67,35 @@ std::string UpperCase(std::string_view text) {
   return result;
 }
 
+namespace {
+
+// What the system's comparison finds alike, told by letters only: marks and signs may have no weight in it at all.
+CapitalTable MakePlainLetters() {
+  std::array<wchar_t, 256> wide{};
+  CapitalTable plain{};
+  for (std::size_t code = 0; code < plain.size(); ++code) {
+    const char character = static_cast<char>(code);
+    plain[code] = character;
+    wide[code] = SystemPage().CharacterOf(character);
+    if (IsCharAlphaW(wide[code]) == FALSE) wide[code] = 0;
+    for (std::size_t before = 0; wide[code] != 0 && before < code; ++before) {
+      if (wide[before] == 0 || static_cast<unsigned char>(plain[before]) != before) continue;
+      const DWORD flags = NORM_IGNORECASE | NORM_IGNORENONSPACE;
+      if (CompareStringW(LOCALE_USER_DEFAULT, flags, &wide[before], 1, &wide[code], 1) != CSTR_EQUAL) continue;
+      plain[code] = plain[before];
+      break;
+    }
+  }
+  return plain;
+}
+
+}  // namespace
+
+char PlainLetter(char character) {
+  static const CapitalTable kPlain = MakePlainLetters();
+  return kPlain[static_cast<unsigned char>(character)];
+}
+
 std::string ShortDate(int year, unsigned month, unsigned day) {
   SYSTEMTIME date{};
   date.wYear = static_cast<WORD>(year);

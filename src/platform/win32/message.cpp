@@ -43,6 +43,7 @@ class InputForm : public Form {
       Close();
     };
     CancelButton.Click = [this] { Close(); };
+    if (const Form* below = TopmostForm()) HelpKey = below->HelpKey;
   }
 
   std::string Answer;

@@ -95,7 +95,7 @@ Sheet PrinterSheet() {
 }
 
 bool ChoosePrinter(int pages, PrintRange& range) {
-  PRINTDLGW dialog = DialogWith(PD_ALLPAGES | PD_NOSELECTION | PD_USEDEVMODECOPIESANDCOLLATE);
+  PRINTDLGW dialog = DialogWith(PD_NOWARNING | PD_ALLPAGES | PD_NOSELECTION | PD_USEDEVMODECOPIESANDCOLLATE);
   dialog.hDevMode = chosen_mode;
   dialog.hDevNames = chosen_names;
   dialog.nMinPage = 1;

@@ -8,6 +8,7 @@
 #include "platform/references.h"
 #include "support/files.h"
 #include "support/listener.h"
+#include "support/page_text.h"
 
 namespace {
 
@@ -77,6 +78,11 @@ Hands::Sight Hands::LookAt(const Control& control) {
               peer.Bold,     control.HasFocus(), {},
               peer.Selected, peer.Ticks,         {peer.MarkFirst, peer.MarkLast}};
   for (const ListEntry& entry : peer.Entries) sight.Entries.push_back(entry.Text);
+  const auto* list = dynamic_cast<const RowList*>(&control);
+  for (int row = 0; list != nullptr && row < list->Rows(); ++row) {
+    sight.Entries.push_back(list->CellText(row, 0));
+    for (int column = 1; column < peer.Columns; ++column) sight.Entries.back() += " / " + list->CellText(row, column);
+  }
   return sight;
 }
 
@@ -126,6 +132,7 @@ void Hands::Drag(Surface& surface, Cell from, Cell to, bool shift) {
 
 void Hands::DoubleClick(Control& control, Cell at) {
   if (const auto* picture = dynamic_cast<Picture*>(&control)) return Raise(picture->DoubleClick);
+  if (auto* list = dynamic_cast<RowList*>(&control)) return list->Select(at.Row), Raise(list->DoubleClick);
   const auto& surface = dynamic_cast<Surface&>(control);
   Raise(surface.Mouse, MousePress{MousePress::Act::Press, at});
   Raise(surface.Mouse, MousePress{MousePress::Act::DoubleClick, at});
@@ -156,10 +163,24 @@ void Hands::Close(Form& form) {
   }
 }
 
+bool Hands::Drop(Form& form, const std::string& file) {
+  const bool takes = !form.Covered() && Raise(form.MayDrop, file);
+  if (takes) form.Later([&form, file] { Raise(form.Drop, file); });
+  return takes;
+}
+
 void Hands::ShutDown(Form& form) { form.PeerOf().Unload(UnloadMode::WindowsShutdown); }
 
 void Hands::Settle() {
   if (!::OpenForms().empty()) ::OpenForms().back()->PeerOf().RunDeferred();
 }
 
-std::vector<std::string> Hands::StartedPrograms() { return Machine::StartedPrograms(); }
+std::vector<std::string> Hands::MachineNews() {
+  std::vector<std::string> news;
+  for (const std::string& command_line : Machine::StartedPrograms()) news.push_back("starts " + command_line);
+  for (const Page& page : Machine::PrintedPages()) {
+    const auto rows = RowsOf(page);
+    news.push_back("prints " + std::to_string(rows.size()) + " rows: " + rows.at(1) + " ... " + rows.back());
+  }
+  return news;
+}

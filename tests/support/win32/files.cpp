@@ -5,6 +5,9 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 
 #include "platform/files.h"
@@ -77,25 +80,15 @@ void Finish() {
 std::string Folder() { return folder; }
 
 void Put(const std::string& name, std::string_view bytes) {
-  HANDLE file = CreateFileW(SystemName(name).c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                            CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-  Require(file != INVALID_HANDLE_VALUE, "put " + name);
-  DWORD count = 0;
-  const bool written = WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr) != FALSE;
-  CloseHandle(file);
-  Require(written && count == bytes.size(), "write " + name);
+  std::ofstream out(std::filesystem::path(SystemName(name)), std::ios::binary);
+  out << bytes << std::flush;
+  Require(out.good(), "put " + name);
 }
 
 std::optional<std::string> Get(const std::string& name) {
-  HANDLE file = CreateFileW(SystemName(name).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return std::nullopt;
-  std::string bytes(GetFileSize(file, nullptr), '\0');
-  DWORD count = 0;
-  const bool read = ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr) != FALSE;
-  CloseHandle(file);
-  Require(read && count == bytes.size(), "read " + name);
-  return bytes;
+  std::ifstream in(std::filesystem::path(SystemName(name)), std::ios::binary);
+  if (!in) return std::nullopt;
+  return std::string(std::istreambuf_iterator<char>(in), {});
 }
 
 void SetReadOnly(const std::string& name, bool read_only) {

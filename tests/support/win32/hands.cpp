@@ -4,10 +4,14 @@
 #include <algorithm>
 #include <memory>
 
+#include "platform/win32/drop_target.h"
 #include "platform/win32/internals.h"
+#include "platform/win32/photo.h"
 #include "platform/win32/surface_work.h"
 #include "platform/win32/wide.h"
 #include "support/win32/watcher.h"
+// After windows.h, on which it builds.
+#include <shlobj.h>
 
 namespace {
 
@@ -41,6 +45,39 @@ std::string EntryOf(const Control& control, int position) {
   const Control::Peer& peer = control.PeerOf();
   if (peer.What == Kind::CheckList) return static_cast<const CheckList&>(control).EntryText(position);
   return peer.Entries.at(static_cast<std::size_t>(position)).Text;
+}
+
+// The rows of a row list as the native control shows them, which asks for them.
+std::vector<std::string> RowsOn(const Control::Peer& peer) {
+  std::vector<std::string> rows(static_cast<std::size_t>(peer.Send(LVM_GETITEMCOUNT)));
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    for (std::size_t column = 0; column < peer.Percents.size(); ++column) {
+      char text[512] = "";
+      LVITEMW item{};
+      item.iSubItem = static_cast<int>(column);
+      item.pszText = text;
+      item.cchTextMax = sizeof text;
+      peer.Send(LVM_GETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
+      rows[row] += (column > 0 ? " / " : "") + std::string(text);
+    }
+  }
+  return rows;
+}
+
+// A file as the system's own windows hand it out to be dragged.
+Com<IDataObject> Dragged(const std::string& file) {
+  const std::wstring name(file.begin(), file.end());
+  PIDLIST_ABSOLUTE id = nullptr;
+  IShellFolder* folder = nullptr;
+  LPCITEMIDLIST item = nullptr;
+  void* data = nullptr;
+  if (SUCCEEDED(SHParseDisplayName(name.c_str(), nullptr, &id, 0, nullptr)) &&
+      SUCCEEDED(SHBindToParent(id, IID_IShellFolder, reinterpret_cast<void**>(&folder), &item))) {
+    folder->GetUIObjectOf(nullptr, 1, &item, IID_IDataObject, nullptr, &data);
+    folder->Release();
+  }
+  ILFree(id);
+  return Com<IDataObject>(static_cast<IDataObject*>(data));
 }
 
 bool IsTicked(const Control::Peer& peer, int position) {
@@ -90,6 +127,10 @@ Hands::Sight Hands::LookAt(const Control& control) {
   for (int position = 0; position < CountOf(peer); ++position) {
     sight.Entries.push_back(EntryOf(control, position));
     if (peer.What == Kind::CheckList) sight.Ticks.push_back(IsTicked(peer, position));
+  }
+  if (const auto* list = dynamic_cast<const RowList*>(&control)) {
+    sight.Selected = list->Selected();
+    sight.Entries = RowsOn(peer);
   }
   if (peer.HoldsEntries()) sight.Selected = static_cast<int>(peer.Send(peer.DropsDown() ? CB_GETCURSEL : LB_GETCURSEL));
   DWORD from = 0, upto = 0;
@@ -189,7 +230,11 @@ void Hands::Drag(Surface& surface, Cell from, Cell to, bool shift) {
 
 void Hands::DoubleClick(Control& control, Cell at) {
   const auto* surface = dynamic_cast<Surface*>(&control);
-  const LPARAM place = surface == nullptr ? MAKELPARAM(1, 1) : Inside(*surface, at);
+  RECT row{0, 0, 2, 2};
+  if (dynamic_cast<RowList*>(&control) != nullptr) {
+    control.PeerOf().Send(LVM_GETITEMRECT, static_cast<WPARAM>(at.Row), reinterpret_cast<LPARAM>(&row));
+  }
+  const LPARAM place = surface == nullptr ? MAKELPARAM(row.left + 1, row.top + 1) : Inside(*surface, at);
   for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
     control.PeerOf().Send(message, MK_LBUTTON, place);
   }
@@ -208,6 +253,17 @@ void Hands::PageBar(Surface& surface, Surface::Bar bar, int pages) {
 }
 
 void Hands::Close(Form& form) { SendMessageW(form.PeerOf().Window, WM_SYSCOMMAND, SC_CLOSE, 0); }
+bool Hands::Drop(Form& form, const std::string& file) {
+  const Com<IDataObject> data = Dragged(file);
+  if (!data || form.PeerOf().TakesDrops == nullptr) return false;
+  IDropTarget& target = form.PeerOf().TakesDrops->Target();
+  DWORD effect = DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK;
+  target.DragEnter(data.get(), MK_LBUTTON, {}, &effect);
+  if (effect == DROPEFFECT_NONE) return target.DragLeave(), false;
+  target.Drop(data.get(), 0, {}, &effect);
+  return effect == DROPEFFECT_COPY;
+}
+
 void Hands::ShutDown(Form& form) { SendMessageW(form.PeerOf().Window, WM_QUERYENDSESSION, 0, 0); }
 
 void Hands::Settle() {
@@ -216,4 +272,4 @@ void Hands::Settle() {
   SettlePart();
 }
 
-std::vector<std::string> Hands::StartedPrograms() { return {}; }
+std::vector<std::string> Hands::MachineNews() { return {}; }

@@ -1,54 +1,34 @@
 // Writing the document to its place on the disk: see save.h.
-#include "document/save.h"
+#include "mainwindow/save.h"
 
 #include <algorithm>
-#include <optional>
+#include <exception>
+#include <new>
 
 #include "document/copies.h"
 #include "document/document.h"
-#include "document/file_handles.h"
+#include "platform/file_handles.h"
 #include "document/file_lock.h"
 #include "document/history.h"
 #include "document/writer.h"
-#include "mainwindow/command_line.h"
-#include "mainwindow/file_names.h"
+#include "shell/file_names.h"
 #include "mainwindow/settings.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "shell/file_form.h"
 #include "shell/messages.h"
+#include "shell/replace_file.h"
+#include "shell/start_options.h"
+#include "platform/text.h"
 #include "values/numbers.h"
 
 namespace {
-
-// Writes the document whole to a new file and onto the disk itself; false when that failed, which was
-// said, and the file is gone again.
-bool WriteNewFile(const std::string& name) {
-  std::optional<Files::OpenFile> file;
-  try {
-    file.emplace(kDataFileHandle, name, Files::Mode::Output);
-  } catch (const RuntimeError& error) {
-    Global::Say("Failed to open file" + Global::DueToError(error), Icon::Exclamation);
-    return false;
-  }
-  try {
-    SaveFilerFile(kDataFileHandle);
-    file->Finish();
-    return true;
-  } catch (const RuntimeError& error) {
-    file.reset();
-    EraseQuietly(name);
-    Global::Say("Failed to write file" + Global::DueToError(error), Icon::Exclamation);
-    return false;
-  }
-}
 
 enum class Presence { Missing, There, Unknown };
 
 Presence TestPresence(const std::string& target) {
   try {
-    Files::Open(kDataFileHandle, target, Files::Mode::Input);
-    Files::Close(kDataFileHandle);
+    const Files::OpenFile probe(kDataFileHandle, target, Files::Mode::Input);
     return Presence::There;
   } catch (const RuntimeError& error) {
     if (error.Number == kFileNotFound) return Presence::Missing;
@@ -60,18 +40,17 @@ Presence TestPresence(const std::string& target) {
 bool MayReplace(const std::string& target, bool overwrite_confirmed) {
   if (!SameFile(target, Global::FullFileName(TheStart.WorkingFolder, TheDocument.FileName))) {
     return overwrite_confirmed ||
-           Global::Ask("You are about to overwrite an existing file.  Continue?", Buttons::OkCancel);
+           Global::AskBeforeLoss("You are about to overwrite an existing file.  Continue?", Buttons::OkCancel);
   }
   return TheDocument.Writable ||
-         Global::Ask(
+         Global::AskBeforeLoss(
              "You opened this file for read only.  If you are sharing this file with other users, by saving it you "
              "risk clobbering their work. Proceed anyway?",
              Buttons::OkCancel);
 }
 
 // Makes the file that is to be replaced the backup; false when that failed, which was said.
-bool MakeBackup(const std::string& target) {
-  const std::string backup = BackupName(target);
+bool MakeBackup(const std::string& target, const std::string& backup) {
   try {
     if (Files::Exists(backup)) Files::Erase(backup);
   } catch (const RuntimeError& error) {
@@ -95,33 +74,88 @@ bool MakeBackup(const std::string& target) {
 
 // Puts the written file in the target's place; false when that failed, which was said. A file that is its own backup is
 // replaced in one step.
-bool PutInPlace(const std::string& target, const std::string& written, bool replaces) {
-  const bool is_backup = SameFile(BackupName(target), target);
-  if (replaces && !is_backup && !MakeBackup(target)) return false;
-  try {
-    if (replaces && is_backup) {
-      Files::Replace(written, target);
-    } else {
-      Files::Rename(written, target);
-    }
+bool PutInPlace(WrittenFile& written, const std::string& target) {
+  const std::string backup = BackupName(target);
+  if (SameFile(backup, target)) {
+    written.Replace(target);
     return true;
-  } catch (const RuntimeError& error) {
-    Global::Say("Failed to open file" + Global::DueToError(error), Icon::Exclamation);
-    return false;
+  }
+  if (!MakeBackup(target, backup)) return false;
+  try {
+    written.Rename(target);
+    return true;
+  } catch (...) {
+    try {
+      Files::Rename(backup, target);  // the text that was there goes back to its place
+    } catch (const std::exception&) {
+      // It is the backup then.
+    }
+    throw;
   }
 }
 
-// Writes the document under the target's name; false when it was cancelled or failed.
+// Writes the document under the target's name; false when it was cancelled or failed, which was said.
 bool WriteTarget(const std::string& target, bool overwrite_confirmed) {
   const Presence presence = TestPresence(target);
   if (presence == Presence::Unknown) return false;
   const bool replaces = presence == Presence::There;
   if (replaces && !MayReplace(target, overwrite_confirmed)) return false;
-  const std::string written = FreeSavingName(target);
-  if (!WriteNewFile(written)) return false;
-  if (PutInPlace(target, written, replaces)) return true;
-  EraseQuietly(written);
+  const char* failed = "Failed to write file";
+  try {
+    WrittenFile written(kDataFileHandle, FreeSavingName(target), SaveFilerFile);
+    failed = "Failed to open file";
+    if (replaces) return PutInPlace(written, target);
+    written.Rename(target);
+    return true;
+  } catch (const NotMade& error) {
+    Global::Say("Failed to open file" + Global::DueToError(error), Icon::Exclamation);
+  } catch (const RuntimeError& error) {
+    Global::Say(failed + Global::DueToError(error), Icon::Exclamation);
+  }
   return false;
+}
+
+// Other programs may write the document's file while this lives; unless another one was written, none may afterwards.
+class LockPause {
+ public:
+  LockPause() { ReleaseFileLock(); }
+  ~LockPause() {
+    if (!Written) RetakeFileLock(file_);
+  }
+  LockPause(const LockPause&) = delete;
+  LockPause& operator=(const LockPause&) = delete;
+  bool Written = false;
+
+ private:
+  // A name from the command line stands without its folder.
+  const std::string file_ = Global::FullFileName(TheStart.WorkingFolder, TheDocument.FileName);
+};
+
+// Has the user name the file, and writes it; false when it was cancelled or failed. The document is then as it was, and
+// so it is when memory runs out.
+bool WriteDocument() {
+  Document& document = TheDocument;
+  FileRequest request;
+  request.Mode = FileRequest::Kind::Write;
+  request.Folder = TheStart.WorkingFolder;
+  request.Pattern = "*.FIL";
+  request.Name = document.FileName.empty() ? ProposedFileName() : document.FileName;
+  FileForm(request).ShowModal();
+  std::string target = request.Name;
+  if (target.empty()) return false;
+  if (TypeDot(target) == std::string::npos &&
+      Global::Ask("You did not specify a filetype as part of the name. Would you like me to add a type of .FIL?",
+                  Buttons::YesNo)) {
+    target += ".FIL";
+    request.OverwriteConfirmed = false;  // that was for the name without it
+  }
+  std::string shown = target;
+  LockPause pause;
+  pause.Written = WriteTarget(target, request.OverwriteConfirmed);
+  if (!pause.Written) return false;
+  document.FileName.swap(target);
+  document.ShownFileName.swap(shown);
+  return true;
 }
 
 }  // namespace
@@ -147,32 +181,16 @@ std::string ProposedFileName() {
 }
 
 void SaveDocument() {
-  Document& document = TheDocument;
-  FileRequest request;
-  request.Mode = FileRequest::Kind::Write;
-  request.Folder = TheStart.WorkingFolder;
-  request.Pattern = "*.FIL";
-  request.Name = document.FileName.empty() ? ProposedFileName() : document.FileName;
-  FileForm(request).ShowModal();
-  std::string target = request.Name;
-  if (target.empty()) return;
-  if (TypeDot(target) == std::string::npos &&
-      Global::Ask("You did not specify a filetype as part of the name. Would you like me to add a type of .FIL?",
-                  Buttons::YesNo)) {
-    target += ".FIL";
-    request.OverwriteConfirmed = false;  // that was for the name without it
-  }
-  ReleaseFileLock();
-  if (!WriteTarget(target, request.OverwriteConfirmed)) {
-    // A name from the command line stands without its folder.
-    RetakeFileLock(Global::FullFileName(TheStart.WorkingFolder, document.FileName));
+  try {
+    if (!WriteDocument()) return;
+  } catch (const std::bad_alloc&) {
+    Global::Say("Failed to write file" + Global::DueToError(RuntimeError(kOutOfMemory)), Icon::Exclamation);
     return;
   }
-  EraseLeftovers(target);
-  document.FileName = target;
-  document.ShownFileName = target;
-  TakeFileLock(target);
+  const std::string& file = TheDocument.FileName;
+  EraseLeftovers(file);
+  TakeFileLock(file);
   TheHistory.MarkSaved();
   Global::Say("The Larkspur Filer file was saved.", Icon::Information);
-  RememberRecentFile(target);
+  RememberRecentFile(file);
 }

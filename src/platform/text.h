@@ -2,6 +2,7 @@
 // control characters are text.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 constexpr std::string_view TrimLeft(std::string_view text) {
@@ -12,3 +13,6 @@ constexpr std::string_view TrimLeft(std::string_view text) {
 constexpr std::string_view TrimRight(std::string_view text) { return text.substr(0, text.find_last_not_of(' ') + 1); }
 
 constexpr std::string_view Trim(std::string_view text) { return TrimLeft(TrimRight(text)); }
+
+// A whole number with one blank before it unless it is negative, as messages quote numbers.
+inline std::string SignedText(int number) { return (number < 0 ? "" : " ") + std::to_string(number); }

@@ -1,7 +1,8 @@
 // Full names out of folders and file names: see file_names.h.
-#include "mainwindow/file_names.h"
+#include "shell/file_names.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 #include "platform/locale.h"
 #include "platform/program.h"
@@ -28,9 +29,36 @@ std::string FolderOf(std::string_view file_name) {
   return std::string(file_name.substr(0, is_root ? start : end));
 }
 
+std::string ShortenedName(const std::string& name, std::size_t most) {
+  constexpr std::string_view kSeparators = "\\/";
+  const std::size_t root = name.find_first_of(kSeparators, 2);
+  if (name.size() <= most || root == std::string::npos) return name;
+  const std::string head = name.substr(0, root + 1) + "...";
+  const std::size_t room = most - std::min(most, head.size());
+  const std::size_t own = NameStart(name) - 1;
+  const std::size_t tail = std::min(own, name.find_first_of(kSeparators, name.size() - room));
+  return tail <= root ? name : head + name.substr(tail);
+}
+
 std::size_t TypeDot(std::string_view file_name) {
   const auto dot = file_name.rfind('.');
   return dot != std::string_view::npos && dot >= NameStart(file_name) ? dot : std::string_view::npos;
+}
+
+namespace {
+
+bool IsOfType(std::string_view file_name, std::initializer_list<std::string_view> types) {
+  const std::size_t dot = TypeDot(file_name);
+  const std::string type = dot == std::string_view::npos ? std::string() : UpperCase(file_name.substr(dot + 1));
+  return std::find(types.begin(), types.end(), type) != types.end();
+}
+
+}  // namespace
+
+bool IsDataFile(std::string_view file_name) { return IsOfType(file_name, {"FIL"}); }
+
+bool IsPicture(std::string_view file_name) {
+  return IsOfType(file_name, {"JPG", "JPEG", "PNG", "BMP", "GIF", "TIF", "TIFF"});
 }
 
 namespace {

@@ -21,8 +21,16 @@ std::string FolderOf(std::string_view file_name);
 std::size_t NameStart(std::string_view file_name);
 std::string NameWithoutFolder(std::string_view file_name);
 
+// A full name of at most `most` characters, for showing: "C:\...\Toys\Home.FIL". The drive or machine stays, and as
+// many of the last folders as there is room for; the file's own name always stays whole.
+std::string ShortenedName(const std::string& name, std::size_t most);
+
 // The position of the "." before a file name's type, or npos. A folder's name may hold a "." as well.
 std::size_t TypeDot(std::string_view file_name);
+
+// True for the names of a document's file and of a picture's, by their types.
+bool IsDataFile(std::string_view file_name);
+bool IsPicture(std::string_view file_name);
 
 // True for two full names of one file.
 bool SameFile(std::string_view one, std::string_view other);
