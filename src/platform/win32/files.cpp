@@ -251,6 +251,8 @@ void Replace(const std::string& from, const std::string& to) {
   Move(from, to, MOVEFILE_REPLACE_EXISTING);
 }
 
+bool IsFolder(const std::string& name) { return HasAttribute(name, FILE_ATTRIBUTE_DIRECTORY); }
+
 std::uint64_t ChangedAt(const std::string& name) {
   WIN32_FILE_ATTRIBUTE_DATA told{};
   if (!GetFileAttributesExA(name.c_str(), GetFileExInfoStandard, &told)) return 0;
