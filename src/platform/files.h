@@ -82,4 +82,7 @@ std::uint64_t ChangedAt(const std::string& name);
 // Tells whether a file of that name is there; false also where the system will not say.
 bool Exists(const std::string& name);
 
+// The same of a folder.
+bool IsFolder(const std::string& name);
+
 }  // namespace Files

@@ -16,6 +16,9 @@ char UpperCase(char character);
 // accents; itself for what is no letter.
 char PlainLetter(char character);
 
+// The day that a week begins with: 0 is Sunday, 6 Saturday.
+int FirstWeekday();
+
 // A date in the system's short format ("8/5/2026"); years before 1601, which the system does not know, as
 // "0476-09-04".
 std::string ShortDate(int year, unsigned month, unsigned day);

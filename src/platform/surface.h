@@ -29,6 +29,12 @@ struct WheelTurn {
   bool Control;  // Ctrl was held: Cells counts notches
 };
 
+// How much of a sheet of paper a surface shows.
+struct PaperView {
+  int Percent = 0;           // of its true size; 0: as large as fits
+  double Left = 0, Top = 0;  // the point at the surface's upper left corner, where the sheet is larger than that
+};
+
 class Surface : public Control {
  public:
   enum class Bar { Across, Down };
@@ -46,8 +52,12 @@ class Surface : public Control {
   // Shows the page from the upper left corner; what does not fit is cut off.
   void Show(Page page);
 
-  // Shows the page as it would come out on the sheet, as large as fits.
-  void ShowOnPaper(Page page, const Sheet& sheet);
+  // Shows the page as it would come out on the sheet.
+  void ShowOnPaper(Page page, const Sheet& sheet, const PaperView& view = {});
+
+  // How many points of a sheet in its true size there is room for.
+  double Width() const;
+  double Height() const;
 
   // Sets a scroll bar for `range` rows or columns of which `shown` are in view, from `position` on. A bar that has
   // nothing to scroll is greyed. Raises nothing.

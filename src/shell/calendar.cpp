@@ -39,8 +39,9 @@ CalendarDate InMonth(CalendarDate date, int wanted_year, unsigned wanted_month) 
 CalendarDate FirstOfMonth(CalendarDate date) { return {date.year(), date.month(), day{1}}; }
 CalendarDate LastOfMonth(CalendarDate date) { return {date.year() / date.month() / std::chrono::last}; }
 
-int FirstColumn(CalendarDate date) {
-  return static_cast<int>(std::chrono::weekday{sys_days{FirstOfMonth(date)}}.c_encoding());
+int FirstColumn(CalendarDate date, int first_weekday) {
+  const std::chrono::weekday first{sys_days{FirstOfMonth(date)}};
+  return static_cast<int>((first - std::chrono::weekday{static_cast<unsigned>(first_weekday)}).count());
 }
 
 std::optional<int> YearOf(std::string_view text) {

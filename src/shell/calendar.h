@@ -23,8 +23,8 @@ CalendarDate InMonth(CalendarDate date, int year, unsigned month);
 CalendarDate FirstOfMonth(CalendarDate date);
 CalendarDate LastOfMonth(CalendarDate date);
 
-// The column of the month's first day in a sheet whose weeks begin on Sunday: 0..6.
-int FirstColumn(CalendarDate date);
+// The column of the month's first day, 0..6, in a sheet whose weeks begin on that day (0 is Sunday).
+int FirstColumn(CalendarDate date, int first_weekday);
 
 // The year that a text names, without regard to blanks around it; nothing for any other text or year.
 std::optional<int> YearOf(std::string_view text);

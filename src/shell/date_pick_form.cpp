@@ -53,12 +53,17 @@ void DatePickForm::Form_Load() {
   months.reserve(std::size(kMonths));
   for (const std::string_view month : kMonths) months.push_back({std::string(month), 0});
   MonthCombo.Fill(months);
+  for (int column = 0; column < 7; ++column) {
+    WeekdayLabel[column].SetText(kWeekdays[static_cast<std::size_t>(first_weekday_ + column) % 7].substr(0, 2));
+  }
   YearBox.SetTextLimit(4);
   ShowMonth();
   DayButton[CellOf(date_)].SetFocus();
 }
 
-int DatePickForm::CellOf(CalendarDate date) const { return FirstColumn(date) + static_cast<int>(DayNumber(date)) - 1; }
+int DatePickForm::CellOf(CalendarDate date) const {
+  return FirstColumn(date, first_weekday_) + static_cast<int>(DayNumber(date)) - 1;
+}
 
 bool DatePickForm::SheetHasFocus() const {
   return std::any_of(DayButton.begin(), DayButton.end(), [](const OptionButton& each) { return each.HasFocus(); });
@@ -112,7 +117,9 @@ void DatePickForm::YearBox_Change() {
   }
 }
 
-void DatePickForm::DayButton_Click(int cell) { GoTo(PlusDays(FirstOfMonth(date_), cell - FirstColumn(date_))); }
+void DatePickForm::DayButton_Click(int cell) {
+  GoTo(PlusDays(FirstOfMonth(date_), cell - FirstColumn(date_, first_weekday_)));
+}
 
 void DatePickForm::TodayButton_Click() {
   GoTo(WithinCalendar(Today()));

@@ -7,6 +7,7 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/lists.h"
+#include "platform/locale.h"
 #include "resource.h"
 #include "shell/calendar.h"
 #include "shell/shell_ids.h"
@@ -24,6 +25,7 @@ class DatePickForm : public Form {
   TextBox YearBox{*this, IDC_YearBox};
   Button PreviousButton{*this, IDC_PreviousButton};
   Button NextButton{*this, IDC_NextButton};
+  ControlArray<Label, 7> WeekdayLabel{*this, IDC_WeekdayLabel};
   ControlArray<OptionButton, kSheetDays> DayButton{*this, IDC_DayButton};
   Label DateLabel{*this, IDC_DateLabel};
   Button TodayButton{*this, IDC_TodayButton};
@@ -44,6 +46,7 @@ class DatePickForm : public Form {
   void ShowMonth();
   void ShowSheet();
 
+  const int first_weekday_ = FirstWeekday();
   CalendarDate date_;
   CalendarDate before_typing_;  // a year
 };

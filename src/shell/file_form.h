@@ -41,15 +41,19 @@ class FileForm : public Form {
 
   void Form_Load() override;
   void NameBox_Change();
+  void NameBox_Click();
   void BrowseButton_Click();
   void OKButton_Click();
   void CancelButton_Click();
+
+  void MarkName();
 
   FileRequest& request_;
   std::string offered_;
 };
 
-// Lets the user browse for a file. In Write mode asks before a file that exists is chosen.
+// Lets the user browse for a file, where the name is, in the working folder or in the folder used last. In Write mode
+// asks before a file that exists is chosen.
 class OpenForm {
  public:
   explicit OpenForm(FileRequest& request) : request_(request) {}

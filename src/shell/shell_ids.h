@@ -17,4 +17,5 @@
 #define IDC_YearBox 1451
 #define IDC_TodayButton 1452
 #define IDC_DateLabel 1453
-#define IDC_DayButton 1460  // the sheet's upper left corner, + 41 its lower right one
+#define IDC_WeekdayLabel 1560  // above the sheet, + 6 the last one
+#define IDC_DayButton 1460     // the sheet's upper left corner, + 41 its lower right one

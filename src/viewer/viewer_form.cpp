@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/clipboard.h"
+#include "platform/registry.h"
 #include "resource.h"
 #include "shell/about_form.h"
 #include "shell/file_names.h"
@@ -20,6 +21,17 @@ namespace {
 constexpr double kTextSize = 10;  // points, at 100 %
 constexpr std::array<int, 13> kZoomLevels = {50, 60, 75, 90, 100, 110, 125, 150, 175, 200, 250, 300, 400};
 constexpr std::size_t kNormalZoom = 4;
+
+// What is remembered from one run to the next.
+constexpr const char* kPlace = "ViewerForm";
+constexpr const char* kZoom = "ViewerZoom";
+
+std::size_t RememberedZoom() {
+  const std::string percent = Remembered(kZoom);
+  const auto* found =
+      std::find_if(kZoomLevels.begin(), kZoomLevels.end(), [&](int level) { return std::to_string(level) == percent; });
+  return found == kZoomLevels.end() ? kNormalZoom : static_cast<std::size_t>(found - kZoomLevels.begin());
+}
 
 }  // namespace
 
@@ -72,8 +84,14 @@ ViewerForm::ViewerForm(const std::string& command_line)
 }
 
 void ViewerForm::Form_Load() {
+  SetPlace(Remembered(kPlace));
   ReportSurface.SetFocus();
-  SetZoom(kNormalZoom);
+  SetZoom(RememberedZoom());
+}
+
+void ViewerForm::Form_Unload() {
+  Remember(kPlace, Place());
+  Remember(kZoom, std::to_string(kZoomLevels[zoom_]));
 }
 
 void ViewerForm::Start() {

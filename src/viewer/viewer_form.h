@@ -39,6 +39,7 @@ class ViewerForm : public Form {
   Label ZoomLabel{*this, IDC_ZoomLabel};
 
   void Form_Load() override;
+  void Form_Unload() override;
   void ReportSurface_Resize();
   void ReportSurface_Scroll(Surface::Bar bar, int position);
   void ReportSurface_Wheel(const WheelTurn& turn);

@@ -1,6 +1,6 @@
 // The viewer's window: opening, saving and finding. See viewer_form.h.
-#include "platform/file_dialog.h"
 #include "platform/files.h"
+#include "shell/choose_file.h"
 #include "shell/file_names.h"
 #include "shell/messages.h"
 #include "shell/replace_file.h"
@@ -24,7 +24,7 @@ std::string ChooseNameToWrite(const std::string& report) {
   const std::string title = NameWithoutFolder(report);
   choice.Name = title.substr(0, title.rfind('.')) + ".TXT";
   for (;;) {
-    std::string name = ChooseFile(choice);
+    std::string name = Global::ChooseFile(choice);
     if (name.empty()) return name;
     if (TypeDot(name) == std::string::npos) name += ".TXT";
     if (!Files::Exists(name) || Global::AskBeforeLoss("File already exists.  Overwrite?", Buttons::YesNo)) return name;
@@ -39,7 +39,7 @@ std::string FileNameIn(const std::string& command_line) {
 }
 
 void ViewerForm::OpenItem_Click() {
-  const std::string name = ChooseFile(ChoiceOf(file_, false));
+  const std::string name = Global::ChooseFile(ChoiceOf(file_, false));
   if (!name.empty()) Load(name, false);
 }
 

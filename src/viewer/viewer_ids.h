@@ -31,3 +31,7 @@
 // PreviewForm
 #define IDC_PreviewSurface 1640
 #define IDC_PageLabel 1641
+#define IDC_PageBoxLabel 1642
+#define IDC_PageBox 1643
+#define IDC_PaperZoomLabel 1644
+#define IDC_PaperZoomCombo 1645

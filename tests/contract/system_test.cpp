@@ -48,6 +48,7 @@ TEST(SystemTest, TextIsOfTheSystemsLanguage) {
   }
   EXPECT_EQ(UpperCase("Shed 12\0"s + letters), "SHED 12\0"s + capitals);
   EXPECT_EQ(DecimalSeparator(), '.');
+  EXPECT_EQ(FirstWeekday(), 0);
   EXPECT_EQ(ShortDate(2026, 8, 5) + " " + ShortDate(9998, 12, 31) + " " + ShortDate(1601, 1, 1),
             "8/5/2026 12/31/9998 1/1/1601");
   EXPECT_EQ(ShortDate(1600, 12, 31) + " " + ShortDate(476, 9, 4), "1600-12-31 0476-09-04");

@@ -1,4 +1,4 @@
-// A test that starts as the program does: an empty folder, no document, no recent files, and a person
+// A test that starts as the program does: an empty folder, no document, nothing remembered, and a person
 // ready to act.
 #pragma once
 

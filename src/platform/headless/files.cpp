@@ -213,6 +213,15 @@ std::uint64_t ChangedAt(const std::string& name) {
   }
 }
 
+bool IsFolder(const std::string& name) {
+  try {
+    const Disk::NodePtr node = Disk::Find(name);
+    return node && node->IsFolder;
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
 bool Exists(const std::string& name) {
   try {
     CountCall();

@@ -10,12 +10,17 @@
 namespace {
 
 char decimal_separator = '.';
+int first_weekday = 0;
 
 }  // namespace
 
 void Machine::SetDecimalSeparator(char separator) { decimal_separator = separator; }
 
 char DecimalSeparator() { return decimal_separator; }
+
+void Machine::SetFirstWeekday(int weekday) { first_weekday = weekday; }
+
+int FirstWeekday() { return first_weekday; }
 
 namespace {
 

@@ -14,6 +14,7 @@
 namespace Machine {
 
 void SetDecimalSeparator(char separator);
+void SetFirstWeekday(int weekday);  // 0 is Sunday
 void SetToday(int year, unsigned month, unsigned day);
 void SetEnvironment(const std::string& name, const std::optional<std::string>& value);  // nothing: not defined
 void SetCommandLine(const std::string& text);

@@ -22,10 +22,13 @@ void Surface::Show(Page page) {
   PeerOf().OnPaper = false;
 }
 
-void Surface::ShowOnPaper(Page page, const Sheet& /*sheet*/) {
+void Surface::ShowOnPaper(Page page, const Sheet& /*sheet*/, const PaperView& /*view*/) {
   PeerOf().Shown = std::move(page);
   PeerOf().OnPaper = true;
 }
+
+double Surface::Width() const { return 400; }
+double Surface::Height() const { return 300; }
 
 void Surface::SetScroll(Bar bar, int range, int shown, int position) {
   PeerOf().Bars[bar] = {range, shown, std::clamp(position, 0, std::max(0, range - shown))};

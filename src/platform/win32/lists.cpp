@@ -24,8 +24,15 @@ bool Valid(const ListControl& list, int position) {
   return position >= 0 && static_cast<std::size_t>(position) < list.Entries().size();
 }
 
-// Makes the list of a drop-down as wide as its names need, judged by the first few: measuring all
-// would take longer than filling the list. Done as it drops down, for the window's size and font may change.
+RECT RectOfScreen(HWND window) {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+  return monitor.rcWork;
+}
+
+// Makes the list of a drop-down as wide as its names need and the screen has room, judged by the first few: measuring
+// all would take longer than filling the list. Done as it drops down, for the window's size and font may change.
 void WidenDropList(const Control::Peer& peer) {
   constexpr std::size_t kMeasured = 300;
   HDC screen = GetDC(peer.Window);
@@ -43,8 +50,9 @@ void WidenDropList(const Control::Peer& peer) {
   GetWindowRect(peer.Window, &own);
   const LONG width = own.right - own.left;
   const LONG margins = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE) + 4;
+  const LONG room = std::max(width, RectOfScreen(peer.Window).right - own.left);
   peer.Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width));  // not all systems go back to less in one step
-  peer.Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::clamp(widest + margins, width, 2 * width)));
+  peer.Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::clamp(widest + margins, width, room)));
 }
 
 using Entries = std::vector<ListEntry>;
@@ -148,7 +156,10 @@ int ListControl::SelectedData(int none) const {
   return Selected() < 0 ? none : Entries()[static_cast<std::size_t>(Selected())].Data;
 }
 
-void ComboBox::SelectText(int first, int last) { PeerOf().Mark(PeerOf().EditField(), first, last); }
+void ComboBox::SelectText(int first, int last) {
+  PeerOf().Mark(PeerOf().EditField(), first, last);
+  SendMessageW(PeerOf().EditField(), EM_SCROLLCARET, 0, 0);
+}
 
 HWND Control::Peer::EditField() const {
   COMBOBOXINFO parts{};

@@ -96,6 +96,13 @@ char PlainLetter(char character) {
   return kPlain[static_cast<unsigned char>(character)];
 }
 
+int FirstWeekday() {
+  wchar_t digit[4] = L"";
+  const bool told = GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IFIRSTDAYOFWEEK, digit, 4) != 0;
+  const bool valid = told && digit[0] >= L'0' && digit[0] <= L'6';
+  return valid ? (digit[0] - L'0' + 1) % 7 : 0;  // the system begins to count on Monday
+}
+
 std::string ShortDate(int year, unsigned month, unsigned day) {
   SYSTEMTIME date{};
   date.wYear = static_cast<WORD>(year);

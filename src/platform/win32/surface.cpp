@@ -45,7 +45,11 @@ int Surface::Rows() const { return PeerOf().Work->Rows; }
 void Surface::SetTextSize(double points) { PeerOf().Work->SetTextSize(points); }
 double Surface::TextSize() const { return PeerOf().Work->TextSize; }
 void Surface::Show(Page page) { PeerOf().Work->Show(std::move(page), std::nullopt); }
-void Surface::ShowOnPaper(Page page, const Sheet& sheet) { PeerOf().Work->Show(std::move(page), sheet); }
+void Surface::ShowOnPaper(Page page, const Sheet& sheet, const PaperView& view) {
+  PeerOf().Work->Show(std::move(page), sheet, view);
+}
+double Surface::Width() const { return PeerOf().Work->Points(true); }
+double Surface::Height() const { return PeerOf().Work->Points(false); }
 
 void Surface::SetScroll(Bar bar, int range, int shown, int position) {
   SCROLLINFO info{};
@@ -81,10 +85,17 @@ void SurfaceWork::SetTextSize(double points) {
   InvalidateRect(Window(), nullptr, FALSE);
 }
 
-void SurfaceWork::Show(Page page, const std::optional<Sheet>& sheet) {
+void SurfaceWork::Show(Page page, const std::optional<Sheet>& sheet, const PaperView& view) {
   Shown = std::move(page);
   Paper = sheet;
+  View = view;
   InvalidateRect(Window(), nullptr, FALSE);
+}
+
+double SurfaceWork::Points(bool across) const {
+  RECT inside{};
+  GetClientRect(Window(), &inside);
+  return (across ? inside.right : inside.bottom) * 72.0 / GetDpiForWindow(Window());
 }
 
 void SurfaceWork::MeasureCells() {

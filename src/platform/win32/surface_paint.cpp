@@ -107,10 +107,14 @@ void SurfaceWork::DrawLines(HDC target, const RECT& inside) const {
 void SurfaceWork::DrawPaper(HDC target, const RECT& inside) const {
   Fill(target, inside, COLOR_APPWORKSPACE);
   const LONG margin = cell_.cy / 2;
-  const double scale = std::max(
+  const double fitting = std::max(
       0.05, std::min((inside.right - 2 * margin) / Paper->Width, (inside.bottom - 2 * margin) / Paper->Height));
+  const double scale = View.Percent == 0 ? fitting : View.Percent / 100.0 * GetDpiForWindow(Window()) / 72;
   const LONG width = static_cast<LONG>(Paper->Width * scale), height = static_cast<LONG>(Paper->Height * scale);
-  RECT sheet{(inside.right - width) / 2, (inside.bottom - height) / 2, 0, 0};
+  const auto begin = [scale](LONG room, LONG size, double seen_from) {
+    return size <= room ? (room - size) / 2 : -static_cast<LONG>(seen_from * scale);
+  };
+  RECT sheet{begin(inside.right, width, View.Left), begin(inside.bottom, height, View.Top), 0, 0};
   sheet.right = sheet.left + width;
   sheet.bottom = sheet.top + height;
   RECT shadow = sheet;

@@ -20,7 +20,8 @@ class SurfaceWork {
   bool Take(UINT message, WPARAM first, LPARAM second, LRESULT& result);
 
   void SetTextSize(double points);
-  void Show(Page page, const std::optional<Sheet>& sheet);
+  void Show(Page page, const std::optional<Sheet>& sheet, const PaperView& view = {});
+  double Points(bool across) const;  // that there is room for
 
   // Where a cell is in the window.
   RECT RectOf(const Cell& cell, int columns = 1, int rows = 1) const;
@@ -29,6 +30,7 @@ class SurfaceWork {
   int Columns = 1, Rows = 1;
   Page Shown;
   std::optional<Sheet> Paper;
+  PaperView View;
 
  private:
   HWND Window() const;

@@ -2,7 +2,7 @@
 //
 //   disk BYTES                 so much may be written yet
 //   no-starts                  starting a program gives no process
-//   program-folder FOLDER      where the program lies; today YEAR MONTH DAY
+//   program-folder FOLDER      where the program lies; today YEAR MONTH DAY; first-weekday NUMBER (0 is Sunday)
 //   registry KEY NAME TEXT     a value of the user's, "-" for the default one; unregister KEY
 //   printer FIRST LAST [SHEETS [HEIGHT]], printer 0 (cancels)
 #include <sstream>
@@ -42,6 +42,7 @@ const Story::Verbs& MachineVerbs() {
       {"no-starts", [](Story&, User&, const std::string&) { Machine::FailStart(0); }},
       {"program-folder", [](Story&, User&, const std::string& folder) { Machine::SetProgramFolder(folder); }},
       {"today", SetToday},
+      {"first-weekday", [](Story&, User&, const std::string& day) { Machine::SetFirstWeekday(std::stoi(day)); }},
       {"registry", SetRegistry},
       {"unregister",
        [](Story&, User&, const std::string& key) { Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, key); }},
@@ -53,6 +54,7 @@ void ResetMachine() {
   Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, "SOFTWARE");
   Machine::SetProgramFolder("C:\\LARKSPUR");
   Machine::SetToday(2026, 8, 5);
+  Machine::SetFirstWeekday(0);
   Machine::FailStart(std::nullopt);
   Machine::SetPrinter(std::nullopt);
   Machine::StartedPrograms();
