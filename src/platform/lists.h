@@ -50,7 +50,8 @@ class DropDownList : public ListControl {
 class ComboBox : public ListControl {
  public:
   ComboBox(Form& owner, int id) : ListControl(owner, id, Kind::ComboBox) {}
-  void SelectText(int first, int last);  // marks characters [first, last) of the edit field, whose end comes into view
+  void SelectText(int first,
+                  int last);  // marks bytes [first, last) of the edit field's text, whose end comes into view
   Event Change;
 };
 
