@@ -264,7 +264,7 @@ void Replace(const std::string& from, const std::string& to) {
   Move(CheckedName(from), CheckedName(to), MOVEFILE_REPLACE_EXISTING);
 }
 
-bool IsFolder(const std::string& name) { return HasAttribute(name, FILE_ATTRIBUTE_DIRECTORY); }
+bool IsFolder(const std::string& name) { return HasAttribute(SystemName(name), FILE_ATTRIBUTE_DIRECTORY); }
 
 std::uint64_t ChangedAt(const std::string& name) {
   WIN32_FILE_ATTRIBUTE_DATA told{};

@@ -47,6 +47,13 @@ void FindDefaultPrinter() {
   chosen_names = dialog.hDevNames;
 }
 
+// False where there is none to choose: some systems say so in a box of their own, whatever the dialog's flags.
+bool HasPrinter() {
+  FindDefaultPrinter();
+  wchar_t names[4] = L"";
+  return chosen_names != nullptr || GetProfileStringW(L"devices", nullptr, L"", names, 4) > 0;
+}
+
 // The chosen printer, or null when there is none.
 Device OpenPrinterDevice() {
   FindDefaultPrinter();
@@ -95,6 +102,7 @@ Sheet PrinterSheet() {
 }
 
 bool ChoosePrinter(int pages, PrintRange& range) {
+  if (!HasPrinter()) FailPrinting();
   PRINTDLGW dialog = DialogWith(PD_NOWARNING | PD_ALLPAGES | PD_NOSELECTION | PD_USEDEVMODECOPIESANDCOLLATE);
   dialog.hDevMode = chosen_mode;
   dialog.hDevNames = chosen_names;
