@@ -4,7 +4,6 @@
 #include <gtest/gtest-spi.h>
 
 #include "contract/test_form.h"
-#include "support/expectations.h"
 
 namespace {
 
@@ -19,13 +18,13 @@ TEST_F(MessageTest, BoxesShowTheirTextAsItStandsAndAnswerWithTheButton) {
     for (const std::string text : {"Two lines,\r\none of them caf\xE9.", "Fish & Chips && more", kFar.c_str()}) {
       user.Answers(text, answer, Icon::Critical, buttons);
       EXPECT_EQ(MsgBox(text, "Caption & " + kFar, buttons, Icon::Critical), answer);
-      EXPECT_EQ(Expected().LastCaption, "Caption & " + kFar);
+      EXPECT_EQ(user.LastCaption, "Caption & " + kFar);
     }
   }
   for (const std::string text : {"  caf\xE9 & b  ", kFar.c_str(), ""}) {
     user.AnswersInput("Name of\r\nthe thing & all:", text);
     EXPECT_EQ(InputBox("Name of\r\nthe thing & all:", "Caption", "offered " + text), text);
-    EXPECT_EQ(Expected().LastOffered + Expected().LastCaption, "offered " + text + "Caption");
+    EXPECT_EQ(user.LastOffered + user.LastCaption, "offered " + text + "Caption");
   }
 }
 
@@ -36,8 +35,8 @@ TEST_F(MessageTest, WhatNobodyExpectedFailsTheTest) {
       {[&] { EXPECT_EQ(InputBox("name:", "T", "offered"), ""); }, "name:"},
       {[&] { user.Reads("words", Icon::None), MsgBox("others", "T"); }, "words"},
       {[&] { user.Reads("text", Icon::Critical), MsgBox("text", "T"); }, "critical"},
-      {[&] { user.Answers("text", Answer::Yes, Icon::None, Buttons::Ok), MsgBox("text", "T"); }, "Yes"},
-      {[&] { user.Reads("never", Icon::None), Expected().Finish(), Expected().Start(); }, "never"},
+      {[&] { user.Answers("text", Answer::Yes, Icon::None, Buttons::Ok), MsgBox("text", "T"); }, "no button yes"},
+      {[&] { user.Reads("never", Icon::None), user.ExpectsNoMore(); }, "never"},
       {[&] { user.UsesForm(IDD_TestForm, [] {}), form.ShowModal(); }, "5000"},
       {[&] { Use([&] { form.LineBox.SetVisible(false), user.Types(IDC_LineBox, "x"); }); }, "5012"},
       {[&] { Use([&] { form.FirstButton.SetEnabled(false), user.Clicks(IDC_FirstButton); }); }, "5014"},

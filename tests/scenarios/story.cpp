@@ -4,21 +4,15 @@
 #include <algorithm>
 
 #include "platform/program.h"
-#include "platform/runtime_error.h"
 #include "shell/messages.h"
 #include "support/hands.h"
 #include "support/names.h"
+#include "support/rows.h"
 
 namespace {
 
 const bool kRegistered =
     RegisterStories("Stories", "scenarios", [](const Tale& above, const Tale& tale) { return new Story(above, tale); });
-
-void ReplaceAll(std::string& text, const std::string& from, const std::string& to) {
-  for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-    text.replace(at, from.size(), to);
-  }
-}
 
 // What is another thing on each machine, as stories have it.
 std::vector<std::pair<std::string, std::string>> Stand() {
@@ -28,7 +22,7 @@ std::vector<std::pair<std::string, std::string>> Stand() {
 // As stories have it: what is the machine's own by its name, what is no plain character as {E9}.
 std::string Plain(const std::string& line) {
   std::string text = line, plain;
-  for (const auto& [real, name] : Stand()) ReplaceAll(text, real, name);
+  for (const auto& [real, name] : Stand()) text = Replaced(text, real, name);
   for (const char each : text) {
     constexpr const char* kDigits = "0123456789ABCDEF";
     const auto code = static_cast<unsigned char>(each);
@@ -40,7 +34,7 @@ std::string Plain(const std::string& line) {
 }
 
 std::string Expanded(std::string text) {
-  for (const auto& [real, name] : Stand()) ReplaceAll(text, name, real);
+  for (const auto& [real, name] : Stand()) text = Replaced(text, name, real);
   for (std::size_t at = text.find('{'); at != std::string::npos; at = text.find('{', at + 1)) {
     if (text.find('}', at) == at + 3)
       text.replace(at, 4, 1, static_cast<char>(std::stoi(text.substr(at + 1, 2), nullptr, 16)));
@@ -48,15 +42,15 @@ std::string Expanded(std::string text) {
   return text;
 }
 
+// The usual one is not told.
+std::string CaptionInWords(const std::string& caption) {
+  return caption == Global::ProgramTitle ? "" : " [" + caption + "]";
+}
+
 // A click on these closes a form.
 bool Leaves(const std::string& part) { return part == "OKButton" || part == "CancelButton"; }
 
 }  // namespace
-
-std::pair<std::string, std::string> Parted(const std::string& text) {
-  const std::size_t end = std::min(text.find(' '), text.size());
-  return {text.substr(0, end), text.substr(std::min(end + 1, text.size()))};
-}
 
 std::deque<std::string> Story::PartsOf(const std::string& act) {
   std::deque<std::string> parts(1);
@@ -75,7 +69,6 @@ std::deque<std::string> Story::PartsOf(const std::string& act) {
 
 Story::Story(const Tale& above, const Tale& tale)
     : Sees([this](const std::string& line) { Say(line); }, Plain), above_(above), tale_(tale) {}
-Story::~Story() = default;
 
 void Story::SetUp() {
   FreshTest::SetUp();
@@ -102,25 +95,18 @@ void Story::TestBody() {
       Leave();
       Sees.LookAtFiles();
       Say("the program ends");
-    } catch (const RuntimeError& error) {
-      Say("thrown:" + Global::DueToError(error));
     } catch (const std::exception& error) {
       Fail(std::string("thrown: ") + error.what());
     }
+    for (const std::string& part : parts_) Fail("Never came to use: " + part);
+    parts_.clear();
   }
-  CheckParts();
   tale_.Compare();
 }
 
-void Story::CheckParts() {
-  for (const std::string& part : parts_) Fail("Never came to use: " + part);
-  parts_.clear();
-}
-
 void Story::Step() {
-  CheckParts();
   now_ = acts_[next_++];
-  const auto [word, rest] = Parted(now_->Text);
+  const auto [word, rest] = Halves(now_->Text, ' ');
   const bool given = GivenVerbs().contains(word), quietly = word == "quietly";
   quiet_ = given || quietly || next_ <= untold_;
   parts_ = given ? std::deque{now_->Text} : PartsOf(quietly ? rest : now_->Text);
@@ -138,10 +124,10 @@ void Story::DoPart() {
 }
 
 void Story::Do(const std::string& act) {
-  const auto [word, rest] = Parted(act);
+  const auto [word, rest] = Halves(act, ' ');
   for (const Verbs* verbs : {&GivenVerbs(), &PersonVerbs(), &MachineVerbs()}) {
     const auto verb = verbs->find(word);
-    if (verb != verbs->end()) return verb->second(*this, user, rest);
+    if (verb != verbs->end()) return verb->second(*this, rest);
   }
   const int id = Names::ControlOf(word);
   if (id == 0) return Fail("There is no act or control " + word);
@@ -205,27 +191,21 @@ std::string Story::TextReply(const std::string& asked) {
 
 Answer Story::MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
   Sees.LookAtFiles();
-  std::string line = NameOf(icon) + " " + NameOf(buttons) + ": " + text;
-  if (caption != Global::ProgramTitle) line += " [" + caption + "]";
+  const std::string line = InWords(text, buttons, icon) + CaptionInWords(caption);
   Say(line);
   if (buttons == Buttons::Ok) return Answer::Ok;
-  const bool yes_no = buttons == Buttons::YesNo;
   const std::string reply = Reply(line);
-  if (reply == (yes_no ? "yes" : "ok")) return yes_no ? Answer::Yes : Answer::Ok;
-  if (reply != (yes_no ? "no" : "cancel")) Fail(reply + " is no answer to: " + line);
-  return yes_no ? Answer::No : Answer::Cancel;
+  const auto answer = AnswerOf(reply, buttons);
+  if (!answer) Fail(reply + " is no answer to: " + line);
+  return answer.value_or(buttons == Buttons::YesNo ? Answer::No : Answer::Cancel);
 }
 
 std::string Story::InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) {
-  std::string line = "input: " + prompt;
-  if (!offered.empty()) line += " offers \"" + offered + "\"";
-  if (caption != Global::ProgramTitle) line += " [" + caption + "]";
-  return TextReply(line);
+  return TextReply("input: " + prompt + (offered.empty() ? "" : " offers \"" + offered + "\"") +
+                   CaptionInWords(caption));
 }
 
-std::string Story::FileDialogCame(const std::string& /*caption*/, const std::string& asked) {
-  return TextReply("file dialog: " + asked);
-}
+std::string Story::FileDialogCame(const std::string& asked) { return TextReply("file dialog: " + asked); }
 
 void Story::FormCame(Form& form) {
   const auto open = Hands::OpenForms();

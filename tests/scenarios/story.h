@@ -46,11 +46,11 @@
 
 class Story : public FreshTest, public Listener {
  public:
-  using Verb = std::function<void(Story& story, User& person, const std::string& rest)>;
+  using Verb = std::function<void(Story& story, const std::string& rest)>;
   using Verbs = std::map<std::string, Verb>;
 
   Story(const Tale& above, const Tale& tale);
-  ~Story() override;
+  using FreshTest::user;
 
   // For verbs.
   void Do(const std::string& act);
@@ -69,7 +69,7 @@ class Story : public FreshTest, public Listener {
 
   Answer MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
   std::string InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) override;
-  std::string FileDialogCame(const std::string& caption, const std::string& asked) override;
+  std::string FileDialogCame(const std::string& asked) override;
   void FormCame(Form& form) override;
 
  private:
@@ -81,7 +81,6 @@ class Story : public FreshTest, public Listener {
   void Use(int id, const std::optional<std::string>& text);
   std::string Reply(const std::string& asked);
   std::string TextReply(const std::string& asked);
-  void CheckParts();
 
   Tale above_, tale_;
   std::vector<StoryLine*> acts_;
@@ -92,9 +91,6 @@ class Story : public FreshTest, public Listener {
   std::string part_;
   std::unique_ptr<Form> form_;
 };
-
-// The first word, and what stands behind it.
-std::pair<std::string, std::string> Parted(const std::string& text);
 
 const Story::Verbs& GivenVerbs();  // nothing of them is told
 const Story::Verbs& PersonVerbs();

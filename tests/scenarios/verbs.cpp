@@ -12,70 +12,76 @@
 #include "scenarios/story.h"
 #include "shell/about_form.h"
 #include "shell/messages.h"
-#include "support/hands.h"
 #include "support/names.h"
+#include "support/rows.h"
 #include "viewer/viewer_form.h"
 
 namespace {
 
-void Give(Story&, User&, const std::string& rest) {
-  const auto [name, as] = Parted(rest);
+using Text = const std::string&;
+
+void Give(Story&, Text rest) {
+  const auto [name, as] = Halves(rest, ' ');
   std::ifstream in(FILER_SOURCE_DIR "/tests/scenarios/given/" + name, std::ios::binary);
   TestFiles::Put(as.empty() ? name : Story::Unquoted(as), std::string(std::istreambuf_iterator<char>(in), {}));
 }
 
 // Lines parted by " / ", each with its end; one alone without.
-std::string LinesOf(std::string text) {
-  if (text.find(" / ") != std::string::npos) text += "\r\n";
-  for (auto at = text.find(" / "); at != std::string::npos; at = text.find(" / ")) text.replace(at, 3, "\r\n");
-  return text;
+std::string LinesOf(Text text) {
+  const std::string lines = Replaced(text, " / ", "\r\n");
+  return lines == text ? text : lines + "\r\n";
 }
 
-void PutFile(Story&, User&, const std::string& rest) {
-  const auto [name, text] = Parted(rest);
+void PutFile(Story&, Text rest) {
+  const auto [name, text] = Halves(rest, ' ');
   TestFiles::Put(name, LinesOf(Story::Unquoted(text)));
 }
 
-void PutData(Story&, User&, const std::string& rest) {
-  const auto [name, text] = Parted(rest);
+void PutData(Story&, Text rest) {
+  const auto [name, text] = Halves(rest, ' ');
   TestFiles::Put(name, LinesOf("LARKSPUR V5.0 FILER DATA / " + text + (text.empty() ? "[END]" : " / [END]")));
 }
 
-void MakeFolders(Story& story, User&, const std::string& names) {
+void MakeFolders(Story& story, Text names) {
   for (const std::string& name : Story::PartsOf(names)) {
     TestFiles::MakeFolder(name);
     story.Sees.NoteFolder(name);
   }
 }
 
-void Start(Story& story, User&, const std::string& command_line) {
+void Start(Story& story, Text command_line) {
   story.Leave();
   story.Open(std::make_unique<MainForm>(command_line)).Show();
 }
 
-void StartViewer(Story& story, User&, const std::string& command_line) {
+void StartViewer(Story& story, Text command_line) {
   story.Leave();
   Global::ProgramTitle = "Larkspur Report Viewer";
   story.Open(std::make_unique<ViewerForm>(command_line)).Start();
 }
 
 // A file of the folder "given", or one of these lines, in the main window.
-void ShowGiven(Story& story, User& person, const std::string& rest) {
+void ShowGiven(Story& story, Text rest) {
   const std::string name = rest.empty() ? "Home.FIL" : rest;
-  Give(story, person, name);
-  Start(story, person, name);
+  Give(story, name);
+  Start(story, name);
 }
 
-void ShowLines(Story& story, User& person, const std::string& lines) {
-  PutData(story, person, "Shown.FIL " + lines);
-  Start(story, person, "Shown.FIL");
+void ShowLines(Story& story, Text lines) {
+  PutData(story, "Shown.FIL " + lines);
+  Start(story, "Shown.FIL");
 }
 
-bool Has(const std::string& text, const char* word) { return text.find(word) != std::string::npos; }
+void Fill(Story&, Text) {
+  TheDocument.Things.GrowFor(32767, 0);
+  TheDocument.Things.SetCount(32767);
+}
 
-Cell CellOf(const std::string& text) { return {std::stoi(text), std::stoi(text.substr(text.find(',') + 1))}; }
+bool Has(Text text, const char* word) { return text.find(word) != std::string::npos; }
 
-void PressKeys(Story& story, User& person, const std::string& rest) {
+Cell CellOf(Text text) { return {std::stoi(text), std::stoi(text.substr(text.find(',') + 1))}; }
+
+void PressKeys(Story& story, Text rest) {
   constexpr const char* kKeys[] = {"Enter",  "Escape",   "Left", "Right", "Up",   "Down",
                                    "PageUp", "PageDown", "Home", "End",   "Help", "Space"};
   std::istringstream in(rest);
@@ -83,21 +89,32 @@ void PressKeys(Story& story, User& person, const std::string& rest) {
     const std::string name = key.substr(key.rfind('+') + 1);
     const auto found = std::find(std::begin(kKeys), std::end(kKeys), name);
     if (name.size() == 1) {
-      person.PressesControl(name[0]);
+      story.user.PressesControl(name[0]);
     } else if (found != std::end(kKeys)) {
-      person.Presses(KeyPress{static_cast<Key>(found - std::begin(kKeys)), Has(key, "Shift+"), Has(key, "Ctrl+")});
+      story.user.Presses(KeyPress{static_cast<Key>(found - std::begin(kKeys)), Has(key, "Shift+"), Has(key, "Ctrl+")});
     } else {
       story.Fail("There is no key " + name);
     }
   }
 }
 
-void DropFile(Story& story, User&, const std::string& name) {
+void ShutDown(Story&, Text) {
+  Hands::ShutDown(*Hands::OpenForms().front());  // dialogs have no say
+  Hands::Settle();
+}
+
+void Focus(Story& story, Text name) {
+  const int id = Names::ControlOf(name);
+  story.Sees.Foresee(*Hands::ControlsOf(*Hands::OpenForms().back()).at(id));
+  story.user.MovesTo(id);
+}
+
+void DropFile(Story& story, Text name) {
   if (!Hands::Drop(*Hands::OpenForms().front(), InFolder(name))) story.Say("refused");
   Hands::Settle();
 }
 
-void ShowFile(Story& story, User&, const std::string& name) {
+void ShowFile(Story& story, Text name) {
   std::istringstream in(TestFiles::Get(name).value());
   for (std::string line; std::getline(in, line);) {
     const bool whole = line.ends_with('\r') && !in.eof();
@@ -105,13 +122,13 @@ void ShowFile(Story& story, User&, const std::string& name) {
   }
 }
 
-void OpenPrint(Story& story, User&, const std::string& typed) {
+void OpenPrint(Story& story, Text typed) {
   const std::string name = Global::OpenPrintFile(Global::kPrintFileName, typed);
   story.Say(Files::IsOpen(kPrintFileHandle) ? "opened " + name : "nothing opened");
   Files::Close(kPrintFileHandle);
 }
 
-void RunFailing(Story&, User&, const std::string&) {
+void RunFailing(Story&, Text) {
   AboutForm about("A form to run.", "");
   Global::RunForm(about, [&about] {
     about.Show();
@@ -119,35 +136,41 @@ void RunFailing(Story&, User&, const std::string&) {
   });
 }
 
-// A verb that acts on a control: its id, and what stands behind its name.
+// A verb that acts on a surface: its id, and what stands behind its name.
 template <typename Act>
 Story::Verb On(Act act) {
-  return [act](Story&, User& person, const std::string& rest) {
-    const auto [name, how] = Parted(rest);
-    act(person, Names::ControlOf(name), how);
+  return [act](Story& story, Text rest) {
+    const auto [name, how] = Halves(rest, ' ');
+    act(story.user, Names::ControlOf(name), how);
   };
 }
+
+void Drag(User& user, int id, Text how) {
+  user.Drags(id, CellOf(how), CellOf(Halves(how, ' ').second), Has(how, "shift"));
+}
+
+void PageBar(User& user, int id, Text how) {
+  user.PagesBar(id, Has(how, "across") ? Surface::Bar::Across : Surface::Bar::Down, std::stoi(how));
+}
+
+void Wheel(User& user, int id, Text how) { user.TurnsWheel(id, std::stoi(how), Has(how, "shift"), Has(how, "ctrl")); }
 
 }  // namespace
 
 const Story::Verbs& GivenVerbs() {
-  static const Story::Verbs kVerbs = {
-      {"given", Give},
-      {"file", PutFile},
-      {"data", PutData},
-      {"folder", MakeFolders},
-      {"erase", [](Story&, User&, const std::string& name) { Files::Erase(name); }},
-      {"read-only", [](Story&, User&, const std::string& name) { TestFiles::SetReadOnly(name, true); }},
-      {"writable", [](Story&, User&, const std::string& name) { TestFiles::SetReadOnly(name, false); }},
-      {"held", [](Story&, User&, const std::string& name) { TestFiles::HoldByOther(name, false); }},
-      {"kept", [](Story&, User&, const std::string& name) { TestFiles::HoldByOther(name, true); }},
-      {"released", [](Story&, User&, const std::string&) { TestFiles::ReleaseByOther(); }},
-      {"home", ShowGiven},
-      {"shows", ShowLines},
-      {"full", [](Story&, User&, const std::string&) {
-         TheDocument.Things.GrowFor(32767, 0);
-         TheDocument.Things.SetCount(32767);
-       }}};
+  static const Story::Verbs kVerbs = {{"given", Give},
+                                      {"file", PutFile},
+                                      {"data", PutData},
+                                      {"folder", MakeFolders},
+                                      {"erase", [](Story&, Text name) { Files::Erase(name); }},
+                                      {"read-only", [](Story&, Text name) { TestFiles::SetReadOnly(name, true); }},
+                                      {"writable", [](Story&, Text name) { TestFiles::SetReadOnly(name, false); }},
+                                      {"held", [](Story&, Text name) { TestFiles::HoldByOther(name, false); }},
+                                      {"kept", [](Story&, Text name) { TestFiles::HoldByOther(name, true); }},
+                                      {"released", [](Story&, Text) { TestFiles::ReleaseByOther(); }},
+                                      {"home", ShowGiven},
+                                      {"shows", ShowLines},
+                                      {"full", Fill}};
   return kVerbs;
 }
 
@@ -155,33 +178,18 @@ const Story::Verbs& PersonVerbs() {
   static const Story::Verbs kVerbs = {
       {"start", Start},
       {"viewer", StartViewer},
-      {"leave", [](Story& story, User&, const std::string&) { story.Leave(); }},
-      {"close", [](Story&, User& person, const std::string&) { person.ClosesWindow(); }},
-      {"shutdown",
-       [](Story&, User&, const std::string&) {
-         Hands::ShutDown(*Hands::OpenForms().front());  // dialogs have no say
-         Hands::Settle();
-       }},
+      {"leave", [](Story& story, Text) { story.Leave(); }},
+      {"close", [](Story& story, Text) { story.user.ClosesWindow(); }},
+      {"shutdown", ShutDown},
       {"key", PressKeys},
-      {"focus",
-       [](Story& story, User& person, const std::string& name) {
-         const int id = Names::ControlOf(name);
-         story.Sees.Foresee(*Hands::ControlsOf(*Hands::OpenForms().back()).at(id));
-         person.MovesTo(id);
-       }},
+      {"focus", Focus},
       {"drop", DropFile},
-      {"drag", On([](User& person, int id, const std::string& how) {
-         person.Drags(id, CellOf(how), CellOf(Parted(how).second), Has(how, "shift"));
-       })},
-      {"double-click", On([](User& person, int id, const std::string& how) { person.DoubleClicks(id, CellOf(how)); })},
-      {"wheel", On([](User& person, int id, const std::string& how) {
-         person.TurnsWheel(id, std::stoi(how), Has(how, "shift"), Has(how, "ctrl"));
-       })},
-      {"page", On([](User& person, int id, const std::string& how) {
-         person.PagesBar(id, Has(how, "across") ? Surface::Bar::Across : Surface::Bar::Down, std::stoi(how));
-       })},
+      {"drag", On(Drag)},
+      {"double-click", On([](User& user, int id, Text how) { user.DoubleClicks(id, CellOf(how)); })},
+      {"wheel", On(Wheel)},
+      {"page", On(PageBar)},
       {"show", ShowFile},
-      {"clipboard", [](Story& story, User&, const std::string&) { story.Say('"' + ClipboardText() + '"'); }},
+      {"clipboard", [](Story& story, Text) { story.Say('"' + ClipboardText() + '"'); }},
       {"prints", OpenPrint},
       {"fails", RunFailing}};
   return kVerbs;

@@ -1,6 +1,7 @@
 // Who is told of what comes up before a test's person, and answers it.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/form.h"
@@ -12,7 +13,7 @@ class Listener {
   virtual Answer MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) = 0;
   // The text to type before OK, or to choose; empty cancels. What a file dialog is asked for is told in words.
   virtual std::string InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) = 0;
-  virtual std::string FileDialogCame(const std::string& caption, const std::string& asked) = 0;
+  virtual std::string FileDialogCame(const std::string& asked) = 0;
   // Uses the form, and reports one that is still open then: it is closed afterwards, asking nobody.
   virtual void FormCame(Form& form) = 0;
 };
@@ -20,5 +21,7 @@ class Listener {
 // The one of the running test.
 Listener*& TheListener();
 
-std::string NameOf(Icon icon);
-std::string NameOf(Buttons buttons);
+// A message box in words: "exclamation OK: text".
+std::string InWords(const std::string& text, Buttons buttons, Icon icon);
+// What such a box is answered by "ok", "cancel", "yes" or "no"; nothing when it has no such button.
+std::optional<Answer> AnswerOf(const std::string& word, Buttons buttons);

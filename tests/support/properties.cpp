@@ -16,46 +16,25 @@
 
 namespace {
 
-template <class Record>
-using Texts = std::vector<std::pair<const char*, std::string Record::*>>;
-
-const Texts<FieldDefinition> kFieldTexts = {
-    {"keyword", &FieldDefinition::Keyword}, {"title", &FieldDefinition::Title}, {"type", &FieldDefinition::Type}};
-const Texts<FormulaDefinition> kFormulaTexts = {{"name", &FormulaDefinition::Name},
-                                                {"title", &FormulaDefinition::Title},
-                                                {"type", &FormulaDefinition::Type},
-                                                {"format", &FormulaDefinition::Format},
-                                                {"formula", &FormulaDefinition::Formula}};
-const Texts<ThingRecord> kThingTexts = {
-    {"name", &ThingRecord::NAME}, {"note", &ThingRecord::NOTE}, {"photo", &ThingRecord::PICFILENAME}};
-
-std::string Member(const std::string& title, const std::string& text) {
-  return text.empty() ? "" : " " + title + "<" + text + ">";
-}
-
-std::string Member(const std::string& title, int number) {
-  return number == 0 ? "" : " " + title + " " + std::to_string(number);
-}
-
-std::string NumbersAndValues(const ThingRecord& thing) {
-  std::string line =
-      Member("xref1", thing.XREF1) + Member("xref2", thing.XREF2) + Member("categories", thing.CATBITMAP);
-  for (std::size_t slot = 0; slot < kFieldValues; ++slot) {
-    line += Member("slot" + std::to_string(slot + 1), thing.Values[slot].Text);
-  }
+// A line of a record: its kind and number, and those of its texts that are not empty.
+std::string Line(const std::string& head, int number,
+                 std::initializer_list<std::pair<const char*, std::string>> texts) {
+  std::string line = head + std::to_string(number);
+  for (const auto& [title, text] : texts) line += text.empty() ? "" : std::string(" ") + title + "<" + text + ">";
   return line;
 }
 
-template <class Record>
-std::string Describe(const std::string& kind, const RecordTable<Record>& table, const Texts<Record>& texts) {
-  std::string lines;
-  for (int number = 1; number <= table.Count(); ++number) {
-    lines += kind + std::to_string(number);
-    for (const auto& [title, text] : texts) lines += Member(title, table[number].*text);
-    if constexpr (std::is_same_v<Record, ThingRecord>) lines += NumbersAndValues(table[number]);
-    lines += "\n";
+std::string NumbersAndValues(const ThingRecord& thing) {
+  const std::pair<const char*, int> numbers[] = {
+      {" xref1 ", thing.XREF1}, {" xref2 ", thing.XREF2}, {" categories ", thing.CATBITMAP}};
+  std::string line;
+  for (const auto& [title, number] : numbers) line += number == 0 ? "" : title + std::to_string(number);
+  int slot = 0;
+  for (const FieldValueSlot& value : thing.Values) {
+    ++slot;
+    if (!value.Text.empty()) line += " slot" + std::to_string(slot) + "<" + value.Text + ">";
   }
-  return lines;
+  return line;
 }
 
 // The first line of each in which two documents differ.
@@ -70,12 +49,25 @@ std::string Difference(const std::string& before, const std::string& after) {
 
 std::string DescribeDocument() {
   std::string lines;
-  for (int number = 1; number <= TheDocument.CategoryNames.Highest(); ++number) {
-    lines += "category " + std::to_string(number) + Member("name", TheDocument.CategoryNames[number]) + "\n";
+  for (int at = 1; at <= TheDocument.CategoryNames.Highest(); ++at) {
+    lines += Line("category ", at, {{"name", TheDocument.CategoryNames[at]}}) + "\n";
   }
-  return lines + Describe("field ", TheDocument.Fields, kFieldTexts) +
-         Describe("formula ", TheDocument.Formulas, kFormulaTexts) +
-         Describe("thing ", TheDocument.Things, kThingTexts);
+  for (int at = 1; at <= TheDocument.Fields.Count(); ++at) {
+    const FieldDefinition& field = TheDocument.Fields[at];
+    lines += Line("field ", at, {{"keyword", field.Keyword}, {"title", field.Title}, {"type", field.Type}}) + "\n";
+  }
+  for (int at = 1; at <= TheDocument.Formulas.Count(); ++at) {
+    const auto& [name, title, type, format, formula] = TheDocument.Formulas[at];
+    lines += Line("formula ", at,
+                  {{"name", name}, {"title", title}, {"type", type}, {"format", format}, {"formula", formula}}) +
+             "\n";
+  }
+  for (int at = 1; at <= TheDocument.Things.Count(); ++at) {
+    const ThingRecord& thing = TheDocument.Things[at];
+    lines += Line("thing ", at, {{"name", thing.NAME}, {"note", thing.NOTE}, {"photo", thing.PICFILENAME}}) +
+             NumbersAndValues(thing) + "\n";
+  }
+  return lines;
 }
 
 std::string JoinedSlots(const FieldSlots& slots) {

@@ -2,7 +2,6 @@
 #include "support/recorder.h"
 
 #include <algorithm>
-#include <sstream>
 
 #include "platform/controls.h"
 #include "support/hands.h"
@@ -12,7 +11,6 @@
 namespace {
 
 using Texts = std::vector<std::string>;
-using Aspects = std::map<std::string, std::string>;
 
 constexpr const char* kIfs[] = {"bold",   "bordered",  "checked",        "chosen", "disabled", "focus",
                                 "greyed", "read-only", "with a picture", "hidden", "lit"};
@@ -20,65 +18,52 @@ constexpr const char* kMarked = " marked";  // behind the text that it marks; " 
 
 std::string Quoted(const std::string& text) { return '"' + text + '"'; }
 
-std::string InLines(const Texts& texts) {
-  std::string lines;
-  for (const std::string& text : texts) lines += text + "\n";
-  return lines;
-}
-
-Texts LinesIn(const std::string& lines) {
-  Texts texts;
-  std::istringstream in(lines);
-  for (std::string text; std::getline(in, text);) texts.push_back(text);
-  return texts;
-}
-
-// "a | b | (3) | c": entries without a text are counted.
-std::string Joined(const Texts& texts) {
-  constexpr int kMany = 10;
+// "a | b | c"; of many, the first one and the last.
+std::string Joined(const Texts& texts, const char* between = " | ") {
+  constexpr std::size_t kMany = 10;
+  if (texts.size() > kMany) return texts.front() + " ... " + texts.back() + " (" + std::to_string(texts.size()) + ")";
   std::string line;
-  int parts = 0;
-  for (std::size_t at = 0; at < texts.size(); ++at, ++parts) {
-    std::size_t empty = 0;
-    while (at + empty < texts.size() && texts[at + empty].empty()) ++empty;
-    line += (line.empty() ? "" : " | ") + (empty == 0 ? texts[at] : "(" + std::to_string(empty) + ")");
-    if (empty != 0) at += empty - 1;
-  }
-  if (parts > kMany) return texts.front() + " ... " + texts.back() + " (" + std::to_string(texts.size()) + ")";
+  for (const std::string& text : texts) line += (line.empty() ? "" : between) + text;
   return line.empty() ? "(none)" : line;
 }
 
-// The rows of a page that differ: " 4: text / 5: text"; of many, the first one and the last.
-std::string PageNews(const Texts& before, const Texts& now) {
-  constexpr std::size_t kMany = 10;
-  Texts rows;
-  for (std::size_t row = 0; row < std::max(before.size(), now.size()); ++row) {
-    const std::string old = row < before.size() ? before[row] : "", text = row < now.size() ? now[row] : "";
-    if (old != text) rows.push_back(" " + std::to_string(row) + ": " + text);
+// Entries, those without a text counted: "(3)".
+std::string Entries(const Texts& texts) {
+  Texts parts;
+  std::size_t empty = 0;
+  for (std::size_t at = 0; at < texts.size(); ++at) {
+    empty = texts[at].empty() ? empty + 1 : 0;
+    if (empty > 1) parts.pop_back();
+    parts.push_back(empty > 0 ? "(" + std::to_string(empty) + ")" : texts[at]);
   }
-  if (rows.size() > kMany) return rows.front() + " ... " + rows.back() + " (" + std::to_string(rows.size()) + " rows)";
-  std::string news;
-  for (const std::string& row : rows) news += (news.empty() ? "" : " /") + row;
-  return news;
+  return Joined(parts);
 }
 
-std::string NameOf(int form, int id) {
-  const auto& names = Names::Of(form).Controls;
-  const auto found = names.find(id);
-  return found == names.end() ? std::to_string(id) : found->second;
+// The rows of a page that differ: "4: text / 5: text".
+std::string PageNews(Texts before, Texts now) {
+  before.resize(std::max(before.size(), now.size()));
+  now.resize(before.size());
+  Texts rows;
+  for (std::size_t row = 0; row < now.size(); ++row) {
+    if (before[row] != now[row]) rows.push_back(std::to_string(row) + ": " + now[row]);
+  }
+  return Joined(rows, " / ");
 }
 
 // "LetterLabel[A-Z]" for neighbours of a row.
 std::string NamesOf(int form, const std::vector<int>& ids) {
+  const auto& names = Names::Of(form).Controls;
+  const auto name_of = [&](int id) { return names.contains(id) ? names.at(id) : std::to_string(id); };
   std::string line;
   for (std::size_t at = 0; at < ids.size(); ++at) {
-    const std::string name = NameOf(form, ids[at]), row = name.substr(0, name.find('[') + 1);
-    std::string last;
-    while (!row.empty() && at + 1 < ids.size() && ids[at + 1] == ids[at] + 1 &&
-           NameOf(form, ids[at + 1]).starts_with(row)) {
-      last = "-" + NameOf(form, ids[++at]).substr(row.size());
+    std::string name = name_of(ids[at]);
+    const std::string row = name.substr(0, name.find('[') + 1);
+    const std::size_t first = at;
+    while (!row.empty() && at + 1 < ids.size() && ids[at + 1] == ids[at] + 1 && name_of(ids[at + 1]).starts_with(row)) {
+      ++at;
     }
-    line += (line.empty() ? "" : ", ") + (last.empty() ? name : name.substr(0, name.size() - 1) + last);
+    if (at > first) name.replace(name.size() - 1, 1, "-" + name_of(ids[at]).substr(row.size()));
+    line += (line.empty() ? "" : ", ") + name;
   }
   return line;
 }
@@ -88,6 +73,12 @@ bool IsA(const Control& control) {
   return (... || (dynamic_cast<const Kinds*>(&control) != nullptr));
 }
 
+template <typename Kind>
+bool Holds(const Control& control, bool (Kind::*holds)() const) {
+  const auto* kind = dynamic_cast<const Kind*>(&control);
+  return kind != nullptr && (kind->*holds)();
+}
+
 // What the template says on a label or button. In memory nobody sees it: an empty one stands for that text.
 std::string BlankText(const Form& form, const Control& control) {
   const auto& texts = Names::Of(Hands::TemplateOf(form)).Texts;
@@ -95,64 +86,33 @@ std::string BlankText(const Form& form, const Control& control) {
   return !IsA<Label, Button, OptionButton, Frame>(control) || found == texts.end() ? "" : found->second;
 }
 
-// What is in a list or on a surface.
-void SeeInside(const Control& control, const Hands::Sight& sight, Aspects& told) {
-  Texts ticked;
-  for (std::size_t at = 0; at < sight.Ticks.size(); ++at) {
-    if (sight.Ticks[at]) ticked.push_back(sight.Entries[at]);
-  }
-  if (!ticked.empty()) told[" ticked"] = Joined(ticked);
-  if (!sight.Entries.empty()) told[":"] = InLines(sight.Entries);
+// What is in a list or on a surface, and what is so of any control.
+void SeeInside(const Control& control, const Hands::Sight& sight, std::map<std::string, Texts>& told) {
+  if (const Texts ticked = sight.TickedEntries(); !ticked.empty()) told[" ticked"] = {Entries(ticked)};
+  if (!sight.Entries.empty()) told[":"] = sight.Entries;
   if (IsA<ListBox, RowList>(control) && sight.Selected >= 0) {
-    told[""] = Quoted(sight.Entries.at(static_cast<std::size_t>(sight.Selected)));
+    told[""] = {Quoted(sight.Entries.at(static_cast<std::size_t>(sight.Selected)))};
   }
-  const auto* surface = dynamic_cast<const Surface*>(&control);
-  if (surface == nullptr) return;
-  const Page page = Hands::PageOn(*surface);
-  told["#"] = InLines(RowsOf(page, true));
-  if (page.ShowsCaret) told[" caret"] = std::to_string(page.Caret.Column) + "," + std::to_string(page.Caret.Row);
-  for (const auto& [bar, word] : {std::pair(Surface::Bar::Across, " across"), std::pair(Surface::Bar::Down, " down")}) {
-    if (const int at = Hands::BarOn(*surface, bar); at >= 0) told[word] = std::to_string(at);
+  if (const auto* surface = dynamic_cast<const Surface*>(&control)) {
+    const Page page = Hands::PageOn(*surface);
+    told["#"] = RowsOf(page, true);
+    if (page.ShowsCaret) told[" caret"] = {std::to_string(page.Caret.Column) + "," + std::to_string(page.Caret.Row)};
+    const int across = Hands::BarOn(*surface, Surface::Bar::Across), down = Hands::BarOn(*surface, Surface::Bar::Down);
+    if (across >= 0) told[" across"] = {std::to_string(across)};
+    if (down >= 0) told[" down"] = {std::to_string(down)};
   }
-}
-
-// What is so of it.
-void SeeIfs(const Control& control, const Hands::Sight& sight, Aspects& told) {
-  const auto* label = dynamic_cast<const Label*>(&control);
   const auto* button = dynamic_cast<const Button*>(&control);
-  const auto* option = dynamic_cast<const OptionButton*>(&control);
-  const auto* box = dynamic_cast<const TextBox*>(&control);
-  const auto* picture = dynamic_cast<const Picture*>(&control);
-  const std::pair<const char*, bool> all[] = {{"disabled", !sight.Enabled},
-                                              {"bold", sight.Bold},
-                                              {"bordered", label != nullptr && label->Border()},
-                                              {"lit", button != nullptr && button->BackColor() == BackColor::Marked},
-                                              {"chosen", option != nullptr && option->Checked()},
-                                              {"read-only", box != nullptr && box->ReadOnly()},
-                                              {"with a picture", picture != nullptr && !picture->Empty()}};
-  for (const auto& [word, holds] : all) {
+  const std::pair<const char*, bool> ifs[] = {
+      {"disabled", !sight.Enabled},
+      {"bold", sight.Bold},
+      {"bordered", Holds(control, &Label::Border)},
+      {"lit", button != nullptr && button->BackColor() == BackColor::Marked},
+      {"chosen", Holds(control, &OptionButton::Checked)},
+      {"read-only", Holds(control, &TextBox::ReadOnly)},
+      {"with a picture", IsA<Picture>(control) && !Holds(control, &Picture::Empty)}};
+  for (const auto& [word, holds] : ifs) {
     if (holds) told[word];
   }
-}
-
-// What is new of a control, piece by piece; that a text is marked no longer is no news.
-Texts NewsOf(Aspects before, Aspects now) {
-  Texts news;
-  for (const auto& [what, text] : Aspects(before)) now[what];
-  for (const auto& [what, text] : now) {
-    const std::string old = before[what];
-    if (old == text || old.starts_with(text + kMarked)) continue;
-    if (what.empty()) {
-      news.push_back(" " + (text.empty() ? Quoted("") : text));
-    } else if (what == ":") {
-      if (news.empty() || !news.back().starts_with(" \"")) news.emplace_back();
-      news.back() += ": " + Joined(LinesIn(text));
-    } else {
-      news.push_back(what == "#" ? PageNews(LinesIn(old), LinesIn(text))
-                                 : what + " " + (text.empty() ? "no more" : text));
-    }
-  }
-  return news;
 }
 
 }  // namespace
@@ -160,7 +120,7 @@ Texts NewsOf(Aspects before, Aspects now) {
 Recorder::State Recorder::BlankOf(const Form& form) {
   State state;
   for (const auto& [id, control] : Hands::ControlsOf(form)) {
-    if (!BlankText(form, *control).empty()) state.Controls[id][""] = Quoted(BlankText(form, *control));
+    if (!BlankText(form, *control).empty()) state.Controls[id][""] = {Quoted(BlankText(form, *control))};
   }
   return state;
 }
@@ -176,27 +136,49 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
       told["hidden"];
       continue;
     }
-    const std::string text = sight.Text.empty() ? BlankText(form, *control) : sight.Text;
-    if (!text.empty()) told[""] = Quoted(text);
+    std::string text = sight.Text.empty() ? BlankText(form, *control) : sight.Text;
+    if (!text.empty()) text = Quoted(text);
     const auto [first, last] = sight.Mark;
     if (topmost && sight.Focused && first != last && !names.Lines.contains(id)) {
       const bool whole = first == 0 && last == static_cast<int>(sight.Text.size());
-      told[""] += kMarked + (whole ? "" : " " + std::to_string(first) + "-" + std::to_string(last));
+      text += kMarked + (whole ? "" : " " + std::to_string(first) + "-" + std::to_string(last));
     }
-    if (!control->ToolTip().empty()) told[" tip"] = Quoted(control->ToolTip());
+    if (!text.empty()) told[""] = {text};
+    if (!control->ToolTip().empty()) told[" tip"] = {Quoted(control->ToolTip())};
     SeeInside(*control, sight, told);
-    SeeIfs(*control, sight, told);
     // While another form is on top, it waits where it was.
     const auto old = before.Controls.find(id);
     if (topmost ? sight.Focused : old != before.Controls.end() && old->second.contains("focus")) told["focus"];
   }
   for (const int item : names.MenuItems) {
+    Aspects& told = state.Controls[item];
     const std::string text = form.MenuText(item);  // of those that the program words itself
-    if (!text.empty()) state.Controls[item][""] = Quoted(text.substr(0, text.find('\t')));
-    if (!form.MenuEnabled(item)) state.Controls[item]["greyed"];
-    if (form.MenuChecked(item)) state.Controls[item]["checked"];
+    if (!text.empty()) told[""] = {Quoted(text.substr(0, text.find('\t')))};
+    if (!form.MenuEnabled(item)) told["greyed"];
+    if (form.MenuChecked(item)) told["checked"];
   }
   return state;
+}
+
+// What is new of a control, piece by piece; that a text is marked no longer is no news.
+Texts Recorder::NewsOf(const Aspects& before, const Aspects& now) {
+  Aspects all = now;
+  all.insert(before.begin(), before.end());
+  Texts news;
+  for (const auto& [what, either] : all) {
+    const Texts old = before.contains(what) ? before.at(what) : Texts(), is = now.contains(what) ? either : Texts();
+    const std::string text = is.empty() ? "" : is.front();
+    if (old == is || (what.empty() && !old.empty() && old.front().starts_with(text + kMarked))) continue;
+    if (what == ":") {
+      if (news.empty() || !news.back().starts_with(" \"")) news.emplace_back();
+      news.back() += ": " + Entries(is);
+    } else if (what == "#") {
+      news.push_back(" " + PageNews(old, is));
+    } else {
+      news.push_back(what + " " + (!is.empty() ? text : what.empty() ? Quoted("") : "no more"));
+    }
+  }
+  return news;
 }
 
 void Recorder::LookAt(const Form& form) {
@@ -220,12 +202,10 @@ void Recorder::Foresee(const Control& control, const std::optional<std::string>&
   if (IsA<Label, Picture>(control)) return;
   const Hands::Sight sight = Hands::LookAt(control);
   const bool picked = text && std::count(sight.Entries.begin(), sight.Entries.end(), *text) != 0;
-  foreseen_.emplace(control.Id(), Aspects{{"focus", ""}});
-  if (IsA<CheckList>(control)) return;
+  foreseen_.emplace(control.Id(), Aspects{{"focus", {}}});
+  if (IsA<CheckList>(control) || (!text && !IsA<TextBox, ComboBox>(control))) return;
   const std::string shown = text.value_or(sight.Text);
-  if (text || IsA<TextBox, ComboBox>(control)) {
-    foreseen_->second[""] = shown.empty() ? "" : Quoted(shown) + (picked || !text ? kMarked : "");
-  }
+  foreseen_->second[""] = shown.empty() ? Texts() : Texts{Quoted(shown) + (picked || !text ? kMarked : "")};
 }
 
 void Recorder::Tell(const State& before, const State& now) {
@@ -241,28 +221,24 @@ void Recorder::Tell(const State& before, const State& now) {
     lines.back().first += news;
     lines.back().second.push_back(id);
   };
+  std::map<std::string, std::vector<int>> come, gone;  // what is so now, and what no more
   for (const auto& [id, told] : now.Controls) {
     const auto old = before.Controls.find(id);
-    if (told.contains("hidden")) continue;
-    for (const std::string& news : NewsOf(old == before.Controls.end() ? Aspects() : old->second, told)) add(id, news);
+    const Aspects were = old == before.Controls.end() ? Aspects() : old->second;
+    for (const char* what : kIfs) {
+      if (told.contains(what) != were.contains(what)) (told.contains(what) ? come : gone)[what].push_back(id);
+    }
+    if (!told.contains("hidden")) {
+      for (const std::string& news : NewsOf(were, told)) add(id, news);
+    }
   }
   for (const auto& [news, ids] : lines) Note(NamesOf(now.Form, ids) + news);
-  for (const char* what : kIfs) TellIf(what, before, now);
-}
-
-// Of which controls it is so now, and of which not any more.
-void Recorder::TellIf(const std::string& what, const State& before, const State& now) {
-  const auto news = [&](const State& here, const State& there) {
-    std::vector<int> ids;
-    for (const auto& [id, told] : here.Controls) {
-      const auto other = there.Controls.find(id);
-      if (told.contains(what) && (other == there.Controls.end() || !other->second.contains(what))) ids.push_back(id);
-    }
-    return NamesOf(now.Form, ids);
-  };
-  const std::string come = news(now, before), gone = what == "focus" ? "" : news(before, now);
-  if (come.empty() && gone.empty()) return;
-  Note(what + ": " + come + (come.empty() || gone.empty() ? "" : ", ") + (gone.empty() ? "" : "not " + gone));
+  gone.erase("focus");
+  for (const std::string what : kIfs) {
+    const std::string are = NamesOf(now.Form, come[what]), are_not = NamesOf(now.Form, gone[what]);
+    if ((are + are_not).empty()) continue;
+    Note(what + ": " + are + (are.empty() || are_not.empty() ? "" : ", ") + (are_not.empty() ? "" : "not " + are_not));
+  }
 }
 
 void Recorder::Note(const std::string& raw) {

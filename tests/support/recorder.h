@@ -30,17 +30,19 @@ class Recorder {
   void Foresee(const Control& control, const std::optional<std::string>& text = std::nullopt);
 
  private:
-  // "" the text, ":" the entries, "#" the rows, " ticked", ...; what is so or not, "hidden", "focus", ..., has no text.
-  using Aspects = std::map<std::string, std::string>;
+  using Texts = std::vector<std::string>;
+  // What is told of a control, or of a menu's entry: "" the text, ":" the entries, "#" the rows, " ticked", ...; what
+  // is so or not, "hidden", "focus", ..., has no text.
+  using Aspects = std::map<std::string, Texts>;
   struct State {
     int Form = 0;  // its template
     std::string Caption;
-    std::map<int, Aspects> Controls;  // and menu entries, by id
+    std::map<int, Aspects> Controls;  // by id
   };
   static State BlankOf(const Form& form);
   static State StateOf(const Form& form, const State& before);
+  static Texts NewsOf(const Aspects& before, const Aspects& now);
   void Tell(const State& before, const State& now);
-  void TellIf(const std::string& what, const State& before, const State& now);
   void LookAtLocks();
   void LookAtDocument();
 

@@ -49,17 +49,12 @@ void Recorder::LookAtFiles() {
 
 // Which files nobody else can write now.
 void Recorder::LookAtLocks() {
+  std::set<std::string> now;
   for (const auto& [name, bytes] : files_) {
-    const bool locked = IsLocked(name);
-    if (locked == locks_.contains(name)) continue;
-    Note(name + (locked ? " locked" : " free"));
-    if (locked) {
-      locks_.insert(name);
-    } else {
-      locks_.erase(name);
-    }
+    if (IsLocked(name)) now.insert(name);
+    if (now.contains(name) != locks_.contains(name)) Note(name + (now.contains(name) ? " locked" : " free"));
   }
-  std::erase_if(locks_, [&](const std::string& lock) { return !files_.contains(lock); });
+  locks_ = now;
 }
 
 void Recorder::LookAtDocument() {
@@ -73,7 +68,7 @@ void Recorder::LookAtDocument() {
   }
   std::string gone;
   for (const auto& [key, line] : document_) {
-    if (!now.contains(key) && !line.empty()) gone += (gone.empty() ? "no " : ", ") + key;
+    if (!now.contains(key)) gone += (gone.empty() ? "no " : ", ") + key;
   }
   if (!gone.empty()) Note(gone);
   document_ = std::move(now);

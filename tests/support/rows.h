@@ -17,13 +17,20 @@ inline std::string Replaced(std::string text, const std::string& part, const std
   return text;
 }
 
+// The parts of a text between the marks.
+inline std::vector<std::string> Parts(const std::string& text, const std::string& mark) {
+  std::vector<std::string> parts;
+  for (std::size_t at = 0, end = 0; end != std::string::npos; at = end + mark.size()) {
+    end = text.find(mark, at);
+    parts.push_back(text.substr(at, end - at));
+  }
+  return parts;
+}
+
 // The rows of a text, parted by " | " or line ends.
 inline std::vector<std::pair<std::string, std::string>> Rows(const std::string& table) {
-  const std::string text = Replaced(table, " | ", "\n");
   std::vector<std::pair<std::string, std::string>> rows;
-  for (std::size_t at = 0, end = 0; at < text.size(); at = end + 1) {
-    end = std::min(text.find('\n', at), text.size());
-    const std::string row = text.substr(at, end - at);
+  for (const std::string& row : Parts(Replaced(table, " | ", "\n"), "\n")) {
     const std::size_t arrow = row.find(" => ");
     if (arrow != std::string::npos) rows.emplace_back(row.substr(0, arrow), row.substr(arrow + 4));
   }

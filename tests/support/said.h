@@ -23,7 +23,7 @@ class Said : public Listener {
     return buttons == Buttons::Ok ? Answer::Ok : Reply;
   }
   std::string InputCame(const std::string&, const std::string&, const std::string&) override { return {}; }
-  std::string FileDialogCame(const std::string&, const std::string&) override { return {}; }
+  std::string FileDialogCame(const std::string&) override { return {}; }
   void FormCame(Form& /*form*/) override {}
 
  private:

@@ -1,231 +1,224 @@
-// A test's person: finds what is to be acted on, looks whether that can be done, and lets the hands do it.
+// A test's person: finds what is to be acted on, looks whether that can be done, and lets the hands do it; matches what
+// comes up with what was expected.
 #include "support/user.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 #include "platform/controls.h"
-#include "platform/lists.h"
-#include "support/expectations.h"
-#include "support/hands.h"
 
 namespace {
 
-// The form that a person can reach, or null, which fails the test.
-Form* Topmost() {
+// What no person could do; it fails the test.
+struct Impossible : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+Form& Topmost() {
   const std::vector<Form*> open = Hands::OpenForms();
-  if (!open.empty() && !open.back()->Closed()) return open.back();
-  ADD_FAILURE() << "No form is open";
-  return nullptr;
+  if (open.empty() || open.back()->Closed()) throw Impossible("No form is open");
+  return *open.back();
 }
 
-// The control of that id on the topmost form, or null, which fails the test.
-Control* Find(int id) {
-  const Form* form = Topmost();
-  if (form == nullptr) return nullptr;
-  const auto found = Hands::ControlsOf(*form).find(id);
-  if (found != Hands::ControlsOf(*form).end()) return found->second;
-  ADD_FAILURE() << "Form " << Hands::TemplateOf(*form) << " has no control " << id;
-  return nullptr;
+Control& Find(int id) {
+  const auto& controls = Hands::ControlsOf(Topmost());
+  const auto found = controls.find(id);
+  if (found == controls.end()) throw Impossible("The form has no control " + std::to_string(id));
+  return *found->second;
 }
 
 // The same, for acting: it must be one of these kinds, visible and enabled; the focus moves there.
 template <typename... Kinds>
-Control* Reach(int id) {
-  Control* control = Find(id);
-  if (control == nullptr) return nullptr;
-  const Hands::Sight sight = Hands::LookAt(*control);
-  const bool fits = sizeof...(Kinds) == 0 || (... || (dynamic_cast<Kinds*>(control) != nullptr));
+Control& Reach(int id) {
+  Control& control = Find(id);
+  const Hands::Sight sight = Hands::LookAt(control);
+  const bool fits = sizeof...(Kinds) == 0 || (... || (dynamic_cast<Kinds*>(&control) != nullptr));
   const char* why = !fits ? "of another kind" : !sight.Visible ? "hidden" : !sight.Enabled ? "disabled" : nullptr;
-  if (why != nullptr) {
-    ADD_FAILURE() << "Control " << id << " is " << why;
-    return nullptr;
-  }
-  Hands::MoveTo(*control);
+  if (why != nullptr) throw Impossible("Control " + std::to_string(id) + " is " + why);
+  Hands::MoveTo(control);
   return control;
 }
 
-template <typename Kind, typename Act>
-void ActOn(int id, Act act) {
-  if (auto* control = static_cast<Kind*>(Reach<Kind>(id))) act(*control);
+int PositionOf(int id, std::string_view entry) {
+  const std::vector<std::string> entries = Hands::LookAt(Find(id)).Entries;
+  const auto found = std::find(entries.begin(), entries.end(), entry);
+  if (found != entries.end()) return static_cast<int>(found - entries.begin());
+  throw Impossible("Control " + std::to_string(id) + " has no entry \"" + std::string(entry) + "\"");
+}
+
+void Do(const std::function<void()>& act) {
+  try {
+    act();
+  } catch (const Impossible& why) {
+    ADD_FAILURE() << why.what();
+  }
   Hands::Settle();
 }
 
-int PositionOf(const Control& control, std::string_view entry) {
-  const std::vector<std::string> entries = Hands::LookAt(control).Entries;
-  const auto found = std::find(entries.begin(), entries.end(), entry);
-  if (found != entries.end()) return static_cast<int>(found - entries.begin());
-  ADD_FAILURE() << "Control " << control.Id() << " has no entry \"" << entry << "\"";
-  return -1;
+template <typename Kind, typename Act, typename... How>
+void DoOn(int id, Act act, const How&... how) {
+  Do([&] { act(static_cast<Kind&>(Reach<Kind>(id)), how...); });
 }
 
-Hands::Sight SightOf(int id) {
-  const Control* control = Find(id);
-  return control == nullptr ? Hands::Sight() : Hands::LookAt(*control);
+template <typename Act, typename... How>
+void DoOnForm(Act act, const How&... how) {
+  Do([&] { act(Topmost(), how...); });
 }
 
-// What a control of that kind tells itself; nothing when there is none.
-template <typename Kind, typename Ask>
-auto Asked(int id, Ask ask) {
-  const auto* control = dynamic_cast<const Kind*>(Find(id));
-  return control == nullptr ? decltype(ask(*control))() : ask(*control);
-}
+constexpr const char* kAnswers[] = {"ok", "cancel", "yes", "no"};  // in the order of Answer
+
+std::string WindowOf(int template_id) { return "form " + std::to_string(template_id); }
 
 }  // namespace
 
+Listener*& TheListener() {
+  static Listener* listener = nullptr;
+  return listener;
+}
+
+std::string InWords(const std::string& text, Buttons buttons, Icon icon) {
+  constexpr const char* kIcons[] = {"no icon", "information", "exclamation", "critical"};
+  constexpr const char* kButtons[] = {"OK", "OK/Cancel", "Yes/No"};
+  return kIcons[static_cast<int>(icon)] + std::string(" ") + kButtons[static_cast<int>(buttons)] + ": " + text;
+}
+
+std::optional<Answer> AnswerOf(const std::string& word, Buttons buttons) {
+  const int first = buttons == Buttons::YesNo ? 2 : 0, last = buttons == Buttons::Ok ? first : first + 1;
+  for (int answer = first; answer <= last; ++answer) {
+    if (word == kAnswers[answer]) return static_cast<Answer>(answer);
+  }
+  return std::nullopt;
+}
+
 User::User() {
-  Expected().Start();
+  TheListener() = this;
   Hands::Begin();
 }
 
 User::~User() {
   Hands::End();
-  Expected().Finish();
+  TheListener() = nullptr;
+  ExpectsNoMore();
 }
 
 void User::Types(int id, std::string_view text) {
-  Control* control = Reach<TextBox, ComboBox>(id);
-  const auto* box = dynamic_cast<const TextBox*>(control);
-  if (box != nullptr && box->ReadOnly()) {
-    ADD_FAILURE() << "Control " << id << " is read-only";
-  } else if (control != nullptr) {
-    Hands::Type(*control, std::string(text));
-  }
-  Hands::Settle();
+  Do([&] {
+    Control& control = Reach<TextBox, ComboBox>(id);
+    const auto* box = dynamic_cast<const TextBox*>(&control);
+    if (box != nullptr && box->ReadOnly()) throw Impossible("Control " + std::to_string(id) + " is read-only");
+    Hands::Type(control, std::string(text));
+  });
 }
 
 void User::Clicks(int id) {
-  if (Control* control = Reach<Button, OptionButton, Label, Picture>(id)) Hands::Click(*control);
-  Hands::Settle();
+  Do([&] { Hands::Click(Reach<Button, OptionButton, Label, Picture>(id)); });
 }
 
 void User::Picks(int id, std::string_view entry) {
-  ActOn<ListControl>(id, [entry](ListControl& list) {
-    const int position = PositionOf(list, entry);
-    if (position >= 0) Hands::Select(list, position);
-  });
+  DoOn<ListControl>(id, [&](ListControl& list) { Hands::Select(list, PositionOf(id, entry)); });
 }
 
-void User::PicksAt(int id, int position) {
-  ActOn<ListControl>(id, [position](ListControl& list) {
-    if (position >= 0 && position < static_cast<int>(list.Entries().size())) return Hands::Select(list, position);
-    ADD_FAILURE() << "Control " << list.Id() << " has no entry at position " << position;
-  });
-}
+void User::PicksAt(int id, int position) { DoOn<ListControl>(id, Hands::Select, position); }
 
 void User::Ticks(int id, std::string_view entry) {
-  ActOn<CheckList>(id, [entry](CheckList& list) {
-    const int position = PositionOf(list, entry);
-    if (position >= 0) Hands::TurnOver(list, position);
-  });
+  DoOn<CheckList>(id, [&](CheckList& list) { Hands::TurnOver(list, PositionOf(id, entry)); });
 }
 
 void User::ChoosesMenu(int id) {
-  Form* form = Topmost();
-  if (form != nullptr && !Hands::CanChoose(*form, id)) {
-    ADD_FAILURE() << "Menu entry " << id << " is greyed";
-  } else if (form != nullptr) {
-    Hands::Choose(*form, id);
-  }
-  Hands::Settle();
-}
-
-void User::Presses(Key key) { Presses(KeyPress{key}); }
-
-void User::Presses(const KeyPress& key) {
-  if (Form* form = Topmost()) Hands::Press(*form, key);
-  Hands::Settle();
-}
-
-void User::PressesControl(char letter) {
-  if (Form* form = Topmost()) Hands::PressControl(*form, letter);
-  Hands::Settle();
-}
-
-void User::Drags(int id, Cell from, Cell to, bool shift) {
-  ActOn<Surface>(id, [=](Surface& surface) { Hands::Drag(surface, from, to, shift); });
-}
-
-void User::DoubleClicks(int id, Cell at) {
-  if (Control* control = Reach<Surface, Picture, RowList>(id)) Hands::DoubleClick(*control, at);
-  Hands::Settle();
-}
-
-// Over a drop-down the wheel does not move the focus there.
-void User::TurnsWheel(int id, int notches, bool shift, bool control) {
-  Control* over = Find(id);
-  if (dynamic_cast<ListControl*>(over) == nullptr) over = Reach<Surface>(id);
-  if (over != nullptr) Hands::TurnWheel(*over, notches, shift, control);
-  Hands::Settle();
-}
-
-void User::PagesBar(int id, Surface::Bar bar, int pages) {
-  ActOn<Surface>(id, [=](Surface& surface) { Hands::PageBar(surface, bar, pages); });
+  Do([&] {
+    if (!Hands::CanChoose(Topmost(), id)) throw Impossible("Menu entry " + std::to_string(id) + " is greyed");
+    Hands::Choose(Topmost(), id);
+  });
 }
 
 void User::MovesTo(int id) {
-  Reach<>(id);
-  Hands::Settle();
+  Do([&] { Reach<>(id); });
 }
 
-void User::ClosesWindow() {
-  if (Form* form = Topmost()) Hands::Close(*form);
-  Hands::Settle();
+void User::ClosesWindow() { DoOnForm(Hands::Close); }
+
+void User::Presses(const KeyPress& key) { DoOnForm(Hands::Press, key); }
+
+void User::PressesControl(char letter) { DoOnForm(Hands::PressControl, letter); }
+
+void User::Drags(int id, Cell from, Cell to, bool shift) { DoOn<Surface>(id, Hands::Drag, from, to, shift); }
+
+void User::DoubleClicks(int id, Cell at) {
+  Do([&] { Hands::DoubleClick(Reach<Surface, Picture, RowList>(id), at); });
 }
 
-std::string User::Sees(int id) { return SightOf(id).Text; }
-bool User::SeesEnabled(int id) { return SightOf(id).Enabled; }
-bool User::SeesBold(int id) { return SightOf(id).Bold; }
-bool User::SeesVisible(int id) { return SightOf(id).Visible; }
-bool User::SeesFocusOn(int id) { return SightOf(id).Focused; }
-std::vector<std::string> User::SeesEntries(int id) { return SightOf(id).Entries; }
+void User::TurnsWheel(int id, int notches, bool shift, bool control) {
+  Do([&] {
+    const bool is_list = dynamic_cast<ListControl*>(&Find(id)) != nullptr;
+    Hands::TurnWheel(is_list ? Find(id) : Reach<Surface>(id), notches, shift, control);
+  });
+}
+
+void User::PagesBar(int id, Surface::Bar bar, int pages) { DoOn<Surface>(id, Hands::PageBar, bar, pages); }
+
+Hands::Sight User::LooksAt(int id) { return Hands::LookAt(Find(id)); }
 
 std::string User::SeesSelected(int id) {
-  const Hands::Sight sight = SightOf(id);
+  const Hands::Sight sight = LooksAt(id);
   return sight.Selected < 0 ? "" : sight.Entries.at(static_cast<std::size_t>(sight.Selected));
 }
 
-std::vector<std::string> User::SeesTicked(int id) {
-  const Hands::Sight sight = SightOf(id);
-  std::vector<std::string> texts;
-  for (std::size_t index = 0; index < sight.Ticks.size(); ++index) {
-    if (sight.Ticks[index]) texts.push_back(sight.Entries[index]);
-  }
-  return texts;
+std::string User::SeesCaption() { return Topmost().Caption(); }
+Page User::SeesPage(int id) { return Hands::PageOn(dynamic_cast<Surface&>(Find(id))); }
+int User::SeesBar(int id, Surface::Bar bar) { return Hands::BarOn(dynamic_cast<Surface&>(Find(id)), bar); }
+
+void User::Answers(const std::string& text, Answer answer, Icon icon, Buttons buttons) {
+  expected_.push_back({InWords(text, buttons, icon), kAnswers[static_cast<int>(answer)], {}});
 }
 
-Page User::SeesPage(int id) { return Asked<Surface>(id, Hands::PageOn); }
-
-int User::SeesBar(int id, Surface::Bar bar) {
-  return Asked<Surface>(id, [bar](const Surface& surface) { return Hands::BarOn(surface, bar); });
-}
-
-std::string User::SeesCaption() {
-  const Form* form = Topmost();
-  return form == nullptr ? "" : form->Caption();
-}
-
-bool User::SeesMenuEnabled(int id) {
-  const Form* form = Topmost();
-  return form != nullptr && Hands::CanChoose(*form, id);
-}
-
-bool User::SeesMenuChecked(int id) {
-  const Form* form = Topmost();
-  return form != nullptr && form->MenuChecked(id);
-}
-
-void User::Answers(std::string_view text, Answer answer, Icon icon, Buttons buttons) {
-  constexpr const char* kNames[] = {"OK", "Cancel", "Yes", "No"};
-  Expected().Expect(Expectations::Box(std::string(text), icon, buttons), kNames[static_cast<std::size_t>(answer)]);
-}
-
-void User::AnswersInput(std::string_view prompt, std::string_view answer) {
-  Expected().Expect(Expectations::Input(std::string(prompt)), std::string(answer));
+void User::AnswersInput(const std::string& prompt, const std::string& answer) {
+  expected_.push_back({"input: " + prompt, answer, {}});
 }
 
 void User::UsesForm(int template_id, std::function<void()> acts) {
-  Expected().Expect(Expectations::Window(template_id), "", std::move(acts));
+  expected_.push_back({WindowOf(template_id), "", std::move(acts)});
+}
+
+void User::ExpectsNoMore() {
+  for (const Expected& each : expected_) ADD_FAILURE() << "Expected, but never came: " << each.What;
+  expected_.clear();
+}
+
+// Takes the first expectation when it is what came. Otherwise fails the test and gives nothing; the expectation is
+// used up all the same, so that one wrong word does not make all that follow fail too.
+User::Expected User::Take(const std::string& came) {
+  Expected first;
+  if (!expected_.empty()) {
+    first = expected_.front();
+    expected_.pop_front();
+  }
+  if (first.What == came) return first;
+  ADD_FAILURE() << "Expected \"" << first.What << "\", but there came " << came;
+  return {};
+}
+
+// An unexpected box is closed: by OK, Cancel or No, whichever it has.
+Answer User::MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
+  LastCaption = caption;
+  const std::string words = InWords(text, buttons, icon), reply = Take(words).Reply;
+  if (const auto answer = AnswerOf(reply, buttons)) return *answer;
+  if (!reply.empty()) ADD_FAILURE() << "There is no button " << reply << ": " << words;
+  return buttons == Buttons::Ok ? Answer::Ok : buttons == Buttons::OkCancel ? Answer::Cancel : Answer::No;
+}
+
+std::string User::InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) {
+  LastCaption = caption;
+  LastOffered = offered;
+  return Take("input: " + prompt).Reply;
+}
+
+std::string User::FileDialogCame(const std::string& asked) { return Take("file dialog: " + asked).Reply; }
+
+void User::FormCame(Form& form) {
+  const Expected item = Take(WindowOf(Hands::TemplateOf(form)));
+  if (item.Acts) item.Acts();
+  if (!item.What.empty() && !form.Closed()) ADD_FAILURE() << item.What << " was left open";
 }

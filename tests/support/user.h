@@ -2,19 +2,19 @@
 // of expectations. The same scenario runs in memory and on real windows.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/form.h"
-#include "platform/message.h"
-#include "platform/surface.h"
+#include "support/hands.h"
+#include "support/listener.h"
 
-class User {
+class User : public Listener {
  public:
   User();
-  ~User();  // fails the test for every expectation that never came
+  ~User() override;  // fails the test for every expectation that never came
   User(const User&) = delete;
   User& operator=(const User&) = delete;
 
@@ -26,12 +26,12 @@ class User {
   void PicksAt(int id, int position);          // an entry by position, from 0
   void Ticks(int id, std::string_view entry);  // turns the check box of a check-list entry over
   void ChoosesMenu(int id);                    // fails the test when the entry is greyed
-  void Presses(Key key);                       // in the control that has the focus
   void MovesTo(int id);                        // moves the focus only
   void ClosesWindow();                         // the topmost form's close box
+  void Presses(const KeyPress& key);           // in the control that has the focus
+  void Presses(Key key) { Presses(KeyPress{key}); }
 
   // On a surface, in cells; dragging ends by letting go.
-  void Presses(const KeyPress& key);
   void PressesControl(char letter);  // A or C
   void Drags(int id, Cell from, Cell to, bool shift = false);
   void DoubleClicks(int id, Cell at);
@@ -40,24 +40,42 @@ class User {
   void PagesBar(int id, Surface::Bar bar, int pages);  // beside the thumb of a scroll bar
 
   // What is seen on the topmost form.
-  std::string Sees(int id);
+  Hands::Sight LooksAt(int id);
+  std::string Sees(int id) { return LooksAt(id).Text; }
+  bool SeesEnabled(int id) { return LooksAt(id).Enabled; }
+  bool SeesVisible(int id) { return LooksAt(id).Visible; }
+  bool SeesBold(int id) { return LooksAt(id).Bold; }
+  bool SeesFocusOn(int id) { return LooksAt(id).Focused; }
+  std::vector<std::string> SeesEntries(int id) { return LooksAt(id).Entries; }  // list, drop-down or check list
+  std::string SeesSelected(int id);  // the selected entry's text, empty for none
+  std::vector<std::string> SeesTicked(int id) { return LooksAt(id).TickedEntries(); }
   std::string SeesCaption();
-  bool SeesEnabled(int id);
-  bool SeesVisible(int id);
-  bool SeesBold(int id);
-  bool SeesFocusOn(int id);
-  std::vector<std::string> SeesEntries(int id);  // list, drop-down or check list
-  std::string SeesSelected(int id);              // the selected entry's text, empty for none
-  std::vector<std::string> SeesTicked(int id);
-  bool SeesMenuEnabled(int id);
-  bool SeesMenuChecked(int id);
   Page SeesPage(int id);                  // a surface's
   int SeesBar(int id, Surface::Bar bar);  // the position of a scroll bar; -1 when there is nothing to scroll
 
   // What is expected to come, in order. Anything else that comes fails the test with its text and is
   // closed (Cancel, No or OK); a form that an `acts` leaves open fails it too and is closed.
-  void Answers(std::string_view text, Answer answer, Icon icon, Buttons buttons);
-  void Reads(std::string_view text, Icon icon) { Answers(text, Answer::Ok, icon, Buttons::Ok); }
-  void AnswersInput(std::string_view prompt, std::string_view answer);  // an empty answer cancels
-  void UsesForm(int template_id, std::function<void()> acts);           // a modal form, up to its closing
+  void Answers(const std::string& text, Answer answer, Icon icon, Buttons buttons);
+  void Reads(const std::string& text, Icon icon) { Answers(text, Answer::Ok, icon, Buttons::Ok); }
+  void AnswersInput(const std::string& prompt, const std::string& answer);  // an empty answer cancels
+  void UsesForm(int template_id, std::function<void()> acts);               // a modal form, up to its closing
+  void ExpectsNoMore();  // fails the test for every expectation that never came, and forgets it
+
+  // The last box that came, for tests that look closer.
+  std::string LastCaption;
+  std::string LastOffered;  // the text an input box offered
+
+  Answer MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
+  std::string InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) override;
+  std::string FileDialogCame(const std::string& asked) override;
+  void FormCame(Form& form) override;
+
+ private:
+  struct Expected {
+    std::string What, Reply;  // in words; the text or button that answers it
+    std::function<void()> Acts;
+  };
+  Expected Take(const std::string& came);
+
+  std::deque<Expected> expected_;
 };

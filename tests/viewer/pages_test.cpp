@@ -10,20 +10,11 @@
 
 #include "scenarios/story_file.h"
 #include "support/page_text.h"
+#include "support/rows.h"
 #include "viewer/print_layout.h"
 #include "viewer/report_view.h"
 
 namespace {
-
-// The parts of a text between the marks.
-std::vector<std::string> Parts(const std::string& text, const std::string& mark) {
-  std::vector<std::string> parts;
-  for (std::size_t at = 0, end = 0; end != std::string::npos; at = end + mark.size()) {
-    end = text.find(mark, at);
-    parts.push_back(text.substr(at, end - at));
-  }
-  return parts;
-}
 
 std::string Joined(const std::vector<std::string>& rows) {
   std::string line;
@@ -34,27 +25,30 @@ std::string Joined(const std::vector<std::string>& rows) {
 // Lines parted by "/", the first one without "LARKSPUR V1.0 REPORT"; "-" in its place is none at all. "3*Th## a##" is
 // three lines, with the line's number for each "##"; "^" and "`" are control characters.
 ReportText Report(const std::string& described) {
-  std::string bytes;
-  for (const std::string& line : Parts(described, "/")) {
+  const bool plain = described.starts_with('-');
+  std::string bytes = plain ? "" : "LARKSPUR V1.0 REPORT ";
+  std::vector<std::string> lines = Parts(Replaced(Replaced(described, "^", "\x1F"), "`", "\x7F"), "/");
+  if (plain) lines.erase(lines.begin());
+  for (const std::string& line : lines) {
     const std::size_t star = line.find('*');
     for (int time = 1; time <= (star == std::string::npos ? 1 : std::stoi(line)); ++time) {
       const std::string number = {static_cast<char>('0' + time / 10), static_cast<char>('0' + time % 10)};
-      std::string each = bytes.empty() ? "LARKSPUR V1.0 REPORT " + line : line.substr(star + 1);
-      for (auto at = each.find("##"); at != std::string::npos; at = each.find("##")) each.replace(at, 2, number);
-      bytes += each + "\r\n";
+      bytes += Replaced(line.substr(star + 1), "##", number) + "\r\n";
     }
   }
-  std::replace(bytes.begin(), bytes.end(), '^', '\x1F');
-  std::replace(bytes.begin(), bytes.end(), '`', '\x7F');
-  return ReportText(described.starts_with('-') ? bytes.substr(bytes.find('\n') + 1) : bytes);
+  return ReportText(bytes);
+}
+
+std::string Pair(auto first, const char* between, auto second) {
+  return std::to_string(first) + between + std::to_string(second);
 }
 
 // The grid lines by cell, direction and length.
 std::string RulesOf(const Page& page) {
   std::string rules;
   for (const Rule& rule : page.Rules) {
-    rules += (rules.empty() ? "" : " ") + std::to_string(rule.At.Column) + "," + std::to_string(rule.At.Row) +
-             (rule.Down ? "v" : ">") + std::to_string(rule.Length);
+    rules += (rules.empty() ? "" : " ") + Pair(rule.At.Column, ",", rule.At.Row) + (rule.Down ? "v" : ">") +
+             std::to_string(rule.Length);
   }
   return rules;
 }
@@ -64,22 +58,21 @@ using Looks = std::map<std::string, std::string>;
 
 Looks LooksOf(const ReportView& view) {
   const Page page = view.BuildPage();
-  const auto pair = [](auto first, const char* between, auto second) {
-    return std::to_string(first) + between + std::to_string(second);
-  };
-  const auto bar = [&](const ReportView::Extent& extent) {
-    return pair(extent.Position, " of ", extent.Range) + " by " + std::to_string(extent.Shown);
+  const auto bar = [](const ReportView::Extent& extent) {
+    return Pair(extent.Position, " of ", extent.Range) + " by " + std::to_string(extent.Shown);
   };
   Looks looks{{"down", bar(view.Down())},
               {"across", bar(view.Across())},
-              {"stay", pair(page.HeadRows, " and ", page.LeftColumns) + " from " + std::to_string(page.LeftFrom)},
+              {"stay", Pair(page.HeadRows, " and ", page.LeftColumns) + " from " + std::to_string(page.LeftFrom)},
               {"lines", RulesOf(page)}};
-  if (page.ShowsCaret) looks["caret"] = pair(page.Caret.Column, ",", page.Caret.Row);
-  if (view.Seeks()) looks["hit"] = pair(view.HitNumber(), " of ", view.HitCount());
+  if (page.ShowsCaret) looks["caret"] = Pair(page.Caret.Column, ",", page.Caret.Row);
+  if (view.Seeks()) looks["hit"] = Pair(view.HitNumber(), " of ", view.HitCount());
   if (view.HasSelection()) looks["selected"] = Joined(Parts(view.SelectedText(), "\r\n"));
-  const auto rows = RowsOf(page, true);
-  for (std::size_t row = 0; row < rows.size(); ++row)
-    looks[(row < 10 ? "| " : "|") + std::to_string(row) + ":"] = rows[row];
+  int number = 0;
+  for (const std::string& row : RowsOf(page, true)) {
+    looks[(number < 10 ? "| " : "|") + std::to_string(number) + ":"] = row;
+    ++number;
+  }
   return looks;
 }
 
@@ -114,50 +107,44 @@ std::vector<std::string> Printed(const ReportText& text, int columns, int rows) 
   return printed;
 }
 
+// What can be done to the view: with what follows the act's word, and the cell that it names.
+using Doing = std::function<void(ReportView& view, const std::string& rest, Cell at)>;
 using Bar = Surface::Bar;
 using Act = MousePress::Act;
-// What follows the act's word, and the two numbers in it: of columns first, of rows second.
-using Doing = std::function<void(ReportView& view, const std::string& rest, int across, int down)>;
 
 const std::map<std::string, Key> kKeys = {{"Left", Key::Left},         {"Right", Key::Right},   {"Up", Key::Up},
                                           {"Down", Key::Down},         {"PageUp", Key::PageUp}, {"Home", Key::Home},
                                           {"PageDown", Key::PageDown}, {"End", Key::End}};
 const std::map<std::string, Act> kMouse = {{"press", Act::Press}, {"drag", Act::Drag}, {"double", Act::DoubleClick}};
 const std::map<std::string, Doing> kActs = {
-    {"report", [](auto& view, auto& rest, int, int) { view.SetText(Report(rest), false); }},
-    {"again", [](auto& view, auto& rest, int, int) { view.SetText(Report(rest), true); }},
-    {"window", [](auto& view, auto&, int across, int down) { view.Resize(across, down); }},
-    {"across", [](auto& view, auto&, int position, int) { view.ScrollTo(Bar::Across, position); }},
-    {"down", [](auto& view, auto&, int position, int) { view.ScrollTo(Bar::Down, position); }},
+    {"report", [](auto& view, auto& rest, Cell) { view.SetText(Report(rest), false); }},
+    {"again", [](auto& view, auto& rest, Cell) { view.SetText(Report(rest), true); }},
+    {"window", [](auto& view, auto&, Cell at) { view.Resize(at.Column, at.Row); }},
+    {"across", [](auto& view, auto& rest, Cell) { view.ScrollTo(Bar::Across, std::stoi(rest)); }},
+    {"down", [](auto& view, auto& rest, Cell) { view.ScrollTo(Bar::Down, std::stoi(rest)); }},
     {"roll",
-     [](auto& view, auto&, int across, int down) {
-       view.ScrollBy(Bar::Across, across);
-       view.ScrollBy(Bar::Down, down);
-     }},
-    {"seek", [](auto& view, auto& rest, int, int) { view.Seek(rest); }},
-    {"next", [](auto& view, auto&, int, int) { EXPECT_EQ(view.FindNext(), view.HitCount() > 0); }},
-    {"previous", [](auto& view, auto&, int, int) { EXPECT_EQ(view.FindPrevious(), view.HitCount() > 0); }},
-    {"all", [](auto& view, auto&, int, int) { view.SelectAll(); }},
-    {"none", [](auto& view, auto&, int, int) { view.SelectNone(); }},
+     [](auto& view, auto&, Cell at) { view.ScrollBy(Bar::Across, at.Column), view.ScrollBy(Bar::Down, at.Row); }},
+    {"seek", [](auto& view, auto& rest, Cell) { view.Seek(rest); }},
+    {"next", [](auto& view, auto&, Cell) { EXPECT_EQ(view.FindNext(), view.HitCount() > 0); }},
+    {"previous", [](auto& view, auto&, Cell) { EXPECT_EQ(view.FindPrevious(), view.HitCount() > 0); }},
+    {"all", [](auto& view, auto&, Cell) { view.SelectAll(); }},
+    {"none", [](auto& view, auto&, Cell) { view.SelectNone(); }},
 };
 
 void Do(const std::string& act, ReportView& view, std::vector<std::string>& printed) {
-  std::string word = act.substr(0, act.find(' '));
-  const std::string rest = act.substr(std::min(word.size() + 1, act.size()));
+  auto [word, rest] = Halves(act, ' ');
   const bool shift = word.starts_with("Shift+"), control = word.find("Ctrl+") != std::string::npos;
   word.erase(0, word.rfind('+') + 1);
-  int across = 0, down = 0;
-  std::sscanf(rest.c_str(), "%d,%d", &across, &down);
+  Cell at;
+  std::sscanf(rest.c_str(), "%d,%d", &at.Column, &at.Row);
   if (word == "print") {
-    printed = Printed(view.Text(), across, down);
+    printed = Printed(view.Text(), at.Column, at.Row);
   } else if (kKeys.contains(word)) {
     view.Press(KeyPress{kKeys.at(word), shift, control});
   } else if (kMouse.contains(word)) {
-    view.Press(MousePress{kMouse.at(word), {across, down}, shift});
-  } else if (kActs.contains(word)) {
-    kActs.at(word)(view, rest, across, down);
+    view.Press(MousePress{kMouse.at(word), at, shift});
   } else {
-    ADD_FAILURE() << "nothing that can be done: " << act;
+    kActs.at(word)(view, rest, at);
   }
 }
 
@@ -171,9 +158,9 @@ class PageStory : public testing::Test {
     Looks before;
     for (StoryLine* line : tale_.Acts()) {
       for (const std::string& act : Parts(line->Text, "; ")) Do(act, view, line->Now);
-      const bool prints = !line->Now.empty();
-      if (!prints) line->Now = NewsOf(before, LooksOf(view));
-      if (!prints) before = LooksOf(view);
+      if (!line->Now.empty()) continue;  // printed
+      line->Now = NewsOf(before, LooksOf(view));
+      before = LooksOf(view);
     }
     tale_.Compare();
   }

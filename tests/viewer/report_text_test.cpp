@@ -11,10 +11,10 @@ using namespace std::string_literals;
 
 // The header's T, H, L and G; how many title lines and head lines there are; the widest line's columns; the lines.
 std::string Described(const ReportText& text) {
-  const ReportHeader& header = text.Header();
-  std::string described = header.IsReport ? "" : "plain";
-  for (const Index value : {header.Titles, header.Headings, header.Left, Index{header.Grid}}) {
-    if (header.IsReport) described += std::to_string(value) + " ";
+  const auto& [is_report, titles, headings, left, grid] = text.Header();
+  std::string described = is_report ? "" : "plain";
+  for (const Index value : {titles, headings, left, Index{grid}}) {
+    if (is_report) described += std::to_string(value) + " ";
   }
   for (const Index value : {text.TitleLines(), text.HeadLines(), text.Widest()}) {
     described += "/" + std::to_string(value);
@@ -55,16 +55,6 @@ TEST(ReportTextTest, HasHeaderHeadAndLines) {
       {"&#937;\tx&#38;#937;", "plain/0/0/15|\x1A       x&#937;"},
   };
   for (const auto& [bytes, described] : rows) EXPECT_EQ(Described(ReportText(bytes)), described) << bytes;
-}
-
-TEST(ReportTextTest, PlacesAndOffsetsAgree) {
-  const ReportText text("LARKSPUR V1.0 REPORT T=2\r\n\r\ntitle\r\nbody");
-  EXPECT_EQ(text.Body(), "\r\ntitle\r\nbody");
-  EXPECT_EQ(text.OffsetOf({1, 3}), 5u);
-  EXPECT_EQ(text.PlaceOf(5), (Place{1, 3}));
-  EXPECT_EQ(text.PlaceOf(9), (Place{2, 0}));
-  EXPECT_EQ(text.OffsetOf({1, 100}), 7u);  // the line's end
-  EXPECT_EQ(text.OffsetOf({3, 0}), text.Body().size());
 }
 
 // The places of all hits, forward or backward; what is found twice would not end.

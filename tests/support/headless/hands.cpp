@@ -17,7 +17,7 @@ using Kind = Control::Peer::Kind;
 constexpr int kEnterButton = 1, kEscapeButton = 2;
 constexpr int kCellsOfANotch = 3;
 
-std::string InWords(const FileChoice& choice) {
+std::string Asked(const FileChoice& choice) {
   std::string words = choice.Caption + " | " + choice.PatternTitle + " (" + choice.Pattern + ")";
   if (!choice.Name.empty()) words += " | " + choice.Name;
   if (!choice.Folder.empty() && choice.Folder != TestFiles::Folder()) words += " | in " + choice.Folder;
@@ -63,7 +63,7 @@ void Hands::Begin() {
   stage.Input = [](const std::string& prompt, const std::string& caption, const std::string& offered) {
     return TheListener()->InputCame(prompt, caption, offered);
   };
-  stage.File = [](const FileChoice& choice) { return TheListener()->FileDialogCame(choice.Caption, InWords(choice)); };
+  stage.File = [](const FileChoice& choice) { return TheListener()->FileDialogCame(Asked(choice)); };
   stage.Use = [](Form& form) {
     TheListener()->FormCame(form);
     form.PeerOf().Closed = true;

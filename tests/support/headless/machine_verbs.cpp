@@ -9,16 +9,17 @@
 
 #include "platform/headless/machine.h"
 #include "scenarios/story.h"
+#include "support/rows.h"
 
 namespace {
 
-void SetRegistry(Story&, User&, const std::string& rest) {
-  const auto [key, value] = Parted(rest);
-  const auto [name, text] = Parted(value);
+void SetRegistry(Story&, const std::string& rest) {
+  const auto [key, value] = Halves(rest, ' ');
+  const auto [name, text] = Halves(value, ' ');
   Machine::SetRegistryValue(RegistryRoot::CurrentUser, key, name == "-" ? "" : name, text);
 }
 
-void SetPrinter(Story&, User&, const std::string& rest) {
+void SetPrinter(Story&, const std::string& rest) {
   Machine::Printer printer;
   PrintRange range{};
   std::istringstream in(rest);
@@ -27,7 +28,7 @@ void SetPrinter(Story&, User&, const std::string& rest) {
   Machine::SetPrinter(printer);
 }
 
-void SetToday(Story&, User&, const std::string& rest) {
+void SetToday(Story&, const std::string& rest) {
   int year = 0;
   unsigned month = 0, day = 0;
   std::istringstream(rest) >> year >> month >> day;
@@ -38,14 +39,14 @@ void SetToday(Story&, User&, const std::string& rest) {
 
 const Story::Verbs& MachineVerbs() {
   static const Story::Verbs kVerbs = {
-      {"disk", [](Story&, User&, const std::string& bytes) { Machine::DiskSpace(std::stoul(bytes)); }},
-      {"no-starts", [](Story&, User&, const std::string&) { Machine::FailStart(0); }},
-      {"program-folder", [](Story&, User&, const std::string& folder) { Machine::SetProgramFolder(folder); }},
+      {"disk", [](Story&, const std::string& bytes) { Machine::DiskSpace(std::stoul(bytes)); }},
+      {"no-starts", [](Story&, const std::string&) { Machine::FailStart(0); }},
+      {"program-folder", [](Story&, const std::string& folder) { Machine::SetProgramFolder(folder); }},
       {"today", SetToday},
       {"first-weekday", [](Story&, User&, const std::string& day) { Machine::SetFirstWeekday(std::stoi(day)); }},
       {"registry", SetRegistry},
       {"unregister",
-       [](Story&, User&, const std::string& key) { Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, key); }},
+       [](Story&, const std::string& key) { Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, key); }},
       {"printer", SetPrinter}};
   return kVerbs;
 }

@@ -52,13 +52,13 @@ std::vector<std::string> RowsOn(const Control::Peer& peer) {
   std::vector<std::string> rows(static_cast<std::size_t>(peer.Send(LVM_GETITEMCOUNT)));
   for (std::size_t row = 0; row < rows.size(); ++row) {
     for (std::size_t column = 0; column < peer.Percents.size(); ++column) {
-      char text[512] = "";
+      wchar_t text[512] = L"";
       LVITEMW item{};
       item.iSubItem = static_cast<int>(column);
       item.pszText = text;
-      item.cchTextMax = sizeof text;
+      item.cchTextMax = static_cast<int>(std::size(text));
       peer.Send(LVM_GETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
-      rows[row] += (column > 0 ? " / " : "") + std::string(text);
+      rows[row] += (column > 0 ? " / " : "") + Bytes(text);
     }
   }
   return rows;
@@ -66,12 +66,11 @@ std::vector<std::string> RowsOn(const Control::Peer& peer) {
 
 // A file as the system's own windows hand it out to be dragged.
 Com<IDataObject> Dragged(const std::string& file) {
-  const std::wstring name(file.begin(), file.end());
   PIDLIST_ABSOLUTE id = nullptr;
   IShellFolder* folder = nullptr;
   LPCITEMIDLIST item = nullptr;
   void* data = nullptr;
-  if (SUCCEEDED(SHParseDisplayName(name.c_str(), nullptr, &id, 0, nullptr)) &&
+  if (SUCCEEDED(SHParseDisplayName(Wide(file).c_str(), nullptr, &id, 0, nullptr)) &&
       SUCCEEDED(SHBindToParent(id, IID_IShellFolder, reinterpret_cast<void**>(&folder), &item))) {
     folder->GetUIObjectOf(nullptr, 1, &item, IID_IDataObject, nullptr, &data);
     folder->Release();

@@ -106,16 +106,14 @@ bool ReadMessageBox(HWND box, std::string& text, Icon& icon) {
 }
 
 void AnswerMessageBox(HWND box, const std::string& text, Icon icon) {
-  HWND ok = VisibleItem(box, IDOK), cancel = VisibleItem(box, IDCANCEL);
-  HWND yes = VisibleItem(box, IDYES), no = VisibleItem(box, IDNO);
-  const Buttons buttons = yes != nullptr                       ? Buttons::YesNo
-                          : ok != nullptr && cancel != nullptr ? Buttons::OkCancel
-                                                               : Buttons::Ok;
+  const Buttons buttons = VisibleItem(box, IDYES) != nullptr ? Buttons::YesNo
+                          : VisibleItem(box, IDCANCEL) == nullptr || VisibleItem(box, IDOK) == nullptr
+                              ? Buttons::Ok
+                              : Buttons::OkCancel;
   const Answer answer = TheListener()->MessageCame(text, TextOfWindow(box), buttons, icon);
-  HWND pressed = ok != nullptr ? ok : cancel;  // a single OK may have either id
-  if (answer == Answer::Cancel) pressed = cancel;
-  if (answer == Answer::Yes) pressed = yes;
-  if (answer == Answer::No) pressed = no;
+  constexpr int kIds[] = {IDOK, IDCANCEL, IDYES, IDNO};  // in the order of Answer
+  HWND pressed = VisibleItem(box, kIds[static_cast<int>(answer)]);
+  if (pressed == nullptr) pressed = VisibleItem(box, IDCANCEL);  // a single OK may have either id
   PostMessageW(pressed, BM_CLICK, 0, 0);
 }
 
@@ -148,7 +146,7 @@ std::string AskedOf(HWND dialog, HWND field) {
 
 void AnswerFileDialog(HWND dialog) {
   HWND field = NameField(dialog);
-  const std::string name = TheListener()->FileDialogCame(TextOfWindow(dialog), AskedOf(dialog, field));
+  const std::string name = TheListener()->FileDialogCame(AskedOf(dialog, field));
   if (field == nullptr) ADD_FAILURE() << "A dialog \"" << TextOfWindow(dialog) << "\" came that takes no file name";
   if (name.empty() || field == nullptr) {
     PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
