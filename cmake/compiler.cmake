@@ -18,7 +18,7 @@ endif()
 
 if(WIN32)
   # Windows 10 and 11.
-  add_compile_definitions(WINVER=0x0A00 _WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN)
+  add_compile_definitions(WINVER=0x0A00 _WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN UNICODE _UNICODE)
 endif()
 if(MINGW)
   # The compiler's own libraries go into the program; nothing has to be installed with it.

@@ -17,6 +17,7 @@
 #include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/win32/internals.h"
+#include "platform/win32/wide.h"
 #include "resource.h"
 #include "values/numbers.h"
 
@@ -48,9 +49,9 @@ void ReportAim(const char* what, double measured, double aim) {
 
 void Pump() {
   MSG message;
-  while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     TranslateMessage(&message);
-    DispatchMessageA(&message);
+    DispatchMessageW(&message);
   }
 }
 
@@ -62,7 +63,7 @@ void Save() {
 }
 
 void WritePlainly(const std::string& bytes) {
-  HANDLE file = CreateFileA("Plain.FIL", GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+  HANDLE file = CreateFileW(L"Plain.FIL", GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
   DWORD written = 0;
   WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
   FlushFileBuffers(file);
@@ -89,20 +90,20 @@ void TimeSaving() {
 
 // What the least possible program does to show the same names.
 void FillBareCombo(HWND combo, const std::vector<ListEntry>& entries) {
-  SendMessageA(combo, WM_SETREDRAW, FALSE, 0);
-  SendMessageA(combo, CB_RESETCONTENT, 0, 0);
+  SendMessageW(combo, WM_SETREDRAW, FALSE, 0);
+  SendMessageW(combo, CB_RESETCONTENT, 0, 0);
   for (const ListEntry& entry : entries) {
-    SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.Text.c_str()));
+    SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(entry.Text).c_str()));
   }
-  SendMessageA(combo, WM_SETREDRAW, TRUE, 0);
+  SendMessageW(combo, WM_SETREDRAW, TRUE, 0);
 }
 
 void TimeFilling(HWND window) {
-  HWND combo = CreateWindowExA(0, "COMBOBOX", "", WS_CHILD | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL, 0, 0, 200,
+  HWND combo = CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL, 0, 0, 200,
                                200, window, nullptr, nullptr, nullptr);
   const std::vector<ListEntry> entries = ListThings({});
   const auto click_tab = [window](int id) {
-    SendMessageA(window, WM_COMMAND, MAKEWPARAM(id, STN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(window, id)));
+    SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, STN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(window, id)));
     Pump();
   };
   std::vector<double> ours;
@@ -127,8 +128,8 @@ void TimePicking(HWND window) {
     const int position = static_cast<int>(static_cast<long long>(pick) * (kLastRecord - 1) / kPicks);
     picks.push_back(TimeOf([&] {
       handled.push_back(TimeOf([&] {
-        SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(position), 0);
-        SendMessageA(window, WM_COMMAND, MAKEWPARAM(IDC_PersonCombo, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+        SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(position), 0);
+        SendMessageW(window, WM_COMMAND, MAKEWPARAM(IDC_PersonCombo, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
       }));
       Pump();
     }));
@@ -148,8 +149,8 @@ LRESULT CALLBACK AnswerBoxes(int code, WPARAM window, LPARAM details) {
   HWND box = reinterpret_cast<HWND>(window);
   if (code == HCBT_ACTIVATE && GetWindow(box, GW_OWNER) != nullptr && GetDlgItem(box, IDOK) != nullptr) {
     answerer.Came = std::chrono::steady_clock::now();
-    if (GetDlgItem(box, IDC_AnswerBox) != nullptr) SetDlgItemTextA(box, IDC_AnswerBox, answerer.Answer.c_str());
-    PostMessageA(box, WM_COMMAND, IDOK, 0);
+    if (GetDlgItem(box, IDC_AnswerBox) != nullptr) SetDlgItemTextW(box, IDC_AnswerBox, Wide(answerer.Answer).c_str());
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
   }
   return CallNextHookEx(nullptr, code, window, details);
 }
@@ -157,7 +158,7 @@ LRESULT CALLBACK AnswerBoxes(int code, WPARAM window, LPARAM details) {
 // Times each command without the user's share: adding from OK in its box on, deleting up to what it says, and renaming
 // likewise, with the making of its box.
 void TimeCommands(HWND window) {
-  const HHOOK hook = SetWindowsHookExA(WH_CBT, AnswerBoxes, nullptr, GetCurrentThreadId());
+  const HHOOK hook = SetWindowsHookExW(WH_CBT, AnswerBoxes, nullptr, GetCurrentThreadId());
   const auto milliseconds = [](auto from, auto to) {
     return std::chrono::duration<double, std::milli>(to - from).count();
   };
@@ -165,7 +166,7 @@ void TimeCommands(HWND window) {
   for (int run = 0; run < kRuns; ++run) {
     const auto command = [window](int id) {
       const auto start = std::chrono::steady_clock::now();
-      SendMessageA(window, WM_COMMAND, MAKEWPARAM(id, 0), 0);
+      SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, 0), 0);
       Pump();
       return start;
     };

@@ -2,18 +2,21 @@
 #include <string>
 
 #include "mainwindow/main_form.h"
+#include "platform/references.h"
 
 namespace {
 
 // A menu entry of a step: long names are cut, and an ampersand in them is no access key.
 std::string EntryOf(const char* verb, std::string title, const char* key) {
   constexpr std::size_t kLongest = 50;
-  if (title.size() > kLongest) title = title.substr(0, kLongest - 3) + "...";
+  if (CountCharacters(title) > kLongest) title = FirstCharacters(title, kLongest - 3) + "...";
   std::string entry = verb;
   if (!title.empty()) entry += ' ';
-  for (const char character : title) {
-    if (character == '&') entry += '&';
-    entry += character == '\t' ? ' ' : character;
+  for (std::size_t at = 0, size = 1; at < title.size(); at += size) {
+    const ShownCharacter shown = CharacterAt(title, at);
+    size = shown.Bytes;
+    if (shown.Code == '&') entry += '&';
+    entry += shown.Code == '\t' ? " " : title.substr(at, size);
   }
   return entry + '\t' + key;
 }

@@ -3,6 +3,7 @@
 
 #include "document/names.h"
 #include "platform/locale.h"
+#include "platform/references.h"
 
 std::string ShownName(const ThingRecord& thing, bool noun_order) {
   return noun_order ? TurnName(thing.NAME) : thing.NAME;
@@ -90,8 +91,9 @@ std::vector<ListEntry> CategoryEntries() {
 int FindEntryBeginning(const std::vector<ListEntry>& entries, const std::string& beginning) {
   const std::string wanted = UpperCase(beginning);
   for (std::size_t position = 0; position < entries.size(); ++position) {
-    const std::string_view start = std::string_view(entries[position].Text).substr(0, wanted.size());
-    if (UpperCase(start) == wanted) return static_cast<int>(position);
+    const std::string& text = entries[position].Text;
+    const bool begins = UpperCase(std::string_view(text).substr(0, wanted.size())) == wanted;
+    if (begins && WholeBytes(text, wanted.size()) == wanted.size()) return static_cast<int>(position);
   }
   return -1;
 }

@@ -22,9 +22,9 @@ class TextBox : public Control {
   TextBox(Form& owner, int id) : Control(owner, id, Kind::TextBox) {}
   void SetReadOnly(bool read_only);
   bool ReadOnly() const;
-  void SetTextLimit(int characters);  // for typing only; 0 = none
+  void SetTextLimit(int bytes);  // for typing only; 0 = none
   void SelectAll();
-  void SelectText(int first, int last);  // marks characters [first, last) and puts the caret behind them
+  void SelectText(int first, int last);  // marks bytes [first, last) of the text and puts the caret behind them
   Event Change;
 };
 

@@ -50,7 +50,7 @@ class DropDownList : public ListControl {
 class ComboBox : public ListControl {
  public:
   ComboBox(Form& owner, int id) : ListControl(owner, id, Kind::ComboBox) {}
-  void SelectText(int first, int last);  // marks characters [first, last) of the edit field
+  void SelectText(int first, int last);  // marks bytes [first, last) of the edit field's text
   Event Change;
 };
 

@@ -8,7 +8,7 @@
 // Asked of the system at every call, since the user may change it while the program runs.
 char DecimalSeparator();
 
-// Upper-cases text of the system's single-byte character set, accented letters included.
+// Upper-cases text of the system's single-byte character set, accented letters included. References stay as they are.
 std::string UpperCase(std::string_view text);
 char UpperCase(char character);
 

@@ -15,7 +15,7 @@ struct Cell {
 // How a run of text stands out. A printer knows only plain text.
 enum class Ink { Plain, Hit, Selected };
 
-// Text on one row, a byte a cell.
+// Text on one row, a character a cell.
 struct TextRun {
   Cell At;
   std::string Text;

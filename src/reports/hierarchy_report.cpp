@@ -9,6 +9,7 @@
 
 #include "document/document.h"
 #include "document/names.h"
+#include "platform/references.h"
 #include "reports/print_file.h"
 
 namespace {
@@ -16,6 +17,8 @@ namespace {
 constexpr std::size_t kHeadLength = 80;
 constexpr std::size_t kChildLength = 70;
 constexpr Tab kNameColumn{6};
+
+std::string Cut(const std::string& name, std::size_t bytes) { return name.substr(0, WholeBytes(name, bytes)); }
 
 // The things that a thing links to, 0 for none: each only once, and never one that is not there.
 std::array<int, 2> ParentsOf(const ThingRecord& thing) {
@@ -66,7 +69,7 @@ void WriteHierarchyReport(int top_thing) {
   RecordTable<ThingRecord>& things = TheDocument.Things;
   if (!things.Holds(top_thing)) return;
   PrintFrame("LARKSPUR V1.0 REPORT T=2",
-             "Larkspur Heirarchy report for " + JoinUnderscoredWords(things[top_thing].NAME.substr(0, kHeadLength)));
+             "Larkspur Heirarchy report for " + JoinUnderscoredWords(Cut(things[top_thing].NAME, kHeadLength)));
   for (int record = 1; record <= things.Count(); ++record) things[record].HierarchyMark = 0;
   const ChildIndex children;
   if (MarkChildren(children, top_thing, 1)) {
@@ -90,11 +93,11 @@ bool MarkChildren(const ChildIndex& children, int parent, int section) {
 void WriteHierarchySection(const ChildIndex& children, int parent, int section) {
   const ThingRecord& head = TheDocument.Things[parent];
   PrintLine({});
-  PrintLine({section, kNameColumn, JoinUnderscoredWords(head.NAME).substr(0, kHeadLength),
+  PrintLine({section, kNameColumn, Cut(JoinUnderscoredWords(head.NAME), kHeadLength),
              head.HierarchyMark > 0 ? " (from #" + std::to_string(head.HierarchyMark) + ")" : std::string()});
   for (const int child : children.Of(parent)) {
     const ThingRecord& thing = TheDocument.Things[child];
     if (thing.HierarchyMark != section) continue;
-    PrintLine({kNameColumn, ">> ", JoinUnderscoredWords(thing.NAME).substr(0, kChildLength)});
+    PrintLine({kNameColumn, ">> ", Cut(JoinUnderscoredWords(thing.NAME), kChildLength)});
   }
 }

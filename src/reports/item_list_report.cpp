@@ -7,6 +7,7 @@
 
 #include "document/document.h"
 #include "document/names.h"
+#include "platform/references.h"
 #include "platform/text.h"
 #include "reports/print_file.h"
 #include "values/evaluator.h"
@@ -81,7 +82,8 @@ void WriteWrapped(std::string_view text, int width) {
   const auto most = static_cast<std::size_t>(width);
   while (text.size() >= most) {
     const auto blank = text.substr(0, most).rfind(' ');
-    const std::size_t taken = blank == std::string_view::npos ? most : blank + 1;
+    std::size_t taken = blank == std::string_view::npos ? WholeBytes(text, most) : blank + 1;
+    if (taken == 0) taken = most;  // there is no room for a single reference
     PrintLine({" ", TrimRight(text.substr(0, taken))});
     text.remove_prefix(taken);
   }

@@ -11,6 +11,7 @@
 #include "document/fact_values.h"
 #include "document/names.h"
 #include "platform/locale.h"
+#include "platform/references.h"
 #include "platform/text.h"
 #include "reports/item_list_report.h"
 #include "reports/print_file.h"
@@ -58,8 +59,8 @@ class Column {
   }
 
   std::size_t Width() const {
-    std::size_t width = std::max(Name.size(), std::min(Title.size(), kWholeTitle));
-    for (const std::string& cell : Cells) width = std::max(width, cell.size());
+    std::size_t width = std::max(CountCharacters(Name), std::min(CountCharacters(Title), kWholeTitle));
+    for (const std::string& cell : Cells) width = std::max(width, CountCharacters(cell));
     return width;
   }
 
@@ -92,11 +93,14 @@ class Table {
  private:
   template <class TextOf>
   void WriteRow(std::string_view name, TextOf text_of) const {
-    std::string line(name.substr(0, kNameWidth));
-    line.resize(kNameWidth, ' ');
+    std::string line = FirstCharacters(name, kNameWidth);
+    line.append(kNameWidth - CountCharacters(line), ' ');
     for (std::size_t index = 0; index < columns_.size(); ++index) {
-      const std::string_view text = TrimRight(text_of(columns_[index]).substr(0, widths_[index]));
-      line.append(2 + widths_[index] - text.size(), ' ').append(text);
+      std::string_view text = text_of(columns_[index]);
+      std::string cut;
+      if (text.size() > widths_[index]) text = cut = FirstCharacters(text, widths_[index]);
+      text = TrimRight(text);
+      line.append(2 + widths_[index] - CountCharacters(text), ' ').append(text);
     }
     PrintLine({line});
   }

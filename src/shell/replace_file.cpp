@@ -1,7 +1,6 @@
 // Writing files beside their place: see replace_file.h.
 #include "shell/replace_file.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <exception>
 #include <new>
@@ -9,11 +8,12 @@
 #include <utility>
 
 #include "platform/files.h"
+#include "platform/references.h"
 #include "shell/file_names.h"
 
 namespace {
 
-constexpr std::size_t kLongestName = 259;  // what the system takes
+constexpr std::size_t kLongestName = 255;  // what file systems take, without the folder
 
 }  // namespace
 
@@ -59,10 +59,11 @@ void ReplaceFile(int handle, const std::string& target, const WrittenFile::Write
 
 std::string SavingName(const std::string& target, int number) {
   const std::string suffix = ".saving" + (number == 1 ? "" : std::to_string(number));
-  if (target.size() + suffix.size() <= kLongestName) return target + suffix;
-  // The end of the name gives way; of a name that is shorter than the suffix, all of it.
-  const std::size_t cut = std::min(suffix.size(), target.size() - NameStart(target));
-  return target.substr(0, target.size() - cut) + suffix.substr(suffix.size() - cut);
+  const std::size_t start = NameStart(target);
+  const std::string name = target.substr(start);
+  if (Widen(name).size() + suffix.size() <= kLongestName) return target + suffix;
+  // The end of the name gives way.
+  return target.substr(0, start) + FirstCharacters(name, CountCharacters(name) - suffix.size()) + suffix;
 }
 
 std::string FreeSavingName(const std::string& target) {

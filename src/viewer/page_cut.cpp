@@ -95,10 +95,3 @@ std::vector<Rule> GridOf(const ReportText& text, const PageCut& cut) {
   }
   return rules;
 }
-
-std::string Printable(std::string_view text) {
-  std::string shown(text);
-  std::replace_if(
-      shown.begin(), shown.end(), [](char each) { return static_cast<unsigned char>(each) < ' ' || each == 127; }, ' ');
-  return shown;
-}

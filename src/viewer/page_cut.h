@@ -44,6 +44,3 @@ std::vector<Index> ColumnEdges(const ReportText& text);
 // The lines of the grid, when the report asks for one: under each row, at the column edges and at the columns that
 // stay.
 std::vector<Rule> GridOf(const ReportText& text, const PageCut& cut);
-
-// What stands for a text on a page: control characters become blanks.
-std::string Printable(std::string_view text);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/printing.h"
+#include "platform/references.h"
 
 namespace {
 
@@ -57,7 +58,7 @@ Page PrintLayout::PageAt(int number) const {
   for (const Piece& piece : PiecesOf(text_, cut)) {
     const bool moves = piece.At.Column == cut.LeftColumns && !KeepsStill(text_, cut, piece.At.Row);
     const std::string_view part = moves ? piece.Text.substr(0, static_cast<std::size_t>(width)) : piece.Text;
-    if (!part.empty()) page.Runs.push_back({piece.At, Printable(part)});
+    if (!part.empty()) page.Runs.push_back({piece.At, text_.Shown(part)});
   }
   cut.Columns = cut.LeftColumns + width;
   page.Rules = GridOf(text_, cut);
@@ -65,7 +66,7 @@ Page PrintLayout::PageAt(int number) const {
   const int footer = sheet_.Rows() - 1;
   const std::string count = "Page " + std::to_string(index + 1) + " of " + std::to_string(pages_);
   const int room = first_.Columns - static_cast<int>(count.size());
-  if (room > 2) page.Runs.push_back({{0, footer}, name_.substr(0, static_cast<std::size_t>(room - 2))});
+  if (room > 2) page.Runs.push_back({{0, footer}, FirstCharacters(name_, static_cast<std::size_t>(room - 2))});
   page.Runs.push_back({{std::max(0, room), footer}, count});
   return page;
 }

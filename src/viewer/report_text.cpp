@@ -5,6 +5,8 @@
 #include <charconv>
 #include <utility>
 
+#include "platform/references.h"
+
 namespace {
 
 constexpr std::string_view kSignature = "LARKSPUR V";
@@ -53,7 +55,8 @@ ReportHeader ParseReportHeader(std::string_view line) {
 }
 
 ReportText::ReportText(std::string bytes) : bytes_(std::move(bytes)) {
-  if (bytes_.find('\t') != std::string::npos) ExpandTabs();
+  has_references_ = bytes_.find("&#") != std::string::npos;
+  if (has_references_ || bytes_.find('\t') != std::string::npos) LayOut();
   FindLines();
   if (!starts_.empty()) header_ = ParseReportHeader(WithoutEnd(Whole(0)));
   if (header_.IsReport) first_ = 1;
@@ -61,16 +64,50 @@ ReportText::ReportText(std::string bytes) : bytes_(std::move(bytes)) {
   FindHead();
 }
 
-void ReportText::ExpandTabs() {
-  std::string expanded;
-  expanded.reserve(bytes_.size() + bytes_.size() / 4);
+// Gives tabs and references their columns.
+void ReportText::LayOut() {
+  std::string laid;
+  laid.reserve(bytes_.size() + bytes_.size() / 4);
   std::size_t column = 0;
-  for (const char each : bytes_) {
+  for (std::size_t at = 0; at < bytes_.size();) {
+    const char each = bytes_[at];
+    const ShownCharacter shown = CharacterAt(bytes_, at);
+    at += shown.Bytes;
     const std::size_t width = each == '\t' ? kTabWidth - column % kTabWidth : 1;
-    expanded.append(width, each == '\t' ? ' ' : each);
+    const bool is_far = shown.Bytes > 1 && shown.Code != '&';
+    if (is_far) far_.push_back({laid.size(), shown.Code});
+    laid.append(width, each == '\t' ? ' ' : is_far ? kFarCharacter : each);
     column = each == '\n' || each == '\r' ? 0 : column + width;
   }
-  bytes_ = std::move(expanded);
+  bytes_ = std::move(laid);
+}
+
+char32_t ReportText::FarCharacter(const char* column) const {
+  const auto offset = static_cast<std::size_t>(column - bytes_.data());
+  const auto found = std::lower_bound(far_.begin(), far_.end(), offset,
+                                      [](const Far& each, std::size_t wanted) { return each.Offset < wanted; });
+  return found != far_.end() && found->Offset == offset ? found->Code : 0;
+}
+
+std::string ReportText::Kept(std::string_view part, bool printable) const {
+  const auto is_blank = [printable](char each) {
+    return printable && (static_cast<unsigned char>(each) < ' ' || each == 127);
+  };
+  if (!has_references_) {
+    std::string kept(part);
+    std::replace_if(kept.begin(), kept.end(), is_blank, ' ');
+    return kept;
+  }
+  std::u16string wide;
+  for (const char& each : part) {
+    const char32_t far_character = each == kFarCharacter ? FarCharacter(&each) : 0;
+    if (far_character != 0) {
+      AppendCharacter(wide, far_character);
+    } else {
+      wide += is_blank(each) ? u' ' : SystemPage().CharacterOf(each);
+    }
+  }
+  return Narrow(wide);
 }
 
 // Searches for either end of line on its own, since that is what the library does fastest. The first line may turn out

@@ -28,7 +28,11 @@ struct ReportHeader {
 // Reads the parameters in any order; what is missing, unknown or no number counts as 0, and so does what is negative.
 ReportHeader ParseReportHeader(std::string_view line);
 
-// Each byte of a line takes one column; tabs were replaced by blanks up to the next eighth column.
+// A character that stands as a reference in a report has this in its column, and itself beside the text.
+inline constexpr char kFarCharacter = '\x1A';
+
+// Each character of a line takes one column, and there is a byte for each; tabs were replaced by blanks up to the next
+// eighth column.
 class ReportText {
  public:
   ReportText() = default;
@@ -55,14 +59,28 @@ class ReportText {
   std::size_t OffsetOf(const Place& place) const;  // within Body()
   Place PlaceOf(std::size_t offset) const;
 
+  // What stands in the columns of a part of Line() or Body(), as the file has it; and as it is shown, where control
+  // characters are blanks.
+  std::string TextOf(std::string_view part) const { return Kept(part, false); }
+  std::string Shown(std::string_view part) const { return Kept(part, true); }
+  // The character of a column that holds kFarCharacter; 0 when that is the byte itself.
+  char32_t FarCharacter(const char* column) const;
+
  private:
-  void ExpandTabs();
+  struct Far {
+    std::size_t Offset;
+    char32_t Code;
+  };
+  std::string Kept(std::string_view part, bool printable) const;
+  void LayOut();
   void FindLines();
   void FindHead();
   std::string_view Whole(std::size_t line) const;  // with its end; counted from the first of the file
   std::size_t BodyStart() const { return Count() > 0 ? starts_[static_cast<std::size_t>(first_)] : bytes_.size(); }
 
   std::string bytes_;
+  std::vector<Far> far_;             // in their order
+  bool has_references_ = false;      // or what looks like one
   std::vector<std::size_t> starts_;  // of every line of the file
   ReportHeader header_;
   Index first_ = 0;  // 1 when the first line is a header

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -129,17 +130,17 @@ Page ReportView::BuildPage() const {
 
 // Splits a piece where its look changes.
 void ReportView::AddRuns(Page& page, const Piece& piece) const {
-  std::string text = Printable(piece.Text);
+  std::size_t cells = piece.Text.size();
   const auto selection = Selection();
   const Index end = LengthOf(piece.From.Line);
   // The end of a selected line is a blank: otherwise an empty one would not show that it is selected.
-  if (In({piece.From.Line, end}, selection) && piece.From.Column + static_cast<Index>(text.size()) == end) text += ' ';
-  if (text.empty()) return;
-  std::vector<Ink> inks(text.size(), Ink::Plain);
+  if (In({piece.From.Line, end}, selection) && piece.From.Column + static_cast<Index>(cells) == end) ++cells;
+  if (cells == 0) return;
+  std::vector<Ink> inks(cells, Ink::Plain);
   const std::string_view line = text_.Line(piece.From.Line);
-  const auto window_end = static_cast<std::size_t>(piece.From.Column) + text.size();
-  for (std::size_t at = finder_.In(line, 0); at < window_end;
-       at = finder_.In(line, at + static_cast<std::size_t>(finder_.Length()))) {
+  const auto window_end = static_cast<std::size_t>(piece.From.Column) + cells;
+  for (std::size_t at = finder_.In(text_, line, 0); at < window_end;
+       at = finder_.In(text_, line, at + static_cast<std::size_t>(finder_.Length()))) {
     for (auto column = static_cast<Index>(at); column < static_cast<Index>(at) + finder_.Length(); ++column) {
       const Index index = column - piece.From.Column;
       if (index >= 0 && index < static_cast<Index>(inks.size())) inks[static_cast<std::size_t>(index)] = Ink::Hit;
@@ -151,8 +152,9 @@ void ReportView::AddRuns(Page& page, const Piece& piece) const {
   }
   for (std::size_t first = 0, last = 0; first < inks.size(); first = last) {
     while (last < inks.size() && inks[last] == inks[first]) ++last;
-    page.Runs.push_back(
-        {{piece.At.Column + static_cast<int>(first), piece.At.Row}, text.substr(first, last - first), inks[first]});
+    std::string text = text_.Shown(piece.Text.substr(first, last - first));
+    if (last > piece.Text.size()) text += ' ';
+    page.Runs.push_back({{piece.At.Column + static_cast<int>(first), piece.At.Row}, std::move(text), inks[first]});
   }
 }
 

@@ -7,7 +7,8 @@
 namespace {
 
 bool IsWordPart(char each) {
-  return std::isalnum(static_cast<unsigned char>(each)) != 0 || static_cast<unsigned char>(each) >= 128;
+  return std::isalnum(static_cast<unsigned char>(each)) != 0 || static_cast<unsigned char>(each) >= 128 ||
+         each == kFarCharacter;
 }
 
 }  // namespace
@@ -110,7 +111,8 @@ std::string ReportView::SelectedText() const {
   for (Index line = first.Line; line <= last.Line && line < text_.Count(); ++line) {
     const Index begin = line == first.Line ? first.Column : 0;
     const Index end = line == last.Line ? last.Column : LengthOf(line);
-    text.append(text_.Line(line).substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin)));
+    text.append(
+        text_.TextOf(text_.Line(line).substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin))));
     if (line < last.Line) text.append("\r\n");
   }
   return text;
@@ -158,10 +160,10 @@ void ReportView::Found(const Place& hit) {
   Clamp();
   Show(caret_);
   Show(hit);
-  hit_number_ = finder_.CountIn(text_.Body().substr(0, text_.OffsetOf(caret_)));
+  hit_number_ = finder_.CountIn(text_, text_.Body().substr(0, text_.OffsetOf(caret_)));
 }
 
 void ReportView::CountHits() {
-  hits_ = finder_.CountIn(text_.Body());
+  hits_ = finder_.CountIn(text_, text_.Body());
   hit_number_ = 0;
 }

@@ -70,7 +70,8 @@ void ViewerForm::SaveTextItem_Click() {
   const std::string name = ChooseNameToWrite(file_);
   if (name.empty()) return;
   try {
-    ReplaceFile(Files::FreeHandle(), name, [this](int handle) { Files::Write(handle, view_.Text().Body()); });
+    ReplaceFile(Files::FreeHandle(), name,
+                [this](int handle) { Files::Write(handle, view_.Text().TextOf(view_.Text().Body())); });
   } catch (const RuntimeError& error) {
     Global::Say("Failed to write file " + name + Global::DueToError(error), Icon::Exclamation);
   }

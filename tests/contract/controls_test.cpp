@@ -5,6 +5,7 @@
 #include <gtest/gtest-spi.h>
 
 #include "contract/test_form.h"
+#include "support/hands.h"
 
 namespace {
 
@@ -19,7 +20,8 @@ TEST_F(ControlsTest, TextsComeBackByteForByte) {
     const int id = control->Id();
     const bool is_typed = id == IDC_LineBox || id == IDC_LinesBox || id == IDC_NameCombo;
     if (id >= IDC_KindDrop && id <= IDC_PhotoPic) continue;  // has no text, or not its own
-    std::vector<std::string> texts = {"plain", "", "Fish & Chips && more", " caf\xE9 ", high, "tab\tbed", "100%s %d"};
+    std::vector<std::string> texts = {"plain",    "",  "Fish & Chips && more", " caf\xE9 ", high, "tab\tbed",
+                                      "100%s %d", kFar};
     // Lines are parted by CR LF, and long ones stay whole.
     if (id == IDC_LinesBox)
       texts.insert(texts.end(), {"first\r\n\r\n  third\r\n", std::string(1000, 'w'), words, many});
@@ -57,6 +59,8 @@ TEST_F(ControlsTest, LimitAndReadOnlyBindThePersonNotTheCode) {
   form.LineBox.SetTextLimit(5);
   Does([&] { user.Types(IDC_LineBox, "abcdefgh"); }, "LineBox Change abcde");
   Does([&] { form.LineBox.SetText("abcdefgh"); }, "LineBox Change abcdefgh");
+  form.LineBox.SetTextLimit(7);  // in bytes
+  Does([&] { user.Types(IDC_LineBox, "&#937;abc"); }, "LineBox Change &#937;a");
   form.LineBox.SetTextLimit(0);
   Does([&] { user.Types(IDC_LineBox, "no limit any more"); }, "LineBox Change no limit any more");
   for (const bool read_only : {true, false}) {
@@ -67,6 +71,18 @@ TEST_F(ControlsTest, LimitAndReadOnlyBindThePersonNotTheCode) {
     if (read_only) Does([&] { EXPECT_NONFATAL_FAILURE(user.Types(IDC_LinesBox, "typed"), "5013"); }, "");
   }
   Does([&] { user.Types(IDC_LinesBox, "typed"); }, "LinesBox Change typed");
+}
+
+TEST_F(ControlsTest, MarksAreCountedInBytes) {
+  form.LineBox.SetText("a&#937;b&#128512;&#38;#937;");
+  form.NameCombo.SetText(form.LineBox.Text());
+  for (const auto& [first, last] : {std::pair(0, 27), {1, 7}, {8, 17}, {7, 8}, {17, 27}}) {
+    form.LineBox.SelectText(first, last);
+    form.NameCombo.SelectText(first, last);
+    for (const Control* control : std::initializer_list<Control*>{&form.LineBox, &form.NameCombo}) {
+      EXPECT_EQ(Hands::LookAt(*control).Mark, std::pair(first, last)) << control->Id();
+    }
+  }
 }
 
 TEST_F(ControlsTest, PropertiesAreOfOneControlEach) {
@@ -90,7 +106,7 @@ TEST_F(ControlsTest, PropertiesAreOfOneControlEach) {
       }
     }
     EXPECT_EQ(each->ToolTip(), "");
-    for (const char* tip : {"Fish & Chips", "other", ""}) {
+    for (const std::string tip : {"Fish & Chips", kFar.c_str(), ""}) {
       each->SetToolTip(tip);
       EXPECT_EQ(each->ToolTip(), tip);
     }

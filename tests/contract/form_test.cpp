@@ -9,14 +9,15 @@
 namespace {
 
 TEST_F(FormTest, LivesFromLoadToUnloadAndMayRefuseToGo) {
-  form.SetCaption("Larkspur && caf\xE9");
+  form.SetCaption("Larkspur && " + kFar);
   form.KindDrop.Fill({{"early", 1}});
   Does([&] { form.KindDrop.Select(0), form.LineBox.SetText("x"); }, "KindDrop Click 0 early, LineBox Change x");
   form.OnLoad = [&] { form.HintLabel.SetText("loaded"), form.LinesBox.SetFocus(); };
   Does([&] { Use({}); }, "Load, Activate, CancelButton Click, QueryUnload Code, Unload");
   EXPECT_TRUE(form.Closed());
   Use([&] {
-    EXPECT_EQ(user.SeesCaption() + user.Sees(IDC_LineBox) + user.Sees(IDC_HintLabel), "Larkspur && caf\xE9xloaded");
+    EXPECT_EQ(user.SeesCaption() + user.Sees(IDC_LineBox) + user.Sees(IDC_HintLabel),
+              "Larkspur && " + kFar + "xloaded");
     EXPECT_EQ(user.SeesSelected(IDC_KindDrop), "early");
     EXPECT_TRUE(user.SeesFocusOn(IDC_LinesBox));
     form.Refuses = true;

@@ -12,7 +12,7 @@ class ListsTest : public ShownFormTest {
 
 TEST_F(ListsTest, EntriesKeepOrderTextAndDataAsManyAsThereCanBeRecords) {
   std::vector<ListEntry> odd = {{"b", 3},           {"a", -1},         {"C", 32767}, {"a", 2147483647},
-                                {"caf\xE9 & b", 0}, {"", -2147483647}, {" x ", 7}};
+                                {"caf\xE9 & b", 0}, {"", -2147483647}, {kFar, 4},    {" x ", 7}};
   std::vector<ListEntry> many;
   for (int number = 32767; number >= 1; --number) many.push_back({"Thing " + std::to_string(number), number});
   for (ListControl* list : lists) {
@@ -120,10 +120,8 @@ TEST_F(ListsTest, ChecksAreTurnedOver) {
     if (position == 0) list.SetChecked(1, !list.Checked(1));
   };
   does([&] { user.Ticks(IDC_TickList, "b"); }, "TickList ItemCheck 0 on, TickList ItemCheck 1 on", {"b", "a"});
-  does([&] { list.Fill({"caf\xE9", "x"}); }, "", {});
-  EXPECT_EQ(list.EntryText(0) + list.EntryText(2) + std::to_string(list.Count()),
-            "caf\xE9"
-            "2");
+  does([&] { list.Fill({"caf\xE9" + kFar, "x"}); }, "", {});
+  EXPECT_EQ(list.EntryText(0) + list.EntryText(2) + std::to_string(list.Count()), "caf\xE9" + kFar + "2");
   for (const int position : {-1, 0, 1, 2}) EXPECT_FALSE(list.Checked(position)) << position;
   Does([&] { list.SetChecked(-1, true), list.SetChecked(2, true); }, "");
 }

@@ -16,7 +16,7 @@ TEST_F(FormTest, PicturesAreKnownByTheirBytesAndWhatFailsLeavesTheBoxEmpty) {
     std::string Bytes;
     int Error;
   } rows[] = {{"small.bmp", bitmap, 0},
-              {"small.jpg", bitmap, 0},
+              {"&#26085;.jpg", bitmap, 0},
               {"held.bmp", bitmap, 70},
               {"empty.bmp", "", 481},
               {"text.bmp", std::string(200, 't'), 481},

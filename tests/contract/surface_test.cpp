@@ -18,10 +18,10 @@ class SurfaceTest : public FormTest {
 
 TEST_F(SurfaceTest, ShowsThePageItWasGivenLastAndRoomFollowsTheTextSize) {
   Page page;
-  page.Runs = {{{2, 1}, "text", Ink::Hit}};
+  page.Runs = {{{2, 1}, kFar, Ink::Hit}};
   page.HeadRows = 1;
   surface.Show(page);
-  EXPECT_EQ(user.SeesPage(IDC_TextSurface).Runs.at(0).Text, "text");
+  EXPECT_EQ(user.SeesPage(IDC_TextSurface).Runs.at(0).Text, kFar);
   EXPECT_EQ(user.SeesPage(IDC_TextSurface).HeadRows, 1);
   const int columns = surface.Columns(), rows = surface.Rows();
   EXPECT_TRUE(surface.TextSize() == 10 && columns >= 10 && rows >= 3);
@@ -63,8 +63,8 @@ TEST_F(SurfaceTest, KeysAreToldToTheFormFirst) {
   Does([&] { user.Presses(Key::Down), user.Presses(Key::Up); }, "down");
 }
 
-TEST(ClipboardTest, HoldsTextOfTheSystemsCharacterSet) {
-  for (const char* text : {"old", "caf\xE9\r\nline", ""}) {
+TEST(ClipboardTest, HoldsText) {
+  for (const std::string text : {"old", "caf\xE9\r\nline", kFar.c_str(), ""}) {
     SetClipboardText(text);
     EXPECT_EQ(ClipboardText(), text);
   }

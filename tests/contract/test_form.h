@@ -17,6 +17,8 @@
 #include "platform/surface.h"
 #include "support/user.h"
 
+// What the page does not have, and what only looks like a reference.
+inline const std::string kFar = "&#937; &#8734; &#257; &#26085; &#128512; &#38;#937;";
 inline std::string EventLog;
 inline bool LogsFocus = false;  // GotFocus and LostFocus as well
 

@@ -61,10 +61,11 @@ C:/a.b/Home => C:/a.b | Home.FIL => )T",
   ExpectRows(R"T(C:\a\Home.FIL => C:\a\Home.BAK | C:\a.b\Home => C:\a.b\Home.BAK
 C:/a.b/Home => C:/a.b/Home.BAK | C:\a.b.c => C:\a.b.BAK)T",
              BackupName);
-  const std::string folder = "C:\\" + std::string(243, 'f') + "\\";
+  // A name without its folder has at most 255 characters.
   EXPECT_EQ(SavingName("C:\\a.b", 1) + SavingName("C:\\a.b", 2), "C:\\a.b.savingC:\\a.b.saving2");
-  EXPECT_EQ(SavingName(folder + "Home1.FIL", 1), folder + "Ho.saving");
-  EXPECT_EQ(SavingName(folder + "H.FIL", 12), folder + "ing12");
+  const std::string folder = "C:\\" + std::string(300, 'f') + "\\", longest = std::string(245, 'n');
+  EXPECT_EQ(SavingName(folder + longest + "&#937;", 12), folder + longest + "&#937;.saving12");
+  EXPECT_EQ(SavingName(folder + longest + "&#937;a", 12), folder + longest.substr(0, 238) + ".saving12");
   EXPECT_TRUE(SameFile("c:/Data\\home.fil", "C:\\DATA/Home.FIL"));
   EXPECT_FALSE(SameFile("C:\\Data\\Home.FIL", "C:\\Data\\Home2.FIL"));
   ExpectRows(R"T(a.jpg, => C:\W\a.jpg; | p\a.jpg,C:\D\x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg;

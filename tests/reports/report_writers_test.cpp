@@ -63,7 +63,8 @@ TEST_F(ReportWritersTest, LinesAreComposedOfTextsNumbersAndColumns) {
 TEST_F(ReportWritersTest, TextsAreWrappedAtBlanks) {
   ExpectRows(R"(4  =>  / | 4 abc =>  abc/ | 4 abcd =>  abcd/ / | 4 abcde =>  abcd/ e/
 4 one two =>  one/ two/ | 7 one two =>  one/ two/ | 8 one two =>  one two/ | 5 one  two =>  one/ two/
-5  longword =>  / longw/ ord/ | 5 end    =>  end/  / | 5  aa bb =>   aa/ bb/)",
+5  longword =>  / longw/ ord/ | 5 end    =>  end/  / | 5  aa bb =>   aa/ bb/
+9 ab&#937;&#937;c =>  ab&#937;/ &#937;c/ | 3 &#937; =>  &#9/ 37;/ /)",
              [](const std::string& given) {
                const auto [width, text] = Halves(given, ' ');
                const std::string written =
@@ -86,6 +87,27 @@ TEST_F(ReportWritersTest, AreAsTheyWere) {
   TheDocument.Things.Writable(5).Values[3].Text = ":a colon first";
   TheDocument.Things.Writable(5).Values[9].Text = "no colon";
   ExpectGolden("NastyList.PRN", [] { WriteItemListReport(0); });
+}
+
+// References are characters: columns stand, and none is cut through.
+TEST_F(ReportWritersTest, MeasureCharactersOrCutBeforeThem) {
+  Load("tests/reports/golden/Nasty.FIL");
+  const auto values_of = [](const std::string& letter, const std::string& shown) {
+    std::string name;
+    for (int count = 0; count < 40; ++count) name += letter;
+    TheDocument.Things.Writable(1).NAME = name;
+    std::string written = Written([] { WriteItemValuesReport(0, {1, 2, 3, 5}); });
+    for (auto at = written.find(letter); at != std::string::npos; at = written.find(letter, at + shown.size())) {
+      written.replace(at, letter.size(), shown);
+    }
+    return written;
+  };
+  EXPECT_EQ(values_of("&#26085;", "\x7F"), values_of("\x7F", "\x7F"));
+  std::string& name = TheDocument.Things.Writable(1).NAME;
+  name.assign(77, 'x').append("&#937;");
+  const std::string hierarchy = Written([] { WriteHierarchyReport(1); });
+  EXPECT_NE(hierarchy.find("xxx\r\n"), std::string::npos) << hierarchy;
+  EXPECT_EQ(hierarchy.find('&'), std::string::npos) << hierarchy;
 }
 
 // Category 32 is told by all bits from the sign bit's half on; a sum may have no end, and a largest number be negative.

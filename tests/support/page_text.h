@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/page.h"
+#include "platform/references.h"
 
 // Hits stand in <>, what is selected in []; what would stand on something else is told with its column.
 inline std::vector<std::string> RowsOf(const Page& page, bool marked = false) {
@@ -18,7 +19,7 @@ inline std::vector<std::string> RowsOf(const Page& page, bool marked = false) {
     std::string& row = rows[at];
     if (run.At.Column < ends[at]) row += "(at " + std::to_string(run.At.Column) + ")";
     row.append(static_cast<std::size_t>(std::max(0, run.At.Column - ends[at])), ' ');
-    ends[at] = run.At.Column + static_cast<int>(run.Text.size());
+    ends[at] = run.At.Column + static_cast<int>(CountCharacters(run.Text));
     const char* const marks[] = {"", "", "<", ">", "[", "]"};
     const std::size_t style = marked ? 2 * static_cast<std::size_t>(run.Style) : 0;
     row += marks[style] + run.Text + marks[style + 1];

@@ -10,6 +10,7 @@
 #include "document/writer.h"
 #include "platform/file_handles.h"
 #include "platform/files.h"
+#include "platform/references.h"
 #include "shell/messages.h"
 #include "support/files.h"
 
@@ -88,6 +89,33 @@ std::string Saved(const std::string& name) {
   SaveFilerFile(kDataFileHandle);
   Files::Close(kDataFileHandle);
   return TestFiles::Get(name).value();
+}
+
+void RequireReferencesHold(const std::string& text, std::size_t cut) {
+  const std::u16string shown = Widen(text);
+  Require(Narrow(shown) == text, "a text comes back from being shown");
+  Require(WidePosition(text, text.size()) == shown.size(), "what is shown is measured");
+  const std::string first = text.substr(0, WholeBytes(text, cut));
+  Require(first.size() <= cut && Widen(first) + Widen(text.substr(first.size())) == shown, "no cut goes through");
+  const std::string characters = FirstCharacters(text, cut);
+  Require(shown.starts_with(Widen(characters)), "the first characters are shown as they were");
+  Require(CountCharacters(characters) == std::min(cut, CountCharacters(text)), "as many characters as are wanted");
+}
+
+void RequireReferencesHold(const std::u16string& shown) {
+  std::u16string whole;
+  for (std::size_t at = 0; at < shown.size(); ++at) {
+    const auto is_half = [&shown](std::size_t place, int which) {
+      return place < shown.size() && shown[place] >> 10 == which;
+    };
+    if (is_half(at, 0x36) && is_half(at + 1, 0x37)) {
+      whole += shown.substr(at++, 2);
+    } else {
+      whole += is_half(at, 0x36) || is_half(at, 0x37) ? u'\xFFFD' : shown[at];
+    }
+  }
+  const std::string text = Narrow(shown);
+  Require(Widen(text) == whole && Narrow(whole) == text, "what is shown comes back from being kept");
 }
 
 void RequireRoundTrip() {

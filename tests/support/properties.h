@@ -21,5 +21,10 @@ std::string JoinedSlots(const FieldSlots& slots);
 // The bytes of the file of that name, or of a passing one, after the document was written to it.
 std::string Saved(const std::string& name = "Saved.FIL");
 
+// A text that is kept comes back from being shown, one that is shown from being kept, and neither is cut or measured
+// through a reference: cut there, in bytes or characters.
+void RequireReferencesHold(const std::string& text, std::size_t cut);
+void RequireReferencesHold(const std::u16string& shown);
+
 // Saves the document, and loads and saves it again: nothing is said, and nothing differs.
 void RequireRoundTrip();

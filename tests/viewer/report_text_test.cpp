@@ -52,6 +52,7 @@ TEST(ReportTextTest, HasHeaderHeadAndLines) {
       {"\r\rx", "plain/0/0/1|||x"},
       {"a\tb\t\r\n12345678\tc\n", "plain/0/0/17|a       b       |12345678        c"},
       {"nul\0here\n"s, "plain/0/0/8|nul\0here"s},
+      {"&#937;\tx&#38;#937;", "plain/0/0/15|\x1A       x&#937;"},
   };
   for (const auto& [bytes, described] : rows) EXPECT_EQ(Described(ReportText(bytes)), described) << bytes;
 }
@@ -76,18 +77,22 @@ std::string Hits(const ReportText& text, const std::string& sought, bool forward
     const std::string told = std::to_string(place->Line) + "," + std::to_string(place->Column) + " ";
     places.insert(forward ? places.size() : 0, told);
   }
-  return places + std::to_string(finder.CountIn(text.Body()));
+  return places + std::to_string(finder.CountIn(text, text.Body()));
 }
 
 TEST(FinderTest, FindsForwardAndBackwardWithoutOverlap) {
-  const ReportText text("aaaa Shed\r\nnone\r\nSHED a\r\ncaf\xE9 CAF\xC9");
+  const ReportText text("aaaa Shed\r\nnone\r\nSHED a\r\ncaf\xE9 CAF\xC9\r\n&#8734;&#937;x&#38;#937;\x1A");
   const std::pair<std::string, std::string> rows[] = {
-      {"shed", "0,5 2,0 2"}, {"aa", "0,0 0,2 2"}, {"CAF\xE9", "3,0 3,5 2"}, {"missing", "0"}, {"", "0"}};
+      {"shed", "0,5 2,0 2"}, {"aa", "0,0 0,2 2"}, {"CAF\xE9", "3,0 3,5 2"},
+      {"&#937;X", "4,1 1"},  {"&#937;", "4,1 1"}, {"&#38;#937;", "4,3 1"},
+      {"\x1A", "4,9 1"},     {"missing", "0"},    {"", "0"}};
   for (const auto& [sought, hits] : rows) {
     EXPECT_EQ(Hits(text, sought, true), hits) << sought;
     EXPECT_EQ(Hits(text, sought, false), hits) << sought;
   }
   EXPECT_EQ(Finder("aa").Next(text, {0, 1}), (Place{0, 2}));
+  EXPECT_EQ(text.TextOf(text.Line(4)) + text.Shown(text.Line(4).substr(1)),
+            "&#8734;&#937;x&#38;#937;\x1A&#937;x&#38;#937; ");
 }
 
 }  // namespace

@@ -22,9 +22,9 @@ TEST_F(ShownFormTest, DroppedListIsAsWideAsItsNamesNeedAndAtLeastAsItsBox) {
     HWND window = WindowOf(*list);
     const LONG width = WidthOf(window);
     const auto dropped_width = [&] {
-      SendMessageA(window, CB_SHOWDROPDOWN, TRUE, 0);
+      SendMessageW(window, CB_SHOWDROPDOWN, TRUE, 0);
       const LONG dropped = WidthOf(list->PeerOf().DropList());
-      SendMessageA(window, CB_SHOWDROPDOWN, FALSE, 0);
+      SendMessageW(window, CB_SHOWDROPDOWN, FALSE, 0);
       return dropped;
     };
     list->Fill({{"short", 1}});

@@ -4,7 +4,9 @@
 #include "contract/error_of.h"
 #include "platform/files.h"
 #include "platform/process.h"
+#include "platform/program.h"
 #include "platform/win32/internals.h"
+#include "platform/win32/wide.h"
 #include "support/fresh_test.h"
 
 namespace {
@@ -26,9 +28,19 @@ TEST_F(RealSystemTest, ALockHasOneHolderInEveryRace) {
   }
 }
 
+TEST_F(RealSystemTest, EnvironmentAndCommandLineHoldEveryCharacter) {
+  const std::string odd = "&#937; &#8734; &#257; &#26085; &#128512; &#38;#937;";
+  SetEnvironmentVariableW(Wide("FILER_" + odd).c_str(), Wide(odd).c_str());
+  EXPECT_EQ(EnvironmentValue("FILER_" + odd), odd);
+  TestFiles::MakeFolder(odd);
+  SetCurrentDirectoryW(Wide(odd).c_str());
+  EXPECT_EQ(CurrentFolder(), InFolder(odd));
+  SetCurrentDirectoryW(L"..");
+}
+
 TEST_F(RealSystemTest, AStartedProgramGetsItsArguments) {
-  TestFiles::Put("my program.bat", "@echo %*> STARTED.TXT\r\n");
-  const long id = StartProgram("\"" + InFolder("my program.bat") + "\" \"C:\\a page.htm\" more");
+  TestFiles::Put("my &#937; program.bat", "@echo %*> STARTED.TXT\r\n");
+  const long id = StartProgram("\"" + InFolder("my &#937; program.bat") + "\" \"C:\\a page.htm\" more");
   // Once it has ended, nothing of it is left in the folder; it may have ended already.
   if (HANDLE program = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(id))) {
     EXPECT_EQ(WaitForSingleObject(program, 600000), WAIT_OBJECT_0);

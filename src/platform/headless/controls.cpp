@@ -19,7 +19,7 @@ bool Label::Border() const { return PeerOf().Border; }
 
 void TextBox::SetReadOnly(bool read_only) { PeerOf().ReadOnly = read_only; }
 bool TextBox::ReadOnly() const { return PeerOf().ReadOnly; }
-void TextBox::SetTextLimit(int characters) { PeerOf().TextLimit = characters; }
+void TextBox::SetTextLimit(int bytes) { PeerOf().TextLimit = bytes; }
 
 // What a person types replaces everything anyway.
 void TextBox::SelectAll() { PeerOf().MarkAll(); }

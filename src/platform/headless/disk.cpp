@@ -11,6 +11,7 @@
 #include "platform/headless/machine.h"
 #include "platform/locale.h"
 #include "platform/program.h"
+#include "platform/references.h"
 #include "platform/runtime_error.h"
 
 namespace {
@@ -20,7 +21,7 @@ constexpr unsigned long kPathMissing = 3;
 constexpr unsigned long kSharingViolation = 32;
 constexpr unsigned long kNetPathMissing = 53;
 constexpr unsigned long kInvalidName = 123;
-constexpr std::size_t kLongestName = 259;
+constexpr std::size_t kLongestName = 32766, kLongestPart = 255;
 
 struct Faults {
   int Nth = 0;  // 0: none
@@ -50,7 +51,7 @@ void CheckPart(const std::string& part) {
   const bool bad = std::any_of(part.begin(), part.end(), [](char each) {
     return static_cast<unsigned char>(each) < 32 || kForbidden.find(each) != std::string_view::npos;
   });
-  if (bad || IsDevice(part)) Disk::Fail(kInvalidName);
+  if (bad || IsDevice(part) || Widen(part).size() > kLongestPart) Disk::Fail(kInvalidName);
 }
 
 // Joins a name with the current folder, or with its drive when it opens with a separator.
@@ -89,7 +90,7 @@ std::string FullName(const std::string& name) {
   }
   std::string result = "C:";
   for (const std::string& part : parts) result += '\\' + part;
-  if (result.size() > kLongestName) Disk::Fail(kPathMissing);
+  if (Widen(result).size() > kLongestName) Disk::Fail(kPathMissing);
   return parts.empty() ? "C:\\" : result;
 }
 

@@ -2,6 +2,7 @@
 #include "platform/lists.h"
 #include "platform/win32/internals.h"
 #include "platform/win32/silence.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
@@ -12,7 +13,7 @@ constexpr UINT kChecked = 2;
 UINT ImageOf(UINT state) { return (state & LVIS_STATEIMAGEMASK) >> 12; }
 
 void SetImage(const Control::Peer& peer, int position, UINT image) {
-  LVITEMA item{};
+  LVITEMW item{};
   item.stateMask = LVIS_STATEIMAGEMASK;
   item.state = INDEXTOSTATEIMAGEMASK(image);
   peer.Send(LVM_SETITEMSTATE, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&item));
@@ -27,14 +28,14 @@ void CheckList::Fill(const std::vector<std::string>& entries) {
   if (visible) peer.Send(WM_SETREDRAW, FALSE);
   peer.Send(LVM_DELETEALLITEMS);
   peer.Ticks.assign(entries.size(), false);
-  std::string text;
+  std::wstring text;
   for (std::size_t index = 0; index < entries.size(); ++index) {
-    text = entries[index];
-    LVITEMA item{};
+    text = Wide(entries[index]);
+    LVITEMW item{};
     item.mask = LVIF_TEXT;
     item.iItem = static_cast<int>(index);
     item.pszText = text.data();
-    peer.Send(LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
+    peer.Send(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
     SetImage(peer, item.iItem, kUnchecked);
   }
   if (visible) {
@@ -49,15 +50,15 @@ int CheckList::Count() const { return static_cast<int>(PeerOf().Ticks.size()); }
 std::string CheckList::EntryText(int position) const {
   if (position < 0 || position >= Count()) return {};
   for (std::size_t size = 256;; size *= 2) {
-    std::string text(size, '\0');
-    LVITEMA item{};
+    std::wstring text(size, L'\0');
+    LVITEMW item{};
     item.pszText = text.data();
     item.cchTextMax = static_cast<int>(size);
     const LRESULT length =
-        PeerOf().Send(LVM_GETITEMTEXTA, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&item));
+        PeerOf().Send(LVM_GETITEMTEXTW, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&item));
     if (static_cast<std::size_t>(length) + 1 >= size) continue;
     text.resize(static_cast<std::size_t>(length));
-    return text;
+    return Bytes(text);
   }
 }
 

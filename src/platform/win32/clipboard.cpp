@@ -3,7 +3,11 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <cwchar>
+
 #include "platform/runtime_error.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
@@ -32,13 +36,10 @@ class OpenClipboardScope {
 }  // namespace
 
 void SetClipboardText(std::string_view text) {
-  const int size = static_cast<int>(text.size());
-  const int length = size == 0 ? 0 : MultiByteToWideChar(CP_ACP, 0, text.data(), size, nullptr, 0);
-  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (static_cast<SIZE_T>(length) + 1) * sizeof(wchar_t));
+  const std::wstring words = Wide(text);
+  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (words.size() + 1) * sizeof(wchar_t));
   if (memory == nullptr) throw RuntimeError(kOutOfMemory);
-  auto* wide = static_cast<wchar_t*>(GlobalLock(memory));
-  if (length > 0) MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide, length);
-  wide[length] = 0;
+  std::copy_n(words.c_str(), words.size() + 1, static_cast<wchar_t*>(GlobalLock(memory)));
   GlobalUnlock(memory);
   const OpenClipboardScope clipboard;
   // The clipboard takes the memory over only when it takes it at all.
@@ -53,10 +54,9 @@ std::string ClipboardText() {
   HANDLE memory = clipboard.Open() ? GetClipboardData(CF_UNICODETEXT) : nullptr;
   const auto* wide = memory == nullptr ? nullptr : static_cast<const wchar_t*>(GlobalLock(memory));
   if (wide == nullptr) return {};
-  const int size = WideCharToMultiByte(CP_ACP, 0, wide, -1, nullptr, 0, nullptr, nullptr);
-  std::string text(static_cast<std::size_t>(size), '\0');
-  WideCharToMultiByte(CP_ACP, 0, wide, -1, text.data(), size, nullptr, nullptr);
+  // Whoever put it there may have forgotten its end.
+  const std::size_t most = GlobalSize(memory) / sizeof(wchar_t);
+  std::string text = Bytes(std::wstring_view(wide, wcsnlen(wide, most)));
   GlobalUnlock(memory);
-  text.resize(text.empty() ? 0 : text.size() - 1);
   return text;
 }

@@ -7,6 +7,7 @@
 #include "platform/win32/internals.h"
 #include "platform/win32/silence.h"
 #include "platform/win32/surface_work.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
@@ -25,11 +26,11 @@ bool Scrolls(HWND box) {
 
 // By itself, the box draws its old lines, its new ones and its scroll bar at each step of taking the text, which takes
 // most of the time of showing another thing. Only for a visible box: drawing is the same to the system as being shown.
-void SetTextDrawnOnce(HWND box, const char* text) {
+void SetTextDrawnOnce(HWND box, const wchar_t* text) {
   const bool draw_frame = GetUpdateRect(box, nullptr, FALSE) != FALSE || Scrolls(box);
-  DefWindowProcA(box, WM_SETREDRAW, FALSE, 0);
-  SetWindowTextA(box, text);
-  DefWindowProcA(box, WM_SETREDRAW, TRUE, 0);
+  DefWindowProcW(box, WM_SETREDRAW, FALSE, 0);
+  SetWindowTextW(box, text);
+  DefWindowProcW(box, WM_SETREDRAW, TRUE, 0);
   if (draw_frame || Scrolls(box)) {
     RedrawWindow(box, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
   } else {
@@ -41,11 +42,11 @@ void SetTextDrawnOnce(HWND box, const char* text) {
 }  // namespace
 
 std::string TextOfWindow(HWND window) {
-  std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)), '\0');
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
   // The length told may be more than there is.
-  const int length = GetWindowTextA(window, text.data(), static_cast<int>(text.size()) + 1);
+  const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
   text.resize(static_cast<std::size_t>(length));
-  return text;
+  return Bytes(text);
 }
 
 Control::Control(Form& owner, int id, Kind kind) : peer_(std::make_unique<Peer>()) {
@@ -72,8 +73,8 @@ Control::Control(Form& owner, int id, Kind kind) : peer_(std::make_unique<Peer>(
   if (kind == Kind::ComboBox) peer.Send(CB_LIMITTEXT, kNoLimit);
   if (peer.DropsDown()) peer.Send(CB_SETMINVISIBLE, kVisibleEntries);
   if (kind == Kind::CheckList) {
-    LVCOLUMNA column{};
-    peer.Send(LVM_INSERTCOLUMNA, 0, reinterpret_cast<LPARAM>(&column));
+    LVCOLUMNW column{};
+    peer.Send(LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
     const DWORD style = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
     peer.Send(LVM_SETEXTENDEDLISTVIEWSTYLE, style, style);
     peer.After(WM_SIZE);
@@ -117,15 +118,15 @@ void Control::SetText(std::string_view text) {
     // What the program shows is data: an ampersand in it is no access key.
     if (peer.What == Kind::Label) peer.ChangeStyle(SS_NOPREFIX, 0);
     if (peer.MultiLine() && Visible()) {
-      SetTextDrawnOnce(peer.Window, std::string(text).c_str());
+      SetTextDrawnOnce(peer.Window, Wide(text).c_str());
     } else {
-      SetWindowTextA(peer.Window, std::string(text).c_str());
+      SetWindowTextW(peer.Window, Wide(text).c_str());
     }
     peer.Told = Text();
   }
   if (peer.What == Kind::TextBox) Raise(static_cast<TextBox*>(this)->Change);
   if (peer.What == Kind::ComboBox) {
-    SendMessageA(peer.DropList(), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    SendMessageW(peer.DropList(), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
     peer.Selected = -1;
     Raise(static_cast<ComboBox*>(this)->Change);
   }
@@ -138,14 +139,14 @@ void Control::SetEnabled(bool enabled) {
   const bool had_focus = !enabled && GetFocus() == peer_->Window;
   EnableWindow(peer_->Window, enabled ? TRUE : FALSE);
   // Without the focus anywhere, the keyboard would be dead.
-  if (had_focus) SendMessageA(peer_->Owner->PeerOf().Window, WM_NEXTDLGCTL, 0, FALSE);
+  if (had_focus) SendMessageW(peer_->Owner->PeerOf().Window, WM_NEXTDLGCTL, 0, FALSE);
 }
 
-bool Control::Visible() const { return (GetWindowLongA(peer_->Window, GWL_STYLE) & WS_VISIBLE) != 0; }
+bool Control::Visible() const { return (GetWindowLongW(peer_->Window, GWL_STYLE) & WS_VISIBLE) != 0; }
 
 void Control::SetVisible(bool visible) {
   if (visible == Visible()) return;
-  if (!visible && HasFocus()) SendMessageA(peer_->Owner->PeerOf().Window, WM_NEXTDLGCTL, 0, FALSE);
+  if (!visible && HasFocus()) SendMessageW(peer_->Owner->PeerOf().Window, WM_NEXTDLGCTL, 0, FALSE);
   ShowWindow(peer_->Window, visible ? SW_SHOWNA : SW_HIDE);
 }
 
@@ -153,7 +154,7 @@ void Control::SetFocus() {
   if (!peer_->TakesFocus()) return;
   Form::Peer& form = peer_->Owner->PeerOf();
   if (form.Shown && GetActiveWindow() == form.Window) {
-    SendMessageA(form.Window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(peer_->Window), TRUE);
+    SendMessageW(form.Window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(peer_->Window), TRUE);
     form.RethrowCarried();
   } else if (form.Shown) {
     form.FocusMoved(this);  // gets it when the form becomes the active one
@@ -175,13 +176,19 @@ bool Control::Peer::TakesFocus() const {
 }
 
 bool Control::Peer::MultiLine() const {
-  return What == Kind::TextBox && (GetWindowLongA(Window, GWL_STYLE) & ES_MULTILINE) != 0;
+  return What == Kind::TextBox && (GetWindowLongW(Window, GWL_STYLE) & ES_MULTILINE) != 0;
+}
+
+void Control::Peer::Mark(HWND edit, int first, int last) {
+  const std::string text = TextOfWindow(edit);
+  const auto position = [&text](int bytes) { return WidePosition(text, static_cast<std::size_t>(bytes)); };
+  SendMessageW(edit, EM_SETSEL, position(first), static_cast<LPARAM>(position(last)));
 }
 
 void Control::Peer::ChangeStyle(DWORD add, DWORD remove) const {
-  const LONG_PTR before = GetWindowLongPtrA(Window, GWL_STYLE);
+  const LONG_PTR before = GetWindowLongPtrW(Window, GWL_STYLE);
   const LONG_PTR after = (before & ~static_cast<LONG_PTR>(remove)) | static_cast<LONG_PTR>(add);
-  if (after != before) SetWindowLongPtrA(Window, GWL_STYLE, after);
+  if (after != before) SetWindowLongPtrW(Window, GWL_STYLE, after);
 }
 
 LRESULT CALLBACK Control::Peer::Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
@@ -229,7 +236,7 @@ void Control::Peer::After(UINT message) {
   } else if (What == Kind::CheckList && message == WM_SETFOCUS) {
     // Natively no entry has the focus until an arrow key gives it to the first: the space bar would do nothing.
     if (Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) < 0) {
-      LVITEMA item{};
+      LVITEMW item{};
       item.state = item.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
       Send(LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&item));
     }

@@ -29,6 +29,7 @@ struct Control::Peer {
   std::string Told;                // text box, combo: the text as the program knows it
   int Selected = -1;               // lists: the selection as the program knows it
   bool Checked = false;            // option button, likewise
+  int TextLimit = 0;               // text box: in bytes; 0 for none
   std::vector<ListEntry> Entries;  // lists: a copy, for asking the native one takes long
   std::vector<bool> Ticks;         // check list: a copy, for asking the native one takes long
   bool Bold = false;
@@ -44,11 +45,12 @@ struct Control::Peer {
   bool HoldsEntries() const { return DropsDown() || What == Kind::ListBox; }
   bool MultiLine() const;
   LRESULT Send(UINT message, WPARAM first = 0, LPARAM second = 0) const {
-    return SendMessageA(Window, message, first, second);
+    return SendMessageW(Window, message, first, second);
   }
   void ChangeStyle(DWORD add, DWORD remove) const;
-  HWND EditField() const;  // the edit field of a combo
-  HWND DropList() const;   // the list of a drop-down
+  HWND EditField() const;                            // the edit field of a combo
+  HWND DropList() const;                             // the list of a drop-down
+  static void Mark(HWND edit, int first, int last);  // bytes of what the edit field holds
 
   // What the native control tells.
   void Commanded(int code);

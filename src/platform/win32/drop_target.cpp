@@ -6,18 +6,9 @@
 
 #include <string>
 
-namespace {
+#include "platform/win32/wide.h"
 
-// A name in the system's character set; empty when it has no such name.
-std::string Narrow(const std::wstring& wide) {
-  const int size = static_cast<int>(wide.size());
-  BOOL replaced = FALSE;
-  std::string text(2 * wide.size(), '\0');
-  const int length = WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, wide.data(), size, text.data(),
-                                         static_cast<int>(text.size()), nullptr, &replaced);
-  text.resize(replaced != FALSE ? 0 : static_cast<std::size_t>(length));
-  return text;
-}
+namespace {
 
 // The one file that is dragged; empty for anything else.
 std::string FileIn(IDataObject& data) {
@@ -31,7 +22,7 @@ std::string FileIn(IDataObject& data) {
     DragQueryFileW(files, 0, name.data(), static_cast<UINT>(name.size()) + 1);
   }
   ReleaseStgMedium(&medium);
-  return name.empty() ? std::string() : Narrow(name);
+  return name.empty() ? std::string() : Bytes(name);
 }
 
 class FileTarget : public IDropTarget {

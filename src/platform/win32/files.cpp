@@ -12,6 +12,7 @@
 
 #include "platform/line_reader.h"
 #include "platform/runtime_error.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
@@ -52,23 +53,28 @@ Stream& Opened(int handle, Files::Mode mode) {
   return *file;
 }
 
-// Turns away what the system would take for something else than a file of that name: an empty name, one
-// cut short by a NUL, and the devices (a document saved to "NUL" would be lost without a word).
-void CheckName(const std::string& name) {
-  if (name.find_first_not_of(' ') == std::string::npos) throw RuntimeError(kPathFileAccess);
-  if (name.find('\0') != std::string::npos) throw RuntimeError(kBadFileNumber);
-  std::string full_name(GetFullPathNameA(name.c_str(), 0, nullptr, nullptr), '\0');
-  if (!full_name.empty())
-    GetFullPathNameA(name.c_str(), static_cast<DWORD>(full_name.size()), full_name.data(), nullptr);
-  if (full_name.starts_with("\\\\.\\") || full_name.starts_with("\\\\?\\")) throw RuntimeError(kBadFileNumber);
+constexpr std::wstring_view kDevices = L"\\\\.\\", kLongForm = L"\\\\?\\";
+
+std::wstring FullNameOf(const std::wstring& name) {
+  return AskText([&](wchar_t* text, DWORD size) { return GetFullPathNameW(name.c_str(), size, text, nullptr); });
 }
 
-bool HasAttribute(const std::string& name, DWORD attribute) {
-  const DWORD attributes = GetFileAttributesA(name.c_str());
+// Turns away what the system would take for something else than a file of that name: an empty name, one
+// cut short by a NUL, and the devices (a document saved to "NUL" would be lost without a word).
+std::wstring CheckedName(const std::string& name) {
+  if (name.find_first_not_of(' ') == std::string::npos) throw RuntimeError(kPathFileAccess);
+  if (name.find('\0') != std::string::npos) throw RuntimeError(kBadFileNumber);
+  const std::wstring full_name = FullNameOf(Wide(name));
+  if (full_name.starts_with(kDevices) || full_name.starts_with(kLongForm)) throw RuntimeError(kBadFileNumber);
+  return SystemName(name);
+}
+
+bool HasAttribute(const std::wstring& name, DWORD attribute) {
+  const DWORD attributes = GetFileAttributesW(name.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
 }
 
-SystemFile OpenSystemFile(const std::string& name, Files::Mode mode) {
+SystemFile OpenSystemFile(const std::wstring& name, Files::Mode mode) {
   DWORD access = GENERIC_WRITE;
   DWORD sharing = FILE_SHARE_READ;
   DWORD creation = OPEN_EXISTING;
@@ -82,7 +88,7 @@ SystemFile OpenSystemFile(const std::string& name, Files::Mode mode) {
   }
   // Where the files lie on another kind of system, its administrator is let through; the flag counts all the same.
   if (mode != Files::Mode::Input && HasAttribute(name, FILE_ATTRIBUTE_READONLY)) Fail(ERROR_ACCESS_DENIED);
-  HANDLE file = CreateFileA(name.c_str(), access, sharing, nullptr, creation, flags, nullptr);
+  HANDLE file = CreateFileW(name.c_str(), access, sharing, nullptr, creation, flags, nullptr);
   if (file == INVALID_HANDLE_VALUE) Fail(GetLastError());
   return SystemFile(file);
 }
@@ -129,17 +135,15 @@ void Append(Stream& file, std::string_view bytes) {
 
 // Whether another try at renaming may succeed: virus scanners and indexers hold on to fresh files for a
 // moment. A file that is read-only, or away, stays so.
-bool MayPass(DWORD code, const std::string& name) {
+bool MayPass(DWORD code, const std::wstring& name) {
   if (code == ERROR_SHARING_VIOLATION || code == ERROR_LOCK_VIOLATION) return true;
   return code == ERROR_ACCESS_DENIED && !HasAttribute(name, FILE_ATTRIBUTE_READONLY);
 }
 
-void Move(const std::string& from, const std::string& to, DWORD flags) {
-  CheckName(from);
-  CheckName(to);
+void Move(const std::wstring& from, const std::wstring& to, DWORD flags) {
   if (HasAttribute(from, FILE_ATTRIBUTE_DIRECTORY)) throw RuntimeError(kPathFileAccess);
   const ULONGLONG start = GetTickCount64();
-  while (!MoveFileExA(from.c_str(), to.c_str(), flags)) {
+  while (!MoveFileExW(from.c_str(), to.c_str(), flags)) {
     const DWORD code = GetLastError();
     if (!MayPass(code, from) || GetTickCount64() - start >= kRenamePatience) Fail(code);
     Sleep(kRenamePause);
@@ -147,6 +151,18 @@ void Move(const std::string& from, const std::string& to, DWORD flags) {
 }
 
 }  // namespace
+
+std::wstring SystemName(std::string_view name) {
+  constexpr std::size_t kLongestName = MAX_PATH - 1;
+  std::wstring wide = Wide(name);
+  const std::wstring full_name = FullNameOf(wide);
+  if (full_name.size() <= kLongestName || full_name.starts_with(kDevices) || full_name.starts_with(kLongForm)) {
+    return wide;
+  }
+  // "\\server\folder" has another long form than "C:\folder".
+  const bool is_network = full_name.starts_with(L"\\\\");
+  return std::wstring(kLongForm) + (is_network ? L"UNC" + full_name.substr(1) : full_name);
+}
 
 namespace Files {
 
@@ -160,11 +176,10 @@ int FreeHandle() {
 void Open(int handle, const std::string& name, Mode mode) {
   auto& slot = Slot(handle);
   if (slot) throw RuntimeError(kBadFileNumber);
-  CheckName(name);
   auto file = std::make_unique<Stream>();
   file->Mode = mode;
   if (mode == Mode::Output) file->Pending.reserve(kPendingSize);  // first: opening empties the file
-  file->File = OpenSystemFile(name, mode);
+  file->File = OpenSystemFile(CheckedName(name), mode);
   if (mode == Mode::Input) file->Reader = std::make_unique<LineReader>(ReadFrom(file->File.get()));
   slot = std::move(file);
 }
@@ -179,8 +194,7 @@ std::string_view ReadLine(int handle) {
 }
 
 std::string ReadAll(const std::string& name) {
-  CheckName(name);
-  const SystemFile file = OpenSystemFile(name, Mode::Input);
+  const SystemFile file = OpenSystemFile(CheckedName(name), Mode::Input);
   LARGE_INTEGER size{};
   if (!GetFileSizeEx(file.get(), &size)) Fail(GetLastError());
   const auto read = ReadFrom(file.get());
@@ -239,32 +253,30 @@ void CloseAll() {
 }
 
 void Erase(const std::string& name) {
-  CheckName(name);
-  if (!DeleteFileA(name.c_str())) Fail(GetLastError());
+  if (!DeleteFileW(CheckedName(name).c_str())) Fail(GetLastError());
 }
 
-void Rename(const std::string& from, const std::string& to) { Move(from, to, 0); }
+void Rename(const std::string& from, const std::string& to) { Move(CheckedName(from), CheckedName(to), 0); }
 
 void Replace(const std::string& from, const std::string& to) {
   // As when opening a file for writing.
-  if (HasAttribute(to, FILE_ATTRIBUTE_READONLY)) Fail(ERROR_ACCESS_DENIED);
-  Move(from, to, MOVEFILE_REPLACE_EXISTING);
+  if (HasAttribute(SystemName(to), FILE_ATTRIBUTE_READONLY)) Fail(ERROR_ACCESS_DENIED);
+  Move(CheckedName(from), CheckedName(to), MOVEFILE_REPLACE_EXISTING);
 }
 
 std::uint64_t ChangedAt(const std::string& name) {
   WIN32_FILE_ATTRIBUTE_DATA told{};
-  if (!GetFileAttributesExA(name.c_str(), GetFileExInfoStandard, &told)) return 0;
+  if (!GetFileAttributesExW(SystemName(name).c_str(), GetFileExInfoStandard, &told)) return 0;
   return std::uint64_t{told.ftLastWriteTime.dwHighDateTime} << 32 | told.ftLastWriteTime.dwLowDateTime;
 }
 
 bool Exists(const std::string& name) {
   try {
-    CheckName(name);
+    const DWORD attributes = GetFileAttributesW(CheckedName(name).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
   } catch (const RuntimeError&) {
     return false;
   }
-  const DWORD attributes = GetFileAttributesA(name.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
 }  // namespace Files

@@ -9,6 +9,7 @@
 
 #include "platform/win32/internals.h"
 #include "platform/win32/keys.h"
+#include "platform/win32/wide.h"
 
 std::vector<Form*>& OpenForms() {
   static std::vector<Form*> forms;
@@ -88,15 +89,15 @@ void Dispatch(MSG& message) {
     Form::Peer& peer = form->PeerOf();
     const bool takes_keys = GetActiveWindow() == peer.Window && IsWindowEnabled(peer.Window);
     if (takes_keys && peer.Accelerators != nullptr &&
-        TranslateAcceleratorA(peer.Window, peer.Accelerators, &message) != 0) {
+        TranslateAcceleratorW(peer.Window, peer.Accelerators, &message) != 0) {
       return;
     }
     if (takes_keys && TellKey(peer, message)) return;
     if (TurnsDropDownUnasked(peer, message)) return;
-    if (IsDialogMessageA(peer.Window, &message)) return;
+    if (IsDialogMessageW(peer.Window, &message)) return;
   }
   TranslateMessage(&message);
-  DispatchMessageA(&message);
+  DispatchMessageW(&message);
 }
 
 void RethrowCarried() {
@@ -113,7 +114,7 @@ void ReactivateTopmost() {
 
 void Fault(const std::string& what) {
   std::fprintf(stderr, "%s\n", what.c_str());
-  OutputDebugStringA((what + "\r\n").c_str());
+  OutputDebugStringW(Wide(what + "\r\n").c_str());
   std::abort();
 }
 
@@ -125,7 +126,7 @@ Form::Form(int template_id) : peer_(std::make_unique<Peer>()) {
 Form::~Form() {
   peer_->Gone();
   peer_->TakesDrops.reset();
-  SetWindowLongPtrA(peer_->Window, DWLP_USER, 0);
+  SetWindowLongPtrW(peer_->Window, DWLP_USER, 0);
   DestroyWindow(peer_->Window);
   if (peer_->BoldFont != nullptr) DeleteObject(peer_->BoldFont);
 }
@@ -159,11 +160,11 @@ bool Form::Closed() const { return peer_->Closed; }
 bool Form::Covered() const { return peer_->Shown && TopmostForm() != this; }
 
 std::string Form::Caption() const { return TextOfWindow(peer_->Window); }
-void Form::SetCaption(std::string_view caption) { SetWindowTextA(peer_->Window, std::string(caption).c_str()); }
+void Form::SetCaption(std::string_view caption) { SetWindowTextW(peer_->Window, Wide(caption).c_str()); }
 
 void Form::Later(Event event) {
   peer_->Deferred.push_back(std::move(event));
-  PostMessageA(peer_->Window, WM_NULL, 0, 0);  // wakes the message loop
+  PostMessageW(peer_->Window, WM_NULL, 0, 0);  // wakes the message loop
 }
 
 void Form::Anchor(Control& control, const Follow& follow) { peer_->Sizes.Anchor(control.PeerOf().Window, follow); }
@@ -196,7 +197,7 @@ void Form::Peer::Appear(Form* owner) {
   HWND owner_window = owner == nullptr ? nullptr : owner->PeerOf().Window;
   Place(owner_window);
   if (Modal) {
-    SetWindowLongPtrA(Window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner_window));
+    SetWindowLongPtrW(Window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner_window));
     if (owner != nullptr && IsWindowEnabled(owner_window)) {
       Disabled = owner;
       EnableWindow(owner_window, FALSE);
@@ -222,7 +223,7 @@ void Form::Peer::GiveFirstFocus() {
   HWND first = Focus != nullptr && Focus->PeerOf().TakesFocus() ? Focus->PeerOf().Window
                                                                 : GetNextDlgTabItem(Window, nullptr, FALSE);
   if (first == nullptr) return;
-  SendMessageA(Window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+  SendMessageW(Window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
   Focus = Find(GetDlgCtrlID(first));
 }
 
@@ -237,7 +238,7 @@ void Form::Peer::Loop() {
   while (!Closed) {
     RethrowCarried();
     MSG message{};
-    if (GetMessageA(&message, nullptr, 0, 0) <= 0) {
+    if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
       // The program is to end: the loops below must see it too.
       if (Modal) PostQuitMessage(static_cast<int>(message.wParam));
       Gone();
@@ -265,7 +266,7 @@ void Form::Peer::Unload(UnloadMode mode) {
   } else {
     Gone();
   }
-  PostMessageA(Window, WM_NULL, 0, 0);  // wakes the message loop
+  PostMessageW(Window, WM_NULL, 0, 0);  // wakes the message loop
 }
 
 void Form::Peer::Gone() {
@@ -279,7 +280,7 @@ void Form::Peer::Gone() {
   }
   if (std::exchange(Shown, false)) ShowWindow(Window, SW_HIDE);
   // The form may outlive its owner, with which Windows would destroy it.
-  if (Modal) SetWindowLongPtrA(Window, GWLP_HWNDPARENT, 0);
+  if (Modal) SetWindowLongPtrW(Window, GWLP_HWNDPARENT, 0);
 }
 
 void Form::Peer::Activate() {
@@ -305,7 +306,7 @@ void Form::Peer::FocusMoved(Control* control) {
 // The first failure counts; what follows from it is dropped.
 void Form::Peer::Carry(std::exception_ptr failure) {
   if (!Carried) Carried = std::move(failure);
-  PostMessageA(Window, WM_NULL, 0, 0);  // wakes the message loop
+  PostMessageW(Window, WM_NULL, 0, 0);  // wakes the message loop
 }
 
 void Form::Peer::RethrowCarried() {

@@ -9,7 +9,7 @@ namespace {
 RECT WorkAreaAt(HMONITOR screen) {
   MONITORINFO monitor{};
   monitor.cbSize = sizeof monitor;
-  GetMonitorInfoA(screen, &monitor);
+  GetMonitorInfoW(screen, &monitor);
   return monitor.rcWork;
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/win32/internals.h"
 #include "platform/win32/surface_work.h"
+#include "platform/win32/wide.h"
 #include "resource.h"
 
 namespace {
@@ -21,9 +22,9 @@ void InitControlsOnce() {
 }
 
 void GiveIcon(HWND window, int size, WPARAM which) {
-  HANDLE icon = LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_Program), IMAGE_ICON, GetSystemMetrics(size),
+  HANDLE icon = LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_Program), IMAGE_ICON, GetSystemMetrics(size),
                            GetSystemMetrics(size), LR_SHARED);
-  if (icon != nullptr) SendMessageA(window, WM_SETICON, which, reinterpret_cast<LPARAM>(icon));
+  if (icon != nullptr) SendMessageW(window, WM_SETICON, which, reinterpret_cast<LPARAM>(icon));
 }
 
 // The system makes no form larger than the screen, with controls beyond its edge; what they follow is the template's
@@ -35,7 +36,7 @@ void TakeTemplateSize(HWND form, HINSTANCE program, int template_id) {
     WORD Items;
     short Left, Top, Width, Height;
   };
-  HRSRC place = FindResourceA(program, MAKEINTRESOURCEA(template_id), RT_DIALOG);
+  HRSRC place = FindResourceW(program, MAKEINTRESOURCEW(template_id), RT_DIALOG);
   const auto* header = static_cast<const Header*>(LockResource(LoadResource(program, place)));
   if (header == nullptr || (header->Style & WS_THICKFRAME) == 0) return;
   RECT rect{0, 0, header->Width, header->Height};
@@ -51,16 +52,16 @@ void TakeTemplateSize(HWND form, HINSTANCE program, int template_id) {
 void Form::Peer::Make(int template_id) {
   InitControlsOnce();
   Template = template_id;
-  const HINSTANCE program = GetModuleHandleA(nullptr);
+  const HINSTANCE program = GetModuleHandleW(nullptr);
   const Form* below = TopmostForm();
   Window =
-      CreateDialogParamA(program, MAKEINTRESOURCEA(template_id), below == nullptr ? nullptr : below->PeerOf().Window,
+      CreateDialogParamW(program, MAKEINTRESOURCEW(template_id), below == nullptr ? nullptr : below->PeerOf().Window,
                          &Procedure, reinterpret_cast<LPARAM>(this));
   if (Window == nullptr) Fault("There is no dialog template " + std::to_string(template_id));
   TakeTemplateSize(Window, program, template_id);
-  Accelerators = LoadAcceleratorsA(program, MAKEINTRESOURCEA(template_id));
+  Accelerators = LoadAcceleratorsW(program, MAKEINTRESOURCEW(template_id));
   AddMenu();
-  if ((GetWindowLongA(Window, GWL_STYLE) & DS_MODALFRAME) == 0) {
+  if ((GetWindowLongW(Window, GWL_STYLE) & DS_MODALFRAME) == 0) {
     GiveIcon(Window, SM_CXICON, ICON_BIG);
     GiveIcon(Window, SM_CXSMICON, ICON_SMALL);
   }
@@ -70,7 +71,7 @@ void Form::Peer::Make(int template_id) {
 // The menu of the template's number, where the template itself names none.
 void Form::Peer::AddMenu() {
   if (GetMenu(Window) != nullptr) return;
-  HMENU menu = LoadMenuA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(Template));
+  HMENU menu = LoadMenuW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(Template));
   if (menu == nullptr) return;
   RECT before{}, after{}, whole{};
   GetClientRect(Window, &before);
@@ -83,10 +84,10 @@ void Form::Peer::AddMenu() {
 
 HFONT Form::Peer::Bold() {
   if (BoldFont == nullptr) {
-    LOGFONTA font{};
-    GetObjectA(reinterpret_cast<HFONT>(SendMessageA(Window, WM_GETFONT, 0, 0)), sizeof font, &font);
+    LOGFONTW font{};
+    GetObjectW(reinterpret_cast<HFONT>(SendMessageW(Window, WM_GETFONT, 0, 0)), sizeof font, &font);
     font.lfWeight = FW_BOLD;
-    BoldFont = CreateFontIndirectA(&font);
+    BoldFont = CreateFontIndirectW(&font);
   }
   return BoldFont;
 }
@@ -102,15 +103,15 @@ void Form::Peer::RemakeFonts() {
 
 INT_PTR CALLBACK Form::Peer::Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
   if (message == WM_INITDIALOG) {
-    SetWindowLongPtrA(window, DWLP_USER, second);
+    SetWindowLongPtrW(window, DWLP_USER, second);
     return FALSE;
   }
-  Peer* peer = reinterpret_cast<Peer*>(GetWindowLongPtrA(window, DWLP_USER));
+  Peer* peer = reinterpret_cast<Peer*>(GetWindowLongPtrW(window, DWLP_USER));
   if (peer == nullptr || peer->Window == nullptr) return FALSE;
   bool handled = false;
   LRESULT result = 0;
   peer->Guard([&] { handled = peer->Handle(message, first, second, result); });
-  if (handled) SetWindowLongPtrA(window, DWLP_MSGRESULT, result);
+  if (handled) SetWindowLongPtrW(window, DWLP_MSGRESULT, result);
   return handled ? TRUE : FALSE;
 }
 
@@ -128,7 +129,7 @@ bool Form::Peer::Handle(UINT message, WPARAM first, LPARAM second, LRESULT& resu
     case WM_ACTIVATE:
       if (LOWORD(first) != WA_INACTIVE) {
         ToActivate = true;
-        PostMessageA(Window, kActivated, 0, 0);
+        PostMessageW(Window, kActivated, 0, 0);
       }
       return false;
     case kActivated:
@@ -152,7 +153,7 @@ bool Form::Peer::Handle(UINT message, WPARAM first, LPARAM second, LRESULT& resu
       return false;
     case WM_DPICHANGED:
       Sizes.BeginScaling(HIWORD(first));
-      PostMessageA(Window, kScaled, 0, 0);
+      PostMessageW(Window, kScaled, 0, 0);
       return false;  // the dialog manager scales
     case kScaled:
       Sizes.EndScaling();
@@ -168,7 +169,7 @@ void Form::Peer::Command(int id, int code) {
   if (Control* control = Find(id)) {
     control->PeerOf().Commanded(code);
     if (code == CBN_CLOSEUP && control->PeerOf().DropsDown()) {
-      PostMessageA(Window, kDroppedUp, static_cast<WPARAM>(id), 0);
+      PostMessageW(Window, kDroppedUp, static_cast<WPARAM>(id), 0);
     }
   } else if (id == IDOK) {
     Raise(Self->EnterKey);
@@ -205,7 +206,7 @@ void Form::SetShutdownReason(std::string_view reason) {
   if (reason.empty()) {
     ShutdownBlockReasonDestroy(peer_->Window);
   } else {
-    ShutdownBlockReasonCreate(peer_->Window, std::wstring(reason.begin(), reason.end()).c_str());
+    ShutdownBlockReasonCreate(peer_->Window, Wide(reason).c_str());
   }
 }
 
@@ -222,11 +223,12 @@ void Form::SetMenuText(int id, std::string_view text) {
   std::string& shown = peer_->MenuTexts[id];
   if (shown == text) return;
   shown = text;
-  MENUITEMINFOA entry{};
+  std::wstring words = Wide(text);
+  MENUITEMINFOW entry{};
   entry.cbSize = sizeof entry;
   entry.fMask = MIIM_STRING;
-  entry.dwTypeData = shown.data();
-  SetMenuItemInfoA(GetMenu(peer_->Window), static_cast<UINT>(id), FALSE, &entry);
+  entry.dwTypeData = words.data();
+  SetMenuItemInfoW(GetMenu(peer_->Window), static_cast<UINT>(id), FALSE, &entry);
 }
 
 std::string Form::MenuText(int id) const {

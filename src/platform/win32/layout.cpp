@@ -2,6 +2,7 @@
 #include "platform/win32/layout.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -14,16 +15,16 @@ RECT RectIn(HWND form, HWND control) {
   return rect;
 }
 
-bool HasClass(HWND control, const char* name) {
-  char found[32] = "";
-  GetClassNameA(control, found, sizeof found);
-  return lstrcmpiA(found, name) == 0;
+bool HasClass(HWND control, const wchar_t* name) {
+  wchar_t found[32] = L"";
+  GetClassNameW(control, found, static_cast<int>(std::size(found)));
+  return lstrcmpiW(found, name) == 0;
 }
 
 // The height of a drop-down is to be given with its list.
 LONG DroppedHeight(HWND combo) {
   RECT dropped{};
-  SendMessageA(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
+  SendMessageW(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
   return dropped.bottom - dropped.top;
 }
 
@@ -90,10 +91,10 @@ void Layout::Arrange() const {
     const RECT rect = Target(item, inside);
     const SIZE size = SizeOf(rect);
     LONG height = size.cy;
-    if (HasClass(item.Control, "ComboBox")) {
+    if (HasClass(item.Control, L"ComboBox")) {
       height = DroppedHeight(item.Control);
       Marks mark{item.Control};
-      SendMessageA(item.Control, CB_GETEDITSEL, reinterpret_cast<WPARAM>(&mark.First),
+      SendMessageW(item.Control, CB_GETEDITSEL, reinterpret_cast<WPARAM>(&mark.First),
                    reinterpret_cast<LPARAM>(&mark.Last));
       marks.push_back(mark);
     }
@@ -104,7 +105,7 @@ void Layout::Arrange() const {
   }
   EndDeferWindowPos(moves);
   for (const Marks& mark : marks) {
-    SendMessageA(mark.Combo, CB_SETEDITSEL, 0, MAKELPARAM(mark.First, mark.Last));
+    SendMessageW(mark.Combo, CB_SETEDITSEL, 0, MAKELPARAM(mark.First, mark.Last));
   }
 }
 
@@ -113,7 +114,7 @@ void Layout::Limit(MINMAXINFO& limits) const {
   if (items_.empty() || scaling_) return;
   MONITORINFO monitor{};
   monitor.cbSize = sizeof monitor;
-  GetMonitorInfoA(MonitorFromWindow(form_, MONITOR_DEFAULTTONEAREST), &monitor);
+  GetMonitorInfoW(MonitorFromWindow(form_, MONITOR_DEFAULTTONEAREST), &monitor);
   const SIZE room = SizeOf(monitor.rcWork);
   limits.ptMinTrackSize = {std::min(smallest_.cx, room.cx), std::min(smallest_.cy, room.cy)};
 }

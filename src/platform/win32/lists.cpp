@@ -6,6 +6,7 @@
 
 #include "platform/win32/internals.h"
 #include "platform/win32/silence.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
@@ -31,9 +32,9 @@ void WidenDropList(const Control::Peer& peer) {
   HGDIOBJ font = SelectObject(screen, reinterpret_cast<HFONT>(peer.Send(WM_GETFONT)));
   LONG widest = 0;
   for (std::size_t index = 0; index < std::min(peer.Entries.size(), kMeasured); ++index) {
-    const std::string& text = peer.Entries[index].Text;
+    const std::wstring text = Wide(peer.Entries[index].Text);
     SIZE size{};
-    GetTextExtentPoint32A(screen, text.c_str(), static_cast<int>(text.size()), &size);
+    GetTextExtentPoint32W(screen, text.c_str(), static_cast<int>(text.size()), &size);
     widest = std::max(widest, size.cx);
   }
   SelectObject(screen, font);
@@ -61,7 +62,7 @@ class Editor {
 
   void Insert(std::size_t position, const ListEntry& entry) {
     // Without the way through the drop-down, which doubles the time.
-    SendMessageA(list_, LB_INSERTSTRING, position, reinterpret_cast<LPARAM>(entry.Text.c_str()));
+    SendMessageW(list_, LB_INSERTSTRING, position, reinterpret_cast<LPARAM>(Wide(entry.Text).c_str()));
   }
 
   void Replace(const Entries& entries) {
@@ -118,7 +119,7 @@ void ListControl::Fill(std::vector<ListEntry> entries) {
   peer.Send(VerbsOf(peer).Select, static_cast<WPARAM>(-1));
   peer.Selected = -1;
   if (peer.What == Peer::Kind::ComboBox) {
-    SetWindowTextA(peer.Window, "");
+    SetWindowTextW(peer.Window, L"");
     peer.Told.clear();
   }
   if (!visible) return;
@@ -147,9 +148,7 @@ int ListControl::SelectedData(int none) const {
   return Selected() < 0 ? none : Entries()[static_cast<std::size_t>(Selected())].Data;
 }
 
-void ComboBox::SelectText(int first, int last) {
-  SendMessageA(PeerOf().EditField(), EM_SETSEL, static_cast<WPARAM>(first), last);
-}
+void ComboBox::SelectText(int first, int last) { PeerOf().Mark(PeerOf().EditField(), first, last); }
 
 HWND Control::Peer::EditField() const {
   COMBOBOXINFO parts{};
@@ -203,7 +202,7 @@ void Control::Peer::DroppedUp() {
   if (What != Kind::ComboBox || Send(CB_GETDROPPEDSTATE) != FALSE) return;
   const Silence silence(*this);
   if (static_cast<int>(Send(CB_GETCURSEL)) != Selected) {
-    SendMessageA(DropList(), LB_SETCURSEL, static_cast<WPARAM>(Selected), 0);
+    SendMessageW(DropList(), LB_SETCURSEL, static_cast<WPARAM>(Selected), 0);
   }
-  if (TextOfWindow(Window) != Told) SetWindowTextA(Window, Told.c_str());
+  if (TextOfWindow(Window) != Told) SetWindowTextW(Window, Wide(Told).c_str());
 }

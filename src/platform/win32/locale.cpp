@@ -6,8 +6,10 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <optional>
 
 #include "platform/iso_date.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
@@ -19,25 +21,39 @@ CapitalTable MakeCapitals() {
   CapitalTable capitals{};
   for (std::size_t code = 0; code < capitals.size(); ++code) {
     const char character = static_cast<char>(code);
-    capitals[code] = character;
-    wchar_t wide = 0;
-    if (MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, &character, 1, &wide, 1) != 1) continue;
+    wchar_t wide = SystemPage().CharacterOf(character);
     CharUpperBuffW(&wide, 1);
-    std::array<char, 8> narrow{};
-    BOOL replaced = FALSE;
-    const int size = WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, &wide, 1, narrow.data(),
-                                         static_cast<int>(narrow.size()), nullptr, &replaced);
-    if (size == 1 && !replaced) capitals[code] = narrow[0];
+    capitals[code] = SystemPage().ByteOf(wide).value_or(character);
   }
   return capitals;
 }
 
+// Which character of the page each byte is, as the system says.
+CodePage AskForPage() {
+  constexpr UINT kWesternEurope = 1252;
+  CPINFO page{};
+  const bool is_single_byte = GetCPInfo(CP_ACP, &page) && page.MaxCharSize == 1;
+  std::array<char16_t, 256> characters{};
+  for (std::size_t code = 0; code < characters.size(); ++code) {
+    const char byte = static_cast<char>(code);
+    wchar_t wide = 0;
+    MultiByteToWideChar(is_single_byte ? CP_ACP : kWesternEurope, 0, &byte, 1, &wide, 1);
+    characters[code] = wide;
+  }
+  return CodePage(characters);
+}
+
 }  // namespace
 
+const CodePage& SystemPage() {
+  static const CodePage kPage = AskForPage();
+  return kPage;
+}
+
 char DecimalSeparator() {
-  std::array<char, 16> text{};
-  GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, text.data(), static_cast<int>(text.size()));
-  return std::find(text.begin(), text.end(), ',') == text.end() ? '.' : ',';
+  std::array<wchar_t, 16> text{};
+  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, text.data(), static_cast<int>(text.size()));
+  return std::find(text.begin(), text.end(), L',') == text.end() ? '.' : ',';
 }
 
 char UpperCase(char character) {
@@ -60,8 +76,8 @@ CapitalTable MakePlainLetters() {
   for (std::size_t code = 0; code < plain.size(); ++code) {
     const char character = static_cast<char>(code);
     plain[code] = character;
-    const int length = MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, &character, 1, &wide[code], 1);
-    if (length != 1 || IsCharAlphaW(wide[code]) == FALSE) wide[code] = 0;
+    wide[code] = SystemPage().CharacterOf(character);
+    if (IsCharAlphaW(wide[code]) == FALSE) wide[code] = 0;
     for (std::size_t before = 0; wide[code] != 0 && before < code; ++before) {
       if (wide[before] == 0 || static_cast<unsigned char>(plain[before]) != before) continue;
       const DWORD flags = NORM_IGNORECASE | NORM_IGNORENONSPACE;
@@ -85,10 +101,10 @@ std::string ShortDate(int year, unsigned month, unsigned day) {
   date.wYear = static_cast<WORD>(year);
   date.wMonth = static_cast<WORD>(month);
   date.wDay = static_cast<WORD>(day);
-  std::array<char, 80> text{};
-  if (year < kFirstKnownYear || GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &date, nullptr, text.data(),
+  std::array<wchar_t, 80> text{};
+  if (year < kFirstKnownYear || GetDateFormatW(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &date, nullptr, text.data(),
                                                static_cast<int>(text.size())) == 0) {
     return IsoDate(year, month, day);
   }
-  return text.data();
+  return Bytes(text.data());
 }

@@ -1,6 +1,7 @@
 // Drawing a button with another background: no style of the system offers it, themed or not.
 #include "platform/win32/internals.h"
 #include "platform/win32/photo.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
@@ -17,9 +18,9 @@ COLORREF Tint(COLORREF color, COLORREF ground) {
 
 // In high contrast no colour but the system's own may be used; otherwise the full highlight would shout.
 Colors MarkedColors() {
-  HIGHCONTRASTA contrast{};
+  HIGHCONTRASTW contrast{};
   contrast.cbSize = sizeof contrast;
-  SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
+  SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
   if ((contrast.dwFlags & HCF_HIGHCONTRASTON) != 0) {
     return {GetSysColor(COLOR_HIGHLIGHT), GetSysColor(COLOR_HIGHLIGHTTEXT)};
   }
@@ -27,12 +28,12 @@ Colors MarkedColors() {
 }
 
 void DrawMarked(HWND window, HDC target, RECT rect) {
-  const LRESULT state = SendMessageA(window, BM_GETSTATE, 0, 0);
-  const LRESULT hidden = SendMessageA(window, WM_QUERYUISTATE, 0, 0);
+  const LRESULT state = SendMessageW(window, BM_GETSTATE, 0, 0);
+  const LRESULT hidden = SendMessageW(window, WM_QUERYUISTATE, 0, 0);
   const bool enabled = IsWindowEnabled(window) != FALSE;
   const bool pushed = (state & BST_PUSHED) != 0;
   const bool focused = (state & BST_FOCUS) != 0;
-  const bool is_default = (GetWindowLongA(window, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+  const bool is_default = (GetWindowLongW(window, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
   const Colors colors = MarkedColors();
 
   HBRUSH fill = CreateSolidBrush(colors.Fill);
@@ -47,13 +48,13 @@ void DrawMarked(HWND window, HDC target, RECT rect) {
 
   RECT words = rect;
   if (pushed) OffsetRect(&words, 1, 1);
-  const std::string text = TextOfWindow(window);
+  const std::wstring text = Wide(TextOfWindow(window));
   UINT format = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
   if ((hidden & UISF_HIDEACCEL) != 0) format |= DT_HIDEPREFIX;
-  HGDIOBJ font = SelectObject(target, reinterpret_cast<HFONT>(SendMessageA(window, WM_GETFONT, 0, 0)));
+  HGDIOBJ font = SelectObject(target, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
   SetBkMode(target, TRANSPARENT);
   SetTextColor(target, enabled ? colors.Text : GetSysColor(COLOR_GRAYTEXT));
-  DrawTextA(target, text.c_str(), static_cast<int>(text.size()), &words, format);
+  DrawTextW(target, text.c_str(), static_cast<int>(text.size()), &words, format);
   if (focused && (hidden & UISF_HIDEFOCUS) == 0) {
     SetTextColor(target, GetSysColor(COLOR_BTNTEXT));
     DrawFocusRect(target, &rect);

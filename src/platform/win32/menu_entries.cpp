@@ -2,17 +2,11 @@
 #include <string>
 
 #include "platform/win32/internals.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
 constexpr UINT kSeparator = 0xEFFF;  // the id of the one behind the entries
-
-std::wstring Wide(const std::string& text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');
-  if (size > 0) MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size);
-  return wide;
-}
 
 }  // namespace
 

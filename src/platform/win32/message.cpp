@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/win32/internals.h"
+#include "platform/win32/wide.h"
 #include "resource.h"
 
 namespace {
@@ -68,9 +69,8 @@ void InputForm::GrowFor(std::string_view prompt) {
   GetClientRect(label, &inside);
   RECT needed = inside;
   HDC screen = GetDC(label);
-  HGDIOBJ font = SelectObject(screen, reinterpret_cast<HFONT>(SendMessageA(label, WM_GETFONT, 0, 0)));
-  DrawTextA(screen, prompt.data(), static_cast<int>(prompt.size()), &needed,
-            DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX | DT_EXPANDTABS);
+  HGDIOBJ font = SelectObject(screen, reinterpret_cast<HFONT>(SendMessageW(label, WM_GETFONT, 0, 0)));
+  DrawTextW(screen, Wide(prompt).c_str(), -1, &needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX | DT_EXPANDTABS);
   SelectObject(screen, font);
   ReleaseDC(label, screen);
   const LONG growth = needed.bottom - inside.bottom;
@@ -97,8 +97,8 @@ Answer MsgBox(std::string_view text, std::string_view caption, Buttons buttons, 
   UINT flags = FlagsOf(buttons, icon);
   if (default_button == DefaultButton::Last && buttons != Buttons::Ok) flags |= MB_DEFBUTTON2;
   if (owner == nullptr) flags |= MB_TASKMODAL | MB_SETFOREGROUND;
-  const int pressed = MessageBoxA(owner == nullptr ? nullptr : owner->PeerOf().Window, std::string(text).c_str(),
-                                  std::string(caption).c_str(), flags);
+  const int pressed = MessageBoxW(owner == nullptr ? nullptr : owner->PeerOf().Window, Wide(text).c_str(),
+                                  Wide(caption).c_str(), flags);
   ReactivateTopmost();
   return AnswerOf(pressed, buttons);
 }

@@ -7,18 +7,18 @@
 
 namespace {
 
-constexpr const char* kFaces[] = {"Consolas", "Courier New", "Lucida Console"};
+constexpr const wchar_t* kFaces[] = {L"Consolas", L"Courier New", L"Lucida Console"};
 constexpr double kRuleWidth = 0.4;  // points
 
-bool HasFace(const char* face) {
-  LOGFONTA wanted{};
+bool HasFace(const wchar_t* face) {
+  LOGFONTW wanted{};
   wanted.lfCharSet = DEFAULT_CHARSET;
-  lstrcpynA(wanted.lfFaceName, face, LF_FACESIZE);
+  lstrcpynW(wanted.lfFaceName, face, LF_FACESIZE);
   HDC screen = GetDC(nullptr);
   bool found = false;
-  EnumFontFamiliesExA(
+  EnumFontFamiliesExW(
       screen, &wanted,
-      [](const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM result) {
+      [](const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM result) {
         *reinterpret_cast<bool*>(result) = true;
         return 0;
       },
@@ -28,10 +28,10 @@ bool HasFace(const char* face) {
 }
 
 // The first of the faces that is there; empty when the system is to choose.
-const char* Face() {
-  static const char* const kFace = [] {
+const wchar_t* Face() {
+  static const wchar_t* const kFace = [] {
     const auto* found = std::find_if(std::begin(kFaces), std::end(kFaces), HasFace);
-    return found == std::end(kFaces) ? "" : *found;
+    return found == std::end(kFaces) ? L"" : *found;
   }();
   return kFace;
 }
@@ -41,15 +41,15 @@ int Round(double value) { return static_cast<int>(std::lround(value)); }
 }  // namespace
 
 HFONT MakeFixedFont(int height, int width) {
-  LOGFONTA font{};
+  LOGFONTW font{};
   font.lfHeight = -std::max(1, height);
   font.lfWidth = width;
   font.lfWeight = FW_NORMAL;
   font.lfCharSet = DEFAULT_CHARSET;
   font.lfQuality = CLEARTYPE_QUALITY;
   font.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
-  lstrcpynA(font.lfFaceName, Face(), LF_FACESIZE);
-  return CreateFontIndirectA(&font);
+  lstrcpynW(font.lfFaceName, Face(), LF_FACESIZE);
+  return CreateFontIndirectW(&font);
 }
 
 void DrawOnPaper(HDC target, const Page& page, const Sheet& sheet, const OnDevice& place) {
@@ -64,13 +64,11 @@ void DrawOnPaper(HDC target, const Page& page, const Sheet& sheet, const OnDevic
   HGDIOBJ font_before = SelectObject(target, font.Get());
   SetBkMode(target, TRANSPARENT);
   SetTextColor(target, RGB(0, 0, 0));
-  std::vector<INT> steps;
   for (const TextRun& run : page.Runs) {
-    steps.clear();
-    const int first = run.At.Column, count = static_cast<int>(run.Text.size());
-    for (int column = first; column < first + count; ++column) steps.push_back(x_of(column + 1) - x_of(column));
-    ExtTextOutA(target, x_of(first), y_of(run.At.Row), 0, nullptr, run.Text.data(), static_cast<UINT>(count),
-                steps.data());
+    const int first = run.At.Column;
+    const CellText cells = InCells(run, [&](int cell) { return x_of(first + cell + 1) - x_of(first + cell); });
+    ExtTextOutW(target, x_of(first), y_of(run.At.Row), 0, nullptr, cells.Text.c_str(),
+                static_cast<UINT>(cells.Text.size()), cells.Steps.data());
   }
   SelectObject(target, font_before);
   const int wide = std::max(1, Round(kRuleWidth * place.AcrossPoint));

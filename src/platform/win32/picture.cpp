@@ -8,6 +8,7 @@
 #include "platform/runtime_error.h"
 #include "platform/win32/internals.h"
 #include "platform/win32/photo.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
@@ -114,8 +115,9 @@ Com<IWICBitmapSource> Turned(Com<IWICBitmapSource> source, int orientation) {
 }
 
 std::vector<BYTE> BytesOf(const std::string& name) {
-  HANDLE file = CreateFileA(name.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  HANDLE file =
+      CreateFileW(SystemName(name).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) throw RuntimeError(ErrorNumberOfSystemCode(GetLastError()));
   LARGE_INTEGER size{};
   std::vector<BYTE> bytes;
@@ -133,7 +135,7 @@ std::vector<BYTE> BytesOf(const std::string& name) {
 FileState StateOf(const std::string& name) {
   const auto join = [](DWORD high, DWORD low) { return (static_cast<ULONGLONG>(high) << 32) | low; };
   WIN32_FILE_ATTRIBUTE_DATA data{};
-  if (!GetFileAttributesExA(name.c_str(), GetFileExInfoStandard, &data)) return {name};
+  if (!GetFileAttributesExW(SystemName(name).c_str(), GetFileExInfoStandard, &data)) return {name};
   return {name, join(data.nFileSizeHigh, data.nFileSizeLow),
           join(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime)};
 }
@@ -146,7 +148,7 @@ class WaitCursor {
   WaitCursor& operator=(const WaitCursor&) = delete;
 
  private:
-  HCURSOR before_ = SetCursor(LoadCursorA(nullptr, IDC_WAIT));
+  HCURSOR before_ = SetCursor(LoadCursorW(nullptr, IDC_WAIT));
 };
 
 // Opened as every other file first, for the same refusals.

@@ -7,10 +7,12 @@
 #include <commdlg.h>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 
 #include "platform/runtime_error.h"
 #include "platform/win32/page_draw.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
@@ -29,8 +31,8 @@ using Device = std::unique_ptr<HDC, DeviceCloser>;
 HGLOBAL chosen_mode = nullptr;
 HGLOBAL chosen_names = nullptr;
 
-PRINTDLGA DialogWith(DWORD flags) {
-  PRINTDLGA dialog{};
+PRINTDLGW DialogWith(DWORD flags) {
+  PRINTDLGW dialog{};
   dialog.lStructSize = sizeof dialog;
   dialog.hwndOwner = GetActiveWindow();
   dialog.Flags = flags;
@@ -39,8 +41,8 @@ PRINTDLGA DialogWith(DWORD flags) {
 
 void FindDefaultPrinter() {
   if (chosen_names != nullptr) return;
-  PRINTDLGA dialog = DialogWith(PD_RETURNDEFAULT | PD_NOWARNING);
-  if (!PrintDlgA(&dialog)) return;
+  PRINTDLGW dialog = DialogWith(PD_RETURNDEFAULT | PD_NOWARNING);
+  if (!PrintDlgW(&dialog)) return;
   chosen_mode = dialog.hDevMode;
   chosen_names = dialog.hDevNames;
 }
@@ -50,9 +52,9 @@ Device OpenPrinterDevice() {
   FindDefaultPrinter();
   if (chosen_names == nullptr) return nullptr;
   const auto* names = static_cast<const DEVNAMES*>(GlobalLock(chosen_names));
-  const auto* mode = chosen_mode == nullptr ? nullptr : static_cast<const DEVMODEA*>(GlobalLock(chosen_mode));
-  const char* text = reinterpret_cast<const char*>(names);
-  Device device(CreateDCA(text + names->wDriverOffset, text + names->wDeviceOffset, nullptr, mode));
+  const auto* mode = chosen_mode == nullptr ? nullptr : static_cast<const DEVMODEW*>(GlobalLock(chosen_mode));
+  const auto* text = reinterpret_cast<const wchar_t*>(names);
+  Device device(CreateDCW(text + names->wDriverOffset, text + names->wDeviceOffset, nullptr, mode));
   if (mode != nullptr) GlobalUnlock(chosen_mode);
   GlobalUnlock(chosen_names);
   return device;
@@ -61,9 +63,9 @@ Device OpenPrinterDevice() {
 // A4, or Letter where that is in use.
 Sheet CommonSheet() {
   Sheet sheet;
-  char paper[8] = "";
-  GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_IPAPERSIZE, paper, sizeof paper);
-  if (paper[0] == '1') {
+  wchar_t paper[8] = L"";
+  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IPAPERSIZE, paper, static_cast<int>(std::size(paper)));
+  if (paper[0] == L'1') {
     sheet.Width = 612;
     sheet.Height = 792;
   }
@@ -93,7 +95,7 @@ Sheet PrinterSheet() {
 }
 
 bool ChoosePrinter(int pages, PrintRange& range) {
-  PRINTDLGA dialog = DialogWith(PD_NOWARNING | PD_ALLPAGES | PD_NOSELECTION | PD_USEDEVMODECOPIESANDCOLLATE);
+  PRINTDLGW dialog = DialogWith(PD_NOWARNING | PD_ALLPAGES | PD_NOSELECTION | PD_USEDEVMODECOPIESANDCOLLATE);
   dialog.hDevMode = chosen_mode;
   dialog.hDevNames = chosen_names;
   dialog.nMinPage = 1;
@@ -101,7 +103,7 @@ bool ChoosePrinter(int pages, PrintRange& range) {
   dialog.nFromPage = 1;
   dialog.nToPage = dialog.nMaxPage;
   dialog.nCopies = 1;
-  if (!PrintDlgA(&dialog)) {
+  if (!PrintDlgW(&dialog)) {
     if (CommDlgExtendedError() != 0) FailPrinting();
     return false;
   }
@@ -123,10 +125,11 @@ PrintJob::PrintJob(const std::string& title, const Sheet& sheet) : peer_(std::ma
   peer_->Paper = sheet;
   peer_->Printer = OpenPrinterDevice();
   if (!peer_->Printer) FailPrinting();
-  DOCINFOA document{};
+  const std::wstring name = Wide(title);
+  DOCINFOW document{};
   document.cbSize = sizeof document;
-  document.lpszDocName = title.c_str();
-  peer_->Started = StartDocA(peer_->Printer.get(), &document) > 0;
+  document.lpszDocName = name.c_str();
+  peer_->Started = StartDocW(peer_->Printer.get(), &document) > 0;
   if (peer_->Started) return;
   // A printer into a file asks for its name, and may get none.
   const DWORD code = GetLastError();

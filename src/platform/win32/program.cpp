@@ -7,25 +7,13 @@
 
 #include "platform/files.h"
 #include "platform/win32/end_hook.h"
+#include "platform/win32/wide.h"
 
 void (*EndHook)() = nullptr;
 
 namespace {
 
 constexpr const char* kBlanks = " \t";
-
-// Asks the system for a text of unknown length: `ask` fills a buffer and returns the text's length, or at
-// least the buffer's size when that was too small.
-template <typename Ask>
-std::string AskText(Ask ask) {
-  std::string text(MAX_PATH, '\0');
-  for (;;) {
-    const DWORD size = ask(text.data(), static_cast<DWORD>(text.size()));
-    const bool fits = size < text.size();
-    text.resize(fits ? size : text.size() * 2);
-    if (fits) return text;
-  }
-}
 
 // A folder without a trailing separator, unless it is a drive's root.
 std::string WithoutSeparator(std::string folder) {
@@ -36,7 +24,7 @@ std::string WithoutSeparator(std::string folder) {
 }  // namespace
 
 std::string CommandLineText() {
-  const std::string line = GetCommandLineA();
+  const std::string line = Bytes(GetCommandLineW());
   const bool quoted = line.starts_with('"');
   const std::size_t end = quoted ? line.find('"', 1) : line.find_first_of(kBlanks);
   if (end == std::string::npos) return {};
@@ -46,30 +34,32 @@ std::string CommandLineText() {
 }
 
 std::string ProgramFolder() {
-  const std::string name = AskText([](char* text, DWORD size) { return GetModuleFileNameA(nullptr, text, size); });
+  const std::string name =
+      Bytes(AskText([](wchar_t* text, DWORD size) { return GetModuleFileNameW(nullptr, text, size); }));
   return WithoutSeparator(name.substr(0, name.rfind('\\') + 1));
 }
 
 std::string CurrentFolder() {
-  return WithoutSeparator(AskText([](char* text, DWORD size) { return GetCurrentDirectoryA(size, text); }));
+  return WithoutSeparator(Bytes(AskText([](wchar_t* text, DWORD size) { return GetCurrentDirectoryW(size, text); })));
 }
 
 std::string DocumentsFolder() {
-  char folder[MAX_PATH] = "";
-  if (FAILED(SHGetFolderPathA(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, folder))) return {};
-  return WithoutSeparator(folder);
+  wchar_t folder[MAX_PATH] = L"";
+  if (FAILED(SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, folder))) return {};
+  return WithoutSeparator(Bytes(folder));
 }
 
 std::string TemporaryFolder() {
-  return WithoutSeparator(AskText([](char* text, DWORD size) { return GetTempPathA(size, text); }));
+  return WithoutSeparator(Bytes(AskText([](wchar_t* text, DWORD size) { return GetTempPathW(size, text); })));
 }
 
 std::optional<std::string> EnvironmentValue(const std::string& name) {
+  const std::wstring wide_name = Wide(name);
   SetLastError(ERROR_SUCCESS);
-  std::string value =
-      AskText([&](char* text, DWORD size) { return GetEnvironmentVariableA(name.c_str(), text, size); });
+  const std::wstring value =
+      AskText([&](wchar_t* text, DWORD size) { return GetEnvironmentVariableW(wide_name.c_str(), text, size); });
   if (value.empty() && GetLastError() != ERROR_SUCCESS) return std::nullopt;
-  return value;
+  return Bytes(value);
 }
 
 std::chrono::year_month_day Today() {

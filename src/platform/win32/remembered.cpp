@@ -2,12 +2,11 @@
 #include <windows.h>
 
 #include "platform/registry.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
 constexpr const wchar_t* kKey = L"Software\\Larkspur Filer";
-
-std::wstring Wide(const std::string& text) { return {text.begin(), text.end()}; }
 
 }  // namespace
 
@@ -24,5 +23,5 @@ std::string Remembered(const std::string& name) {
       RegGetValueW(HKEY_CURRENT_USER, kKey, Wide(name).c_str(), RRF_RT_REG_SZ, nullptr, value.data(), &size);
   if (status != ERROR_SUCCESS) return {};
   value.resize(value.find(L'\0'));
-  return {value.begin(), value.end()};
+  return Bytes(value);
 }

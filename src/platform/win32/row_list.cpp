@@ -4,17 +4,7 @@
 
 #include "platform/lists.h"
 #include "platform/win32/internals.h"
-
-namespace {
-
-std::wstring Wide(const std::string& text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');
-  if (size > 0) MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size);
-  return wide;
-}
-
-}  // namespace
+#include "platform/win32/wide.h"
 
 void Control::Peer::BeginRowList() {
   ChangeStyle(LVS_OWNERDATA | LVS_NOSORTHEADER, 0);

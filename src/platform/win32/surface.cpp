@@ -18,7 +18,7 @@ bool IsDown(int key) { return GetKeyState(key) < 0; }
 
 int Setting(UINT which, int otherwise) {
   UINT value = 0;
-  return SystemParametersInfoA(which, 0, &value, 0) ? static_cast<int>(std::min(value, 0x7FFFU)) : otherwise;
+  return SystemParametersInfoW(which, 0, &value, 0) ? static_cast<int>(std::min(value, 0x7FFFU)) : otherwise;
 }
 
 // Rounds down also below 0, where the mouse is left of the window or above it.
@@ -31,13 +31,13 @@ int BarOf(Surface::Bar bar) { return bar == Surface::Bar::Across ? SB_HORZ : SB_
 }  // namespace
 
 void RegisterSurfaceClass() {
-  WNDCLASSA kind{};
+  WNDCLASSW kind{};
   kind.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
-  kind.lpfnWndProc = DefWindowProcA;
-  kind.hInstance = GetModuleHandleA(nullptr);
-  kind.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+  kind.lpfnWndProc = DefWindowProcW;
+  kind.hInstance = GetModuleHandleW(nullptr);
+  kind.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   kind.lpszClassName = kSurfaceClass;
-  RegisterClassA(&kind);
+  RegisterClassW(&kind);
 }
 
 int Surface::Columns() const { return PeerOf().Work->Columns; }
@@ -92,10 +92,10 @@ void SurfaceWork::MeasureCells() {
   font_ = MakeFixedFont(static_cast<int>(TextSize * GetDpiForWindow(Window()) / 72 + 0.5), 0);
   HDC screen = GetDC(Window());
   HGDIOBJ before = SelectObject(screen, font_);
-  TEXTMETRICA metrics{};
-  GetTextMetricsA(screen, &metrics);
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(screen, &metrics);
   SIZE digit{};
-  GetTextExtentPoint32A(screen, "0", 1, &digit);
+  GetTextExtentPoint32W(screen, L"0", 1, &digit);
   SelectObject(screen, before);
   ReleaseDC(Window(), screen);
   cell_ = {std::max(1L, digit.cx), std::max(1L, metrics.tmHeight)};
@@ -151,7 +151,7 @@ bool SurfaceWork::Take(UINT message, WPARAM first, LPARAM second, LRESULT& resul
       return true;
     case WM_SETCURSOR:
       if (LOWORD(second) != HTCLIENT || Paper) return false;
-      SetCursor(LoadCursorA(nullptr, IDC_IBEAM));
+      SetCursor(LoadCursorW(nullptr, IDC_IBEAM));
       result = TRUE;
       return true;
     case WM_KEYDOWN:

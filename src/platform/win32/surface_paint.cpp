@@ -1,6 +1,5 @@
 // Drawing a surface: all of it anew, in memory first, so that nothing flickers.
 #include <algorithm>
-#include <vector>
 
 #include "platform/win32/internals.h"
 #include "platform/win32/surface_work.h"
@@ -10,9 +9,9 @@ namespace {
 constexpr COLORREF kHitGround = RGB(255, 224, 102), kHitText = RGB(0, 0, 0);
 
 bool HighContrast() {
-  HIGHCONTRASTA contrast{};
+  HIGHCONTRASTW contrast{};
   contrast.cbSize = sizeof contrast;
-  SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
+  SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
   return (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
@@ -72,12 +71,12 @@ void SurfaceWork::DrawRun(HDC target, const TextRun& run) const {
     ground = kHitGround;
     ink = kHitText;
   }
-  const RECT rect = RectOf(run.At, static_cast<int>(run.Text.size()));
+  const CellText cells = InCells(run, [this](int) { return static_cast<INT>(cell_.cx); });
+  const RECT rect = RectOf(run.At, cells.Cells);
   SetBkColor(target, ground);
   SetTextColor(target, ink);
-  const std::vector<INT> steps(run.Text.size(), static_cast<INT>(cell_.cx));
-  ExtTextOutA(target, rect.left, rect.top, ETO_OPAQUE | ETO_CLIPPED, &rect, run.Text.data(),
-              static_cast<UINT>(run.Text.size()), steps.data());
+  ExtTextOutW(target, rect.left, rect.top, ETO_OPAQUE | ETO_CLIPPED, &rect, cells.Text.c_str(),
+              static_cast<UINT>(cells.Text.size()), cells.Steps.data());
   // In high contrast no colour but the system's own may be used.
   if (framed) FrameRect(target, &rect, GetSysColorBrush(COLOR_HIGHLIGHT));
 }

@@ -9,7 +9,7 @@
 #include "platform/win32/page_draw.h"
 
 // The name of the class in the templates; it must be registered before a template uses it.
-inline constexpr const char* kSurfaceClass = "LarkspurSurface";
+inline constexpr const wchar_t* kSurfaceClass = L"LarkspurSurface";
 void RegisterSurfaceClass();
 
 class SurfaceWork {

@@ -5,6 +5,7 @@
 
 #include "platform/headless/internals.h"
 #include "platform/headless/machine.h"
+#include "platform/references.h"
 #include "support/files.h"
 #include "support/listener.h"
 #include "support/page_text.h"
@@ -100,7 +101,8 @@ void Hands::MoveTo(Control& control) { control.SetFocus(); }
 
 void Hands::Type(Control& box, const std::string& text) {
   Control::Peer& peer = box.PeerOf();
-  peer.ChangeText(peer.TextLimit > 0 ? text.substr(0, static_cast<std::size_t>(peer.TextLimit)) : text);
+  peer.ChangeText(peer.TextLimit > 0 ? text.substr(0, WholeBytes(text, static_cast<std::size_t>(peer.TextLimit)))
+                                     : text);
 }
 
 void Hands::Click(Control& control) { control.PeerOf().Click(); }

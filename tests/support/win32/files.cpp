@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -12,6 +13,7 @@
 #include "platform/files.h"
 #include "platform/program.h"
 #include "platform/win32/end_hook.h"
+#include "platform/win32/wide.h"
 
 namespace {
 
@@ -30,28 +32,28 @@ void Require(bool done, const std::string& what) {
 
 template <typename Visit>
 void ForEachIn(const std::string& where, Visit visit) {
-  WIN32_FIND_DATAA entry{};
-  HANDLE search = FindFirstFileA((where + "\\*").c_str(), &entry);
+  WIN32_FIND_DATAW entry{};
+  HANDLE search = FindFirstFileW(SystemName(where + "\\*").c_str(), &entry);
   if (search == INVALID_HANDLE_VALUE) return;
   do {
-    const std::string name = entry.cFileName;
+    const std::string name = Bytes(entry.cFileName);
     const bool is_folder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     if (name != "." && name != "..") visit(name, is_folder);
-  } while (FindNextFileA(search, &entry));
+  } while (FindNextFileW(search, &entry));
   FindClose(search);
 }
 
 void RemoveTree(const std::string& where) {
   ForEachIn(where, [&where](const std::string& name, bool is_folder) {
     const std::string full_name = where + "\\" + name;
-    SetFileAttributesA(full_name.c_str(), FILE_ATTRIBUTE_NORMAL);
+    SetFileAttributesW(SystemName(full_name).c_str(), FILE_ATTRIBUTE_NORMAL);
     if (is_folder) {
       RemoveTree(full_name);
     } else {
-      Require(DeleteFileA(full_name.c_str()), "remove " + full_name);
+      Require(DeleteFileW(SystemName(full_name).c_str()), "remove " + full_name);
     }
   });
-  Require(RemoveDirectoryA(where.c_str()), "remove " + where);
+  Require(RemoveDirectoryW(SystemName(where).c_str()), "remove " + where);
 }
 
 }  // namespace
@@ -61,42 +63,42 @@ namespace TestFiles {
 void Start() {
   static int count = 0;
   former_folder = CurrentFolder();
-  std::string made(MAX_PATH, '\0');
-  made.resize(GetTempPathA(static_cast<DWORD>(made.size()), made.data()));
-  made += "FilerTest" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
-  Require(CreateDirectoryA(made.c_str(), nullptr), "make " + made);
-  Require(SetCurrentDirectoryA(made.c_str()), "enter " + made);
+  const std::string made =
+      TemporaryFolder() + "\\FilerTest" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
+  Require(CreateDirectoryW(Wide(made).c_str(), nullptr), "make " + made);
+  Require(SetCurrentDirectoryW(Wide(made).c_str()), "enter " + made);
   folder = CurrentFolder();
 }
 
 void Finish() {
   Files::CloseAll();
   ReleaseByOther();
-  Require(SetCurrentDirectoryA(former_folder.c_str()), "return to " + former_folder);
+  Require(SetCurrentDirectoryW(Wide(former_folder).c_str()), "return to " + former_folder);
   RemoveTree(folder);
 }
 
 std::string Folder() { return folder; }
 
 void Put(const std::string& name, std::string_view bytes) {
-  std::ofstream out(name, std::ios::binary);
+  std::ofstream out(std::filesystem::path(SystemName(name)), std::ios::binary);
   out << bytes << std::flush;
   Require(out.good(), "put " + name);
 }
 
 std::optional<std::string> Get(const std::string& name) {
-  std::ifstream in(name, std::ios::binary);
+  std::ifstream in(std::filesystem::path(SystemName(name)), std::ios::binary);
   if (!in) return std::nullopt;
   return std::string(std::istreambuf_iterator<char>(in), {});
 }
 
 void SetReadOnly(const std::string& name, bool read_only) {
   const DWORD attributes = read_only ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL;
-  Require(SetFileAttributesA(name.c_str(), attributes), "set read-only " + name);
+  Require(SetFileAttributesW(SystemName(name).c_str(), attributes), "set read-only " + name);
 }
 
 void MakeFolder(const std::string& name) {
-  Require(CreateDirectoryA(name.c_str(), nullptr) || GetLastError() == ERROR_ALREADY_EXISTS, "make " + name);
+  Require(CreateDirectoryW(SystemName(name).c_str(), nullptr) || GetLastError() == ERROR_ALREADY_EXISTS,
+          "make " + name);
 }
 
 std::vector<std::string> List(const std::string& below) {
@@ -111,7 +113,8 @@ std::vector<std::string> List(const std::string& below) {
 void HoldByOther(const std::string& name, bool against_readers) {
   const DWORD access = against_readers ? GENERIC_READ | GENERIC_WRITE : GENERIC_WRITE;
   const DWORD sharing = against_readers ? 0 : FILE_SHARE_READ;
-  HANDLE file = CreateFileA(name.c_str(), access, sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  HANDLE file =
+      CreateFileW(SystemName(name).c_str(), access, sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   Require(file != INVALID_HANDLE_VALUE, "hold " + name);
   other_handles.push_back(file);
 }

@@ -8,6 +8,7 @@
 #include "platform/win32/internals.h"
 #include "platform/win32/photo.h"
 #include "platform/win32/surface_work.h"
+#include "platform/win32/wide.h"
 #include "support/win32/watcher.h"
 // After windows.h, on which it builds.
 #include <shlobj.h>
@@ -21,8 +22,8 @@ std::unique_ptr<Watcher> watcher;
 // The watcher's own timer waits for a message loop.
 void SettlePart() {
   MSG message{};
-  while (PeekMessageA(&message, nullptr, 0, WM_TIMER - 1, PM_REMOVE) ||
-         PeekMessageA(&message, nullptr, WM_TIMER + 1, 0xFFFF, PM_REMOVE)) {
+  while (PeekMessageW(&message, nullptr, 0, WM_TIMER - 1, PM_REMOVE) ||
+         PeekMessageW(&message, nullptr, WM_TIMER + 1, 0xFFFF, PM_REMOVE)) {
     Dispatch(message);
   }
   RethrowCarried();
@@ -52,11 +53,11 @@ std::vector<std::string> RowsOn(const Control::Peer& peer) {
   for (std::size_t row = 0; row < rows.size(); ++row) {
     for (std::size_t column = 0; column < peer.Percents.size(); ++column) {
       char text[512] = "";
-      LVITEMA item{};
+      LVITEMW item{};
       item.iSubItem = static_cast<int>(column);
       item.pszText = text;
       item.cchTextMax = sizeof text;
-      peer.Send(LVM_GETITEMTEXTA, row, reinterpret_cast<LPARAM>(&item));
+      peer.Send(LVM_GETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
       rows[row] += (column > 0 ? " / " : "") + std::string(text);
     }
   }
@@ -119,8 +120,8 @@ Hands::Sight Hands::LookAt(const Control& control) {
   sight.Text = TextOfWindow(peer.Window);
   sight.Enabled = IsWindowEnabled(peer.Window) != FALSE;
   sight.Visible = control.Visible();
-  LOGFONTA font{};
-  GetObjectA(reinterpret_cast<HFONT>(peer.Send(WM_GETFONT)), sizeof font, &font);
+  LOGFONTW font{};
+  GetObjectW(reinterpret_cast<HFONT>(peer.Send(WM_GETFONT)), sizeof font, &font);
   sight.Bold = font.lfWeight >= FW_BOLD;
   sight.Focused = GetFocus() == peer.Window || IsChild(peer.Window, GetFocus());
   for (int position = 0; position < CountOf(peer); ++position) {
@@ -134,9 +135,12 @@ Hands::Sight Hands::LookAt(const Control& control) {
   if (peer.HoldsEntries()) sight.Selected = static_cast<int>(peer.Send(peer.DropsDown() ? CB_GETCURSEL : LB_GETCURSEL));
   DWORD from = 0, upto = 0;
   if (EditOf(peer) != nullptr) {
-    SendMessageA(EditOf(peer), EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&upto));
+    SendMessageW(EditOf(peer), EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&upto));
   }
-  sight.Mark = {static_cast<int>(from), static_cast<int>(upto)};
+  // In bytes, as the program counts.
+  const std::wstring text = Wide(sight.Text);
+  const auto position = [&text](DWORD units) { return static_cast<int>(Bytes(text.substr(0, units)).size()); };
+  sight.Mark = {position(from), position(upto)};
   return sight;
 }
 
@@ -157,11 +161,11 @@ const std::map<int, Control*>& Hands::ControlsOf(const Form& form) { return form
 void Hands::MoveTo(Control& control) {
   const Control::Peer& peer = control.PeerOf();
   if (!peer.TakesFocus() || GetFocus() == peer.Window || IsChild(peer.Window, GetFocus())) return;
-  SendMessageA(FormWindow(peer), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(peer.Window), TRUE);
+  SendMessageW(FormWindow(peer), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(peer.Window), TRUE);
   SettlePart();
 }
 
-void Hands::Type(Control& box, const std::string& text) { TypeInto(EditOf(box.PeerOf()), text.c_str()); }
+void Hands::Type(Control& box, const std::string& text) { TypeInto(EditOf(box.PeerOf()), text); }
 
 void Hands::Click(Control& control) {
   const Control::Peer& peer = control.PeerOf();
@@ -179,11 +183,11 @@ void Hands::Select(ListControl& list, int position) {
   const Control::Peer& peer = list.PeerOf();
   peer.Send(peer.DropsDown() ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(position));
   const int code = peer.DropsDown() ? static_cast<int>(CBN_SELCHANGE) : static_cast<int>(LBN_SELCHANGE);
-  SendMessageA(FormWindow(peer), WM_COMMAND, MAKEWPARAM(peer.Id, code), reinterpret_cast<LPARAM>(peer.Window));
+  SendMessageW(FormWindow(peer), WM_COMMAND, MAKEWPARAM(peer.Id, code), reinterpret_cast<LPARAM>(peer.Window));
 }
 
 void Hands::TurnOver(CheckList& list, int position) {
-  LVITEMA item{};
+  LVITEMW item{};
   item.stateMask = LVIS_STATEIMAGEMASK;
   item.state = INDEXTOSTATEIMAGEMASK(IsTicked(list.PeerOf(), position) ? 1U : 2U);
   list.PeerOf().Send(LVM_SETITEMSTATE, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&item));
@@ -192,14 +196,14 @@ void Hands::TurnOver(CheckList& list, int position) {
 bool Hands::CanChoose(const Form& form, int item) {
   HWND window = form.PeerOf().Window;
   HMENU menu = GetMenu(window);
-  SendMessageA(window, WM_INITMENU, reinterpret_cast<WPARAM>(menu), 0);
+  SendMessageW(window, WM_INITMENU, reinterpret_cast<WPARAM>(menu), 0);
   for (int index = 0; index < GetMenuItemCount(menu); ++index) {
-    SendMessageA(window, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(GetSubMenu(menu, index)), index);
+    SendMessageW(window, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(GetSubMenu(menu, index)), index);
   }
   return (GetMenuState(menu, static_cast<UINT>(item), MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
 }
 
-void Hands::Choose(Form& form, int item) { SendMessageA(form.PeerOf().Window, WM_COMMAND, MAKEWPARAM(item, 0), 0); }
+void Hands::Choose(Form& form, int item) { SendMessageW(form.PeerOf().Window, WM_COMMAND, MAKEWPARAM(item, 0), 0); }
 
 void Hands::Press(Form& form, const KeyPress& key) {
   HWND focus = GetFocus() != nullptr ? GetFocus() : form.PeerOf().Window;
@@ -208,13 +212,13 @@ void Hands::Press(Form& form, const KeyPress& key) {
                                VK_PRIOR,  VK_NEXT,   VK_HOME, VK_END,   VK_F1};
   const WPARAM code = kCodes[static_cast<std::size_t>(key.What)];
   const Held held(key.Shift, key.Control);
-  PostMessageA(focus, WM_KEYDOWN, code, 1);
-  PostMessageA(focus, WM_KEYUP, code, 1);
+  PostMessageW(focus, WM_KEYDOWN, code, 1);
+  PostMessageW(focus, WM_KEYUP, code, 1);
   SettlePart();  // while the keys are held
 }
 
 void Hands::PressControl(Form& /*form*/, char letter) {
-  PostMessageA(GetFocus(), WM_CHAR, static_cast<WPARAM>(letter - 'A' + 1), 1);
+  PostMessageW(GetFocus(), WM_CHAR, static_cast<WPARAM>(letter - 'A' + 1), 1);
 }
 
 void Hands::Drag(Surface& surface, Cell from, Cell to, bool shift) {
@@ -238,7 +242,7 @@ void Hands::DoubleClick(Control& control, Cell at) {
 
 void Hands::TurnWheel(Control& control, int notches, bool shift, bool control_key) {
   const int keys = (shift ? MK_SHIFT : 0) | (control_key ? MK_CONTROL : 0);
-  PostMessageA(control.PeerOf().Window, WM_MOUSEWHEEL, MAKEWPARAM(keys, -notches * WHEEL_DELTA), 0);
+  PostMessageW(control.PeerOf().Window, WM_MOUSEWHEEL, MAKEWPARAM(keys, -notches * WHEEL_DELTA), 0);
 }
 
 void Hands::PageBar(Surface& surface, Surface::Bar bar, int pages) {
@@ -248,7 +252,7 @@ void Hands::PageBar(Surface& surface, Surface::Bar bar, int pages) {
   }
 }
 
-void Hands::Close(Form& form) { SendMessageA(form.PeerOf().Window, WM_SYSCOMMAND, SC_CLOSE, 0); }
+void Hands::Close(Form& form) { SendMessageW(form.PeerOf().Window, WM_SYSCOMMAND, SC_CLOSE, 0); }
 bool Hands::Drop(Form& form, const std::string& file) {
   const Com<IDataObject> data = Dragged(file);
   if (!data || form.PeerOf().TakesDrops == nullptr) return false;
@@ -260,7 +264,7 @@ bool Hands::Drop(Form& form, const std::string& file) {
   return effect == DROPEFFECT_COPY;
 }
 
-void Hands::ShutDown(Form& form) { SendMessageA(form.PeerOf().Window, WM_QUERYENDSESSION, 0, 0); }
+void Hands::ShutDown(Form& form) { SendMessageW(form.PeerOf().Window, WM_QUERYENDSESSION, 0, 0); }
 
 void Hands::Settle() {
   SettlePart();

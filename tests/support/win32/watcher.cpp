@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/win32/internals.h"
+#include "platform/win32/wide.h"
 #include "resource.h"
 #include "support/files.h"
 #include "support/listener.h"
@@ -16,22 +17,22 @@
 namespace {
 
 constexpr UINT_PTR kTimer = 1;
-constexpr UINT kInterval = 5;                   // milliseconds
-constexpr const char* kSeen = "FilerTestSeen";  // a property of windows that were dealt with
+constexpr UINT kInterval = 5;                       // milliseconds
+constexpr const wchar_t* kSeen = L"FilerTestSeen";  // a property of windows that were dealt with
 constexpr int kIconSide = 32;
 constexpr int kFileNameCombo = 0x47C;
 constexpr int kFileNameEdit = 0x480;
 
 std::string ClassOf(HWND window) {
-  char name[64] = "";
-  GetClassNameA(window, name, sizeof name);
-  return name;
+  wchar_t name[64] = L"";
+  GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  return Bytes(name);
 }
 
 bool MarkSeen(HWND window, int value) {
   HANDLE mark = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(value));
-  if (GetPropA(window, kSeen) == mark) return false;
-  SetPropA(window, kSeen, mark);
+  if (GetPropW(window, kSeen) == mark) return false;
+  SetPropW(window, kSeen, mark);
   return true;
 }
 
@@ -64,18 +65,18 @@ std::vector<HWND> Inside(HWND dialog) {
 Icon MeaningOf(HICON icon) {
   if (icon == nullptr) return Icon::None;
   const struct {
-    LPCSTR Name;
+    LPCWSTR Name;
     Icon Meaning;
-  } rows[] = {{MAKEINTRESOURCEA(32516), Icon::Information},
-              {MAKEINTRESOURCEA(32515), Icon::Exclamation},
-              {MAKEINTRESOURCEA(32513), Icon::Critical}};
+  } rows[] = {{MAKEINTRESOURCEW(32516), Icon::Information},
+              {MAKEINTRESOURCEW(32515), Icon::Exclamation},
+              {MAKEINTRESOURCEW(32513), Icon::Critical}};
   const auto pixels_of = [](HICON which) {
     return PixelsOf(kIconSide, kIconSide, [which](HDC target) {
       DrawIconEx(target, 0, 0, which, kIconSide, kIconSide, 0, nullptr, DI_NORMAL);
     });
   };
   for (const auto& row : rows) {
-    HICON known = LoadIconA(nullptr, row.Name);
+    HICON known = LoadIconW(nullptr, row.Name);
     if (known == icon || pixels_of(known) == pixels_of(icon)) return row.Meaning;
   }
   ADD_FAILURE() << "A message box has an icon of no known meaning";
@@ -92,8 +93,8 @@ bool ReadMessageBox(HWND box, std::string& text, Icon& icon) {
   bool is_box = false;
   for (HWND child : Inside(box)) {
     const std::string name = ClassOf(child);
-    if (name == "Static" && (GetWindowLongA(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON) {
-      if (IsWindowVisible(child)) icon = MeaningOf(reinterpret_cast<HICON>(SendMessageA(child, STM_GETICON, 0, 0)));
+    if (name == "Static" && (GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON) {
+      if (IsWindowVisible(child)) icon = MeaningOf(reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0)));
     } else if (name == "Static") {
       text = TextOfWindow(child);
       is_box = true;
@@ -115,7 +116,7 @@ void AnswerMessageBox(HWND box, const std::string& text, Icon icon) {
   if (answer == Answer::Cancel) pressed = cancel;
   if (answer == Answer::Yes) pressed = yes;
   if (answer == Answer::No) pressed = no;
-  PostMessageA(pressed, BM_CLICK, 0, 0);
+  PostMessageW(pressed, BM_CLICK, 0, 0);
 }
 
 // The field that takes the file name; null when the dialog has none.
@@ -137,9 +138,10 @@ std::string AskedOf(HWND dialog, HWND field) {
     if (text.find("(*.") != std::string::npos) asked += " | " + text;
   }
   if (field != nullptr && !TextOfWindow(field).empty()) asked += " | " + TextOfWindow(field);
-  char folder[MAX_PATH] = "";
-  SendMessageA(dialog, CDM_GETFOLDERPATH, sizeof folder, reinterpret_cast<LPARAM>(folder));
-  if (folder[0] != 0 && TestFiles::Folder() != folder) asked += std::string(" | in ") + folder;
+  wchar_t text[MAX_PATH] = L"";
+  SendMessageW(dialog, CDM_GETFOLDERPATH, std::size(text), reinterpret_cast<LPARAM>(text));
+  const std::string folder = Bytes(text);
+  if (!folder.empty() && TestFiles::Folder() != folder) asked += " | in " + folder;
   if (TextOfWindow(GetDlgItem(dialog, IDOK)) == "&Save") asked += " | to write";
   return asked;
 }
@@ -149,11 +151,11 @@ void AnswerFileDialog(HWND dialog) {
   const std::string name = TheListener()->FileDialogCame(TextOfWindow(dialog), AskedOf(dialog, field));
   if (field == nullptr) ADD_FAILURE() << "A dialog \"" << TextOfWindow(dialog) << "\" came that takes no file name";
   if (name.empty() || field == nullptr) {
-    PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+    PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
     return;
   }
-  SendMessageA(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
-  PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+  SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(name).c_str()));
+  PostMessageW(dialog, WM_COMMAND, IDOK, 0);
 }
 
 void AnswerInputBox(const Form& form) {
@@ -161,8 +163,8 @@ void AnswerInputBox(const Form& form) {
   HWND field = GetDlgItem(window, IDC_AnswerBox);
   const std::string answer = TheListener()->InputCame(TextOfWindow(GetDlgItem(window, IDC_PromptLabel)),
                                                       TextOfWindow(window), TextOfWindow(field));
-  if (!answer.empty()) TypeInto(field, answer.c_str());
-  SendMessageA(GetDlgItem(window, answer.empty() ? IDCANCEL : IDOK), BM_CLICK, 0, 0);
+  if (!answer.empty()) TypeInto(field, answer);
+  SendMessageW(GetDlgItem(window, answer.empty() ? IDCANCEL : IDOK), BM_CLICK, 0, 0);
 }
 
 // Lets the person use the form; what an action throws is carried to the form's message loop.
@@ -203,7 +205,7 @@ void Look() {
 }
 
 LRESULT CALLBACK WatcherProcedure(HWND window, UINT message, WPARAM first, LPARAM second) {
-  if (message != WM_TIMER) return DefWindowProcA(window, message, first, second);
+  if (message != WM_TIMER) return DefWindowProcW(window, message, first, second);
   Look();
   return 0;
 }
@@ -211,12 +213,12 @@ LRESULT CALLBACK WatcherProcedure(HWND window, UINT message, WPARAM first, LPARA
 }  // namespace
 
 Watcher::Watcher() {
-  WNDCLASSA kind{};
+  WNDCLASSW kind{};
   kind.lpfnWndProc = WatcherProcedure;
-  kind.hInstance = GetModuleHandleA(nullptr);
-  kind.lpszClassName = "FilerTestWatcher";
-  RegisterClassA(&kind);
-  window_ = CreateWindowA(kind.lpszClassName, "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, kind.hInstance, nullptr);
+  kind.hInstance = GetModuleHandleW(nullptr);
+  kind.lpszClassName = L"FilerTestWatcher";
+  RegisterClassW(&kind);
+  window_ = CreateWindowW(kind.lpszClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, kind.hInstance, nullptr);
   SetTimer(window_, kTimer, kInterval, nullptr);
 }
 
@@ -225,7 +227,7 @@ Watcher::~Watcher() {
   DestroyWindow(window_);
 }
 
-void TypeInto(HWND edit, const char* text) {
-  SendMessageA(edit, EM_SETSEL, 0, -1);
-  SendMessageA(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
+void TypeInto(HWND edit, std::string_view text) {
+  SendMessageW(edit, EM_SETSEL, 0, -1);
+  SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(Wide(text).c_str()));
 }

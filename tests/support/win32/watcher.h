@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <string_view>
+
 class Watcher {
  public:
   Watcher();
@@ -16,4 +18,4 @@ class Watcher {
 };
 
 // Replaces the text of an edit field as typing does.
-void TypeInto(HWND edit, const char* text);
+void TypeInto(HWND edit, std::string_view text);
