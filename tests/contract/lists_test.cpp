@@ -75,31 +75,10 @@ TEST_F(ListsTest, ComboTextMayBeAnything) {
   }
   Does(fills, "");
   EXPECT_EQ(combo.Text(), "");
-  // Its handler may complete the text.
-  combo.Change = [&, tell = combo.Change] {
-    tell();
-    if (combo.Text() != "tw") return;
-    combo.SetText("twenty");
-    combo.SelectText(2, 6);
-  };
-  Does([&] { types("tw"); }, "NameCombo Change tw, NameCombo Change twenty");
-  EXPECT_EQ(user.Sees(IDC_NameCombo), "twenty");
   // A drop-down's is one of its entries or nothing.
   form.KindDrop.Fill({{"red", 1}, {"green", 2}});
   Does([&] { form.KindDrop.SetText("green"), form.KindDrop.SetText("blue"); },
        "KindDrop Click 1 green, KindDrop Click -1 ");
-}
-
-TEST_F(ListsTest, TheWheelTurnsNoClosedDropDownButAComboWithTheFocus) {
-  const std::pair<ListControl*, Control*> rows[] = {
-      {&form.NameCombo, &form.FirstButton}, {&form.NameCombo, &form.NameCombo}, {&form.KindDrop, &form.KindDrop}};
-  for (const auto& [list, focus] : rows) {
-    list->Fill({{"one", 1}, {"two", 2}, {"three", 3}});
-    list->Select(1);
-    focus->SetFocus();
-    Does([&, turned = list] { user.TurnsWheel(turned->Id(), 1); },
-         list == focus && list == &form.NameCombo ? "NameCombo Click 2 three" : "");
-  }
 }
 
 TEST_F(ListsTest, ChecksAreTurnedOver) {

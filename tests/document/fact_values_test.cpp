@@ -29,8 +29,7 @@ interest/5% => 5% | DOUBLE/   =>  | /  2 * 3 blue  => 2 * 3 blue | FOO/ 2 * 3  =
 DOLLAR/ 2 + 3) =>  2 + 3)!The value 2 + 3) cannot be computed.  Please type a number, or numbers joined by + - * and /.
 DOUBLE/() => ()!The value () cannot be computed.  Please type a number, or numbers joined by + - * and /.
 DOUBLE/5 / 0 => 5 / 0!Failed to calculate expression 5/0 due to error # 11: Division by zero)",
-             [&](const std::string& given) {
-               auto [type, text] = Halves(given, '/');
+             '/', [&](const std::string& type, std::string text) {
                const bool converted = ConvertTypedValue(text, type);
                const std::string texts = said.Take();
                EXPECT_EQ(converted, texts.empty());

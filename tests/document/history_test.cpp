@@ -119,13 +119,12 @@ TEST_F(HistoryTest, EachStateComesBackInBothDirections) {
         AnyCommand();
         TheDocument.CurrentThing = std::min(TheDocument.Things.Count(), 1 + Below(9));
         if (TheHistory.Changes() == changes) continue;
-        if (DescribeDocument() == states[at]) {  // nothing is another than before: modified, and nothing to undo
-          saved = states.size() + 1000;
-        } else {
-          if (saved > at) saved = states.size() + 1000;
-          states.resize(at + 1);
+        // Where nothing is another than before, the document is modified, and there is nothing to undo.
+        const bool differs = DescribeDocument() != states[at];
+        if (!differs || saved > at) saved = states.size() + 1000;
+        if (differs) {
+          states.resize(++at);
           states.push_back(DescribeDocument());
-          ++at;
         }
       }
       compare();

@@ -1,8 +1,6 @@
 // Writing data files: the exact bytes of a document with everything that the format has a rule for.
 #include "document/writer.h"
 
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
 #include "document/document.h"
@@ -78,8 +76,7 @@ TEST_F(WriterTest, WritesANastyDocument) {
     AddThing("Note", note.empty() ? words + "1234567890" : note);
   }
   const std::string before = DescribeDocument();
-  std::ifstream golden(FILER_SOURCE_DIR "/tests/document/golden/Nasty.FIL", std::ios::binary);
-  EXPECT_EQ(Saved(), std::string(std::istreambuf_iterator<char>(golden), {}));
+  EXPECT_EQ(Saved(), SourceFile("tests/document/golden/Nasty.FIL"));
   EXPECT_EQ(DescribeDocument(), before);  // escaping is for the file only
 }
 

@@ -20,9 +20,7 @@ DOLLAR/###.##0.00/1234,5 => 1234,50 1.234,50 | DOLLAR/#,##0.0/1234,5 => 1234,50 
 DOUBLE//1234,5678 => 1234,5678 1.234,568 | LONG//(1,5 + 2) / 0,001 => 3500 3.500
 DOLLAR/0.00/1.5 => 1.5 1.5!Failed to store number 1.5 due to error # 13: Type mismatch
 DOLLAR/0.00/, + 1 => , + 1 , + 1!Failed to calculate expression ,+1 due to error # 13: Type mismatch)",
-             [&](const std::string& given) {
-               const auto [type, rest] = Halves(given, '/');
-               auto [format, text] = Halves(rest, '/');
+             '/', [&](const std::string& type, const std::string& format, std::string text) {
                ConvertTypedValue(text, type);
                return text + " " + FormatValue(text, type, format) + said.Take();
              });

@@ -1,7 +1,11 @@
-// What the program reads at its start: the command line, file names and the settings file; and its address titles.
+// What the program reads at its start: the command line, file names and the settings file; the name it proposes; and
+// its address titles.
+#include <tuple>
+
 #include "document/copies.h"
 #include "mainwindow/address_titles.h"
 #include "mainwindow/command_line.h"
+#include "mainwindow/save.h"
 #include "mainwindow/settings.h"
 #include "shell/file_names.h"
 #include "shell/replace_file.h"
@@ -50,10 +54,7 @@ Home.FIL /PERSON =Shed /DIR=C:\A => !,,C:\A, | Home.FIL /DIR=C:\A / => !,,C:\A, 
 TEST_F(StartTest, FilesCopiesAndPhotosHaveTheirPlaces) {
   ExpectRows(R"T(C:\Data, =>  | C:\Data,Home.FIL => C:\Data\Home.FIL | C:\,sub\Home.FIL => C:\sub\Home.FIL
 C:\Data,\Home.FIL => \Home.FIL | C:\Data,Home:FIL => Home:FIL)T",
-             [](const std::string& given) {
-               const auto [folder, name] = Halves(given, ',');
-               return Global::FullFileName(folder, name);
-             });
+             ',', Global::FullFileName);
   EXPECT_EQ(Global::FullFileName("", "Home.FIL"), InFolder("Home.FIL"));
   ExpectRows(R"T(C:\Data\Home.FIL => C:\Data | C:\Home.FIL => C:\ | C:Home.FIL => C: | \Home.FIL => \
 C:/a.b/Home => C:/a.b | Home.FIL => )T",
@@ -72,8 +73,7 @@ C:/a.b/Home => C:/a.b/Home.BAK | C:\a.b.c => C:\a.b.BAK)T",
 p/a.jpg,C:/D/x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg; | E:\o\p\a.jpg, => E:\o\p\a.jpg;
 E:\o/p\a.jpg,C:\x.FIL => E:\o\p\a.jpg;C:\a.jpg;C:\p\a.jpg;C:\o\p\a.jpg; | E:a.jpg,C:\x.FIL => E:a.jpg;C:\a.jpg;
 \p\a.jpg,C:\x.FIL => \p\a.jpg;C:\a.jpg;C:\p\a.jpg; | \\s\a.jpg,C:\x.FIL => \\s\a.jpg;C:\a.jpg;C:\s\a.jpg;)T",
-             [](const std::string& given) {
-               const auto [name, data_file] = Halves(given, ',');
+             ',', [](const std::string& name, const std::string& data_file) {
                std::string found;
                for (const std::string& place : PhotoPlaces(name, data_file, "C:\\W")) found += place + ";";
                return found;
@@ -145,6 +145,24 @@ FGHIJK => 10: <K> <J> <I> <H> <G> <F> <a> <b> <E> <D> | d => 10: <d> <K> <J> <I>
   TheRecentFiles = {};
   LoadSettings();
   EXPECT_EQ(ListText(), "10: <TWICE> <twice> <K> <J> <H> <G> <F> <a> <b> <E>");
+}
+
+// For a document without a name. A folder's name counts for nothing; what has no number behind it is that of the last.
+TEST_F(StartTest, ProposesTheNumberBehindTheHighest) {
+  ExpectRows(R"( => Filer001.FIL | C:\D\FILER007.FIL => Filer008.FIL | C:\D\Home.FIL => Filer001.FIL
+C:\D\Home.FIL/filer002.fil/D:Filer011.FIL/C:\Filer003.FIL => Filer012.FIL | C:\Filer009.FIL\Home.FIL => Filer001.FIL
+C:\D\My Filer041 old.FIL => Filer042.FIL | C:\D\Filer99 => Filer001.FIL | C:\D\Filer998.FIL => Filer999.FIL
+Filer005.FIL/Filer999.FIL => Filer999.FIL | Filer999.FIL/Filer005.FIL => Filer005.FIL | Filer.FIL => Filer000.FIL
+Filer000.FIL => Filer000.FIL | Filer004.FIL/Filer.FIL => Filer005.FIL | Filer7a.FIL => Filer008.FIL
+Filer0123.FIL => Filer013.FIL | Filer041 => Filer042.FIL | Filer-12.FIL => Filer-012.FIL)",
+             [](std::string recent) {
+               TheRecentFiles = {};
+               for (std::string name; !recent.empty();) {
+                 std::tie(name, recent) = Halves(recent, '/');
+                 TheRecentFiles[++TheRecentFiles.Count] = name;
+               }
+               return ProposedFileName();
+             });
 }
 
 TEST_F(StartTest, AddressTitlesAreStandard) {

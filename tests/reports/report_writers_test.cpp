@@ -2,7 +2,6 @@
 // which a run with --update writes anew.
 #include <fstream>
 #include <functional>
-#include <iterator>
 
 #include "document/document.h"
 #include "document/reader.h"
@@ -20,12 +19,6 @@ namespace {
 
 class ReportWritersTest : public FreshTest {
  protected:
-  // The bytes of a file that lies with the program's sources.
-  static std::string SourceFile(const std::string& name) {
-    std::ifstream file(FILER_SOURCE_DIR "/" + name, std::ios::binary);
-    EXPECT_TRUE(file) << name;
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
   static void Load(const std::string& name) {
     MakeNew();  // the file that was loaded before is locked
     TheDocument = {};
@@ -65,11 +58,8 @@ TEST_F(ReportWritersTest, TextsAreWrappedAtBlanks) {
 4 one two =>  one/ two/ | 7 one two =>  one/ two/ | 8 one two =>  one two/ | 5 one  two =>  one/ two/
 5  longword =>  / longw/ ord/ | 5 end    =>  end/  / | 5  aa bb =>   aa/ bb/
 9 ab&#937;&#937;c =>  ab&#937;/ &#937;c/ | 3 &#937; =>  &#9/ 37;/ /)",
-             [](const std::string& given) {
-               const auto [width, text] = Halves(given, ' ');
-               const std::string written =
-                   Written([&, most = std::stoi(width), all = text] { WriteWrapped(all, most); });
-               return Replaced(written, "\r\n", "/");
+             ' ', [](const std::string& width, const std::string& text) {
+               return Replaced(Written([&] { WriteWrapped(text, std::stoi(width)); }), "\r\n", "/");
              });
 }
 
@@ -93,14 +83,8 @@ TEST_F(ReportWritersTest, AreAsTheyWere) {
 TEST_F(ReportWritersTest, MeasureCharactersOrCutBeforeThem) {
   Load("tests/reports/golden/Nasty.FIL");
   const auto values_of = [](const std::string& letter, const std::string& shown) {
-    std::string name;
-    for (int count = 0; count < 40; ++count) name += letter;
-    TheDocument.Things.Writable(1).NAME = name;
-    std::string written = Written([] { WriteItemValuesReport(0, {1, 2, 3, 5}); });
-    for (auto at = written.find(letter); at != std::string::npos; at = written.find(letter, at + shown.size())) {
-      written.replace(at, letter.size(), shown);
-    }
-    return written;
+    TheDocument.Things.Writable(1).NAME = Replaced(std::string(40, '*'), "*", letter);
+    return Replaced(Written([] { WriteItemValuesReport(0, {1, 2, 3, 5}); }), letter, shown);
   };
   EXPECT_EQ(values_of("&#26085;", "\x7F"), values_of("\x7F", "\x7F"));
   std::string& name = TheDocument.Things.Writable(1).NAME;

@@ -1,8 +1,5 @@
 // The help pages tell the truth: their worked examples are computed, and the data file they show is loaded and
 // saved again.
-#include <fstream>
-#include <iterator>
-
 #include "document/document.h"
 #include "document/find.h"
 #include "document/names.h"
@@ -16,8 +13,7 @@
 namespace {
 
 std::string ReadPage(const std::string& name) {
-  std::ifstream file(FILER_SOURCE_DIR "/help/" + name, std::ios::binary);
-  std::string text{std::istreambuf_iterator<char>(file), {}};
+  std::string text = SourceFile("help/" + name);
   std::erase(text, '\r');
   return text;
 }
@@ -70,7 +66,7 @@ TEST_F(HelpPagesTest, CalculationsAndFormulasComeOutAsTheySay) {
 }
 
 TEST_F(HelpPagesTest, FindsWhatItSays) {
-  TestFiles::Put("Household.FIL", ReadPage("../samples/Household.FIL"));
+  TestFiles::Put("Household.FIL", SourceFile("samples/Household.FIL"));
   ASSERT_TRUE(LoadFilerFile("Household.FIL"));
   const std::vector<std::string> places = {"Everything", "Names", "Notes", "Values", "Categories"};
   const std::vector<std::string> signs = {"is",        "is not",   "less than", "at most",

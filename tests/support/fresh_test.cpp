@@ -1,6 +1,9 @@
 // The fresh start of a test: see fresh_test.h.
 #include "support/fresh_test.h"
 
+#include <fstream>
+#include <iterator>
+
 #include "document/document.h"
 #include "document/file_lock.h"
 #include "document/history.h"
@@ -37,4 +40,10 @@ std::string Lines(const std::vector<std::string>& lines) {
   std::string text;
   for (const std::string& line : lines) text += line + "\r\n";
   return text;
+}
+
+std::string SourceFile(const std::string& name) {
+  std::ifstream file(FILER_SOURCE_DIR "/" + name, std::ios::binary);
+  EXPECT_TRUE(file) << name;
+  return {std::istreambuf_iterator<char>(file), {}};
 }

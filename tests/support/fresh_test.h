@@ -24,3 +24,6 @@ std::string InFolder(const std::string& name);
 
 // Lines as a file holds them, each ended by CR LF.
 std::string Lines(const std::vector<std::string>& lines);
+
+// The bytes of a file that lies with the program's sources.
+std::string SourceFile(const std::string& name);

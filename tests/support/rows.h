@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <source_location>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -37,6 +38,12 @@ inline std::vector<std::pair<std::string, std::string>> Rows(const std::string& 
   return rows;
 }
 
+// What stands before the first mark, and what behind it; all before it when there is none.
+inline std::pair<std::string, std::string> Halves(const std::string& text, char mark) {
+  const std::size_t at = std::min(text.find(mark), text.size());
+  return {text.substr(0, at), text.substr(std::min(at + 1, text.size()))};
+}
+
 // What is told of each given text is what its row expects.
 template <class Told>
 void ExpectRows(const std::string& rows, Told told, const std::source_location& at = std::source_location::current()) {
@@ -44,8 +51,18 @@ void ExpectRows(const std::string& rows, Told told, const std::source_location& 
   for (const auto& [given, expected] : Rows(rows)) EXPECT_EQ(told(given), expected) << given;
 }
 
-// What stands before the first mark, and what behind it; all before it when there is none.
-inline std::pair<std::string, std::string> Halves(const std::string& text, char mark) {
-  const std::size_t at = std::min(text.find(mark), text.size());
-  return {text.substr(0, at), text.substr(std::min(at + 1, text.size()))};
+// The same where the mark parts what is given in two, or in three.
+template <class Told>
+void ExpectRows(const std::string& rows, char mark, Told told,
+                const std::source_location& at = std::source_location::current()) {
+  const auto of_parts = [&](const std::string& given) {
+    const auto [first, rest] = Halves(given, mark);
+    if constexpr (std::is_invocable_v<Told, std::string, std::string>) {
+      return told(first, rest);
+    } else {
+      const auto [second, third] = Halves(rest, mark);
+      return told(first, second, third);
+    }
+  };
+  ExpectRows(rows, of_parts, at);
 }

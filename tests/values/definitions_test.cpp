@@ -62,10 +62,8 @@ TEST_F(DefinitionsTest, ChecksRunInTheirOrder) {
 1 TWICE/x/ => Name: Name <<TWICE>> has | 3 COLOUR/x/LONG => Type: You are switching | 3 RED/x/LONG => Type: You are switching
 5 PLACE/x/LONG => Type: You are switching | 4 HUE/x/LONG =>  | 5 PLACE/x/FOO =>  | 1 PRICE/x/ =>  | 1 PRICE/x/LONG => 
 3 COLOUR/x/ =>  | 7 AZ/ /ODDS => )",
-             [this](const std::string& entry) {
-               const auto [name, rest] = Halves(entry.substr(2), '/');
-               const auto [title, type] = Halves(rest, '/');
-               return Told(CheckField({name, title, type}, std::stoi(entry), working));
+             '/', [this](const std::string& entry, const std::string& title, const std::string& type) {
+               return Told(CheckField({entry.substr(2), title, type}, std::stoi(entry), working));
              });
   EXPECT_EQ(CheckField({"CAF\xC9", "x", ""}, 7, working).Box, DefinitionBox::Name);
   ExpectRows(
@@ -73,10 +71,8 @@ TEST_F(DefinitionsTest, ChecksRunInTheirOrder) {
 4 TWICE/x/ => Name: Formula <<TWICE>> is | 4 BOTH/x/ => Name: Formula <<BOTH>> is | 1 QTY/x/ => Name: Keyword <<QTY>> is
 1 TWICE/x/ => Template: You selected a | 4 NEW/x/#,##0.00 kg => Template: You typed an | 4 NEW/x/-0 => Template: You typed an
 4 NEW/x/#,##0.00% => )",
-      [](const std::string& entry) {
-        const auto [name, rest] = Halves(entry.substr(2), '/');
-        const auto [title, format] = Halves(rest, '/');
-        return Told(CheckFormula({name, title, "", format, ""}, std::stoi(entry), true));
+      '/', [](const std::string& entry, const std::string& title, const std::string& format) {
+        return Told(CheckFormula({entry.substr(2), title, "", format, ""}, std::stoi(entry), true));
       });
   EXPECT_FALSE(CheckFormula({"TWICE", "x", "", "", ""}, 1, false));
 }

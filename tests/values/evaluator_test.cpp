@@ -36,10 +36,7 @@ DOLLAR 12.5 => 12.50 | DOLLAR -0.05 => -0.05 | DOLLAR 1234567 => 1234567.00 | DO
 DOLLAR 21474836.48 => ? | DOLLAR -21474836.48 => -21474836.48 | DOLLAR -21474836.49 => ? | DOLLAR 30,000,000 => 30.00
 ODDS 0.5 => 50% | ODDS 1 => 100% | ODDS 1.5 => 100% | ODDS -0.1 => 100% | ODDSPM -1 => -100% | ODDSPM -1.2 => 100%
 INTRATE 0.035 => 3.5% | INTRATE -0.05 => 0 | INTRATE 0*1 => 0% | INTRATE 1 => 100%)",
-             [](const std::string& given) {
-               const auto [type, expression] = Halves(given, ' ');
-               return Value(expression, type);
-             });
+             ' ', [](const std::string& type, const std::string& expression) { return Value(expression, type); });
   for (const char* type : {"INTEREST", ""}) EXPECT_THROW(Value("11", type), ProgramEnded);
 }
 
@@ -57,15 +54,13 @@ BYTE 256 => ?!Failed to store number 256 due to error # 6: Overflow
 ODDS 1,5 => 100%!Invalid odds value 150% is replaced with 100%.  (For odds, please type numbers followed by a percent sign or type a fractional amount.)
 ODDSPM -1,2 => 100%!Invalid odds value -120% is replaced with 100%.  (Type a positive or negative number followed by a percent sign or type a fractional amount.)
 INTRATE -0,05 => 0!Invalid interest value -5% is replaced with 0.  (For interest, type a positive numbers followed by a percent sign or type a fractional amount.))",
-             [&](const std::string& given) {
-               const auto [type, expression] = Halves(given, ' ');
+             ' ', [&](const std::string& type, const std::string& expression) {
                const std::string value = Value(expression, type, false, ',');
                return value + said.Take();
              });
   ExpectRows(R"(INTEGER  => 0
 DOLLAR 30000000 => !Failed to round your number to pennies due to error # 6!Failed to store number 30000000 due to error # 6: Overflow)",
-             [&](const std::string& given) {
-               auto [type, text] = Halves(given, ' ');
+             ' ', [&](const std::string& type, std::string text) {
                Global::StoreNumberByType(text, type, ',', false);
                return text + said.Take();
              });
@@ -87,9 +82,8 @@ abc => ABC | [LOOP] =>  | [TWO] => )",
   for (int time = 0; time < 1000; ++time) many += "[a]";
   EXPECT_EQ(expanded(many), std::string(1000, '1'));
   EXPECT_EQ(expanded(many + "[a]"), "");
-  ExpectRows("DOLLAR [PRICE]*2 => 25.00 |  [PRICE]*2 => 25 | CALC [PRICE]*2 => ? | CALC [QTY]*2 => ",
-             [&](const std::string& formula) {
-               const auto [type, expression] = Halves(formula, ' ');
+  ExpectRows("DOLLAR [PRICE]*2 => 25.00 |  [PRICE]*2 => 25 | CALC [PRICE]*2 => ? | CALC [QTY]*2 => ", ' ',
+             [&](const std::string& type, const std::string& expression) {
                return FormulaResult({"F", "", type, "", expression}, slots);
              });
 }
