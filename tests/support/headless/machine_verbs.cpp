@@ -43,7 +43,7 @@ const Story::Verbs& MachineVerbs() {
       {"no-starts", [](Story&, const std::string&) { Machine::FailStart(0); }},
       {"program-folder", [](Story&, const std::string& folder) { Machine::SetProgramFolder(folder); }},
       {"today", SetToday},
-      {"first-weekday", [](Story&, User&, const std::string& day) { Machine::SetFirstWeekday(std::stoi(day)); }},
+      {"first-weekday", [](Story&, const std::string& day) { Machine::SetFirstWeekday(std::stoi(day)); }},
       {"registry", SetRegistry},
       {"unregister",
        [](Story&, const std::string& key) { Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, key); }},
