@@ -7,19 +7,19 @@
 
 #include "document/copies.h"
 #include "document/document.h"
-#include "platform/file_handles.h"
 #include "document/file_lock.h"
 #include "document/history.h"
 #include "document/writer.h"
-#include "shell/file_names.h"
 #include "mainwindow/settings.h"
+#include "platform/file_handles.h"
 #include "platform/files.h"
 #include "platform/locale.h"
+#include "platform/text.h"
 #include "shell/file_form.h"
+#include "shell/file_names.h"
 #include "shell/messages.h"
 #include "shell/replace_file.h"
 #include "shell/start_options.h"
-#include "platform/text.h"
 #include "values/numbers.h"
 
 namespace {

@@ -14,5 +14,6 @@ enum class DefaultButton { First, Last };  // the one that Enter presses
 Answer MsgBox(std::string_view text, std::string_view caption, Buttons buttons = Buttons::Ok, Icon icon = Icon::None,
               DefaultButton default_button = DefaultButton::First);
 
-// Asks for one line of text; F1 is the matter of the form below. Returns it as typed, or empty text when the user cancelled.
+// Asks for one line of text; F1 is the matter of the form below. Returns it as typed, or empty text when the user
+// cancelled.
 std::string InputBox(std::string_view prompt, std::string_view caption, std::string_view offered = "");
