@@ -153,11 +153,13 @@ std::vector<Hit> FindThings(const FindRequest& request) {
   std::vector<Hit> hits;
   if (!tester.CanBeRead() || (words.empty() && tester.PassesAll())) return hits;
   std::vector<Search> searches;
+  searches.reserve(words.size());
   for (const Word& word : words) searches.emplace_back(word, request.Where);
   const auto& things = TheDocument.Things;
   for (int record = 1; record <= things.Count(); ++record) {
     const ThingRecord& thing = things[record];
-    Hit first{record}, other;
+    Hit first{record};
+    Hit other;
     bool all = true;
     for (const Search& search : searches) all = all && search.Finds(thing, &search == searches.data() ? first : other);
     if (all && tester.Passes(thing)) hits.push_back(first);
@@ -188,7 +190,8 @@ std::string PlaceOf(const Hit& hit, const FindRequest& request) {
 }
 
 std::string WordsAround(const Hit& hit, const FindRequest& request) {
-  constexpr std::size_t kBefore = 25, kBehind = 75;
+  constexpr std::size_t kBefore = 25;
+  constexpr std::size_t kBehind = 75;
   const std::string text = TextOf(hit, request);
   const std::size_t end = hit.At + hit.Size;
   // Cut between words, where there are some.

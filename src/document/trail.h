@@ -27,7 +27,8 @@ class Trail {
   // lead from a thing to itself is one.
   template <class Renumber>
   void Follow(Renumber renumber) {
-    std::size_t kept = 0, passed = 0;
+    std::size_t kept = 0;
+    std::size_t passed = 0;
     for (std::size_t at = 0; at < records_.size(); ++at) {
       const int record = renumber(records_[at]);
       if (record != 0 && (kept == 0 || records_[kept - 1] != record)) records_[kept++] = record;

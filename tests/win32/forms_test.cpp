@@ -26,7 +26,7 @@ Edges EdgesOf(HWND window) {
 
 Edges EdgesOf(const Form& form, int id) { return EdgesOf(form.PeerOf().Find(id)->PeerOf().Window); }
 
-TEST_F(ScreenTest, ControlsFollowTheEdgesOfTheirForm) {
+TEST_F(ScreenTest, ControlsShareWhatTheirFormGrows) {
   MainForm main_form("");
   const ViewerForm viewer("");
   const ReportText text;
@@ -34,36 +34,45 @@ TEST_F(ScreenTest, ControlsFollowTheEdgesOfTheirForm) {
   main_form.Show();
   const struct {
     const Form& Parent;
-    const char* Following;  // the edges that move with the form's right and lower ones
+    Edges Shares;  // percent of the growth that left, upper, right and lower edge move by
     std::vector<int> Ids;
-  } rows[] = {
-      {main_form, "l r ", {IDC_HelpButton, IDC_ExitButton, IDC_CategoryFilterLabel, IDC_PhotoPic, IDC_CatLabel}},
-      {main_form, "  r ", {IDC_PersonCombo, IDC_HintLabel}},
-      {main_form, "  rb", {IDC_NoteBox}},
-      {main_form, " trb", {IDC_FatherCombo, IDC_MotherCombo}},
-      {main_form, " t b", {IDC_FatherLabel, IDC_MotherLabel}},
-      {main_form, "l rb", {IDC_CatList}},
-      {main_form, "ltrb", {IDC_DefCatButton}},
-      {viewer, "  rb", {IDC_ReportSurface}},
-      {viewer, " trb", {IDC_FileLabel}},
-      {viewer, "ltrb", {IDC_LinesLabel, IDC_ZoomLabel}},
-      {preview, "  rb", {IDC_PreviewSurface}},
-      {preview, "l r ", {IDC_PrintButton, IDC_CancelButton}}};
-  constexpr LONG kGrowth = 40;
-  for (const auto& [form, following, ids] : rows) {
+  } rows[] = {{main_form, {100, 0, 100, 0}, {IDC_HelpButton, IDC_ExitButton}},
+              {main_form, {0, 0, 3, 0}, {IDC_AllLabel}},
+              {main_form, {96, 0, 100, 0}, {IDC_LetterLabel + 25}},
+              {main_form, {60, 0, 100, 0}, {IDC_CategoryFilterLabel, IDC_PhotoLabel}},
+              {main_form, {60, 0, 100, 60}, {IDC_PhotoPic}},
+              {main_form, {60, 60, 80, 60}, {IDC_PhotoButton}},
+              {main_form, {80, 60, 100, 60}, {IDC_DataButton}},
+              {main_form, {60, 60, 100, 60}, {IDC_CatLabel}},
+              {main_form, {60, 60, 100, 100}, {IDC_CatList}},
+              {main_form, {0, 0, 60, 0}, {IDC_PersonCombo, IDC_HintLabel}},
+              {main_form, {0, 0, 60, 100}, {IDC_NoteBox}},
+              {main_form, {0, 100, 60, 100}, {IDC_FatherCombo, IDC_MotherCombo}},
+              {main_form, {0, 100, 0, 100}, {IDC_FatherLabel, IDC_MotherLabel}},
+              {main_form, {60, 100, 100, 100}, {IDC_DefCatButton}},
+              {main_form, {0, 100, 100, 100}, {IDC_StatusLabel}},
+              {viewer, {0, 0, 100, 100}, {IDC_ReportSurface}},
+              {viewer, {0, 100, 100, 100}, {IDC_FileLabel}},
+              {viewer, {100, 100, 100, 100}, {IDC_LinesLabel, IDC_ZoomLabel}},
+              {preview, {0, 0, 100, 100}, {IDC_PreviewSurface}},
+              {preview, {100, 0, 100, 0}, {IDC_PrintButton, IDC_CancelButton}}};
+  for (const auto& [form, shares, ids] : rows) {
+    HWND window = form.PeerOf().Window;
+    const Edges whole = EdgesOf(window);
+    const auto resize = [&](LONG growth) {
+      SetWindowPos(window, nullptr, 0, 0, whole[2] - whole[0] + growth, whole[3] - whole[1] + growth,
+                   SWP_NOMOVE | SWP_NOZORDER);
+    };
     for (const int id : ids) {
-      const auto resize = [window = form.PeerOf().Window](LONG growth) {
-        const Edges edges = EdgesOf(window);
-        SetWindowPos(window, nullptr, 0, 0, edges[2] - edges[0] + growth, edges[3] - edges[1] + growth,
-                     SWP_NOMOVE | SWP_NOZORDER);
-      };
       const Edges before = EdgesOf(form, id);
-      resize(kGrowth);
+      resize(100);
       const Edges after = EdgesOf(form, id);
-      std::string moved;
-      for (std::size_t edge = 0; edge < 4; ++edge) moved += after[edge] == before[edge] + kGrowth ? "ltrb"[edge] : ' ';
-      EXPECT_EQ(moved, following) << id;
-      resize(-10 * kGrowth);  // no form gets smaller than it was made
+      for (std::size_t edge = 0; edge < 4; ++edge) EXPECT_EQ(after[edge] - before[edge], shares[edge]) << id;
+      resize(-400);  // no form gets narrower than it was made, and only the main window lower
+      const Edges least = EdgesOf(window);
+      EXPECT_EQ(least[2] - least[0], whole[2] - whole[0]);
+      EXPECT_EQ(least[3] - least[1] < whole[3] - whole[1], &form == &main_form);
+      resize(0);
       EXPECT_EQ(EdgesOf(form, id), before) << id;
     }
   }
