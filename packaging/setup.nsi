@@ -49,7 +49,7 @@ VIAddVersionKey "ProductName" "${NAME}"
 VIAddVersionKey "ProductVersion" "${VERSION}"
 VIAddVersionKey "FileDescription" "${NAME} Setup"
 VIAddVersionKey "FileVersion" "${VERSION}"
-VIAddVersionKey "LegalCopyright" ""
+VIAddVersionKey "LegalCopyright" "Copyright (C) 2026 the Larkspur Filer authors"
 
 ; ---- Pages
 
@@ -109,6 +109,20 @@ VIAddVersionKey "LegalCopyright" ""
   ${EndIf}
 !macroend
 
+; Gives a file type back to whom it belonged, unless it has gone to another program since.
+!macro GiveBack TYPE CLASS FORMER
+  ReadRegStr $R1 HKCU "${CLASSES}\${TYPE}" ""
+  ${If} $R1 == "${CLASS}"
+    ReadRegStr $R1 HKCU "${OWN_KEY}" "${FORMER}"
+    ${If} $R1 == ""
+      DeleteRegValue HKCU "${CLASSES}\${TYPE}" ""
+    ${Else}
+      WriteRegStr HKCU "${CLASSES}\${TYPE}" "" $R1
+    ${EndIf}
+  ${EndIf}
+  DeleteRegValue HKCU "${OWN_KEY}" "${FORMER}"
+!macroend
+
 ; These are needed on both sides; what runs in the uninstaller must be called un.Something.
 !macro SharedFunctions UN
 
@@ -139,19 +153,7 @@ Function ${UN}CloseRunning
   ${Loop}
 FunctionEnd
 
-; Gives a file type back to whom it belonged, unless it has gone to another program since.
-!macro GiveBack TYPE CLASS FORMER
-  ReadRegStr $R1 HKCU "${CLASSES}\${TYPE}" ""
-  ${If} $R1 == "${CLASS}"
-    ReadRegStr $R1 HKCU "${OWN_KEY}" "${FORMER}"
-    ${If} $R1 == ""
-      DeleteRegValue HKCU "${CLASSES}\${TYPE}" ""
-    ${Else}
-      WriteRegStr HKCU "${CLASSES}\${TYPE}" "" $R1
-    ${EndIf}
-  ${EndIf}
-  DeleteRegValue HKCU "${OWN_KEY}" "${FORMER}"
-!macroend
+; Gives the file types back.
 Function ${UN}GiveBackExtensions
   !insertmacro GiveBack ".FIL" "${DOCUMENT}" "FormerOwner"
   !insertmacro GiveBack ".PRN" "${REPORT}" "FormerReportOwner"
