@@ -6,15 +6,6 @@
 
 namespace {
 
-RECT WorkAreaAt(HMONITOR screen) {
-  MONITORINFO monitor{};
-  monitor.cbSize = sizeof monitor;
-  GetMonitorInfoW(screen, &monitor);
-  return monitor.rcWork;
-}
-
-RECT WorkAreaOf(HWND window) { return WorkAreaAt(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)); }
-
 // Moves the window there, but keeps it on the work area, and no larger than that if it can be resized; the upper left
 // corner counts most.
 void MoveOnto(const RECT& area, HWND window, const RECT& wanted, bool resizes) {

@@ -36,6 +36,15 @@ struct Marks {
 
 }  // namespace
 
+RECT WorkAreaAt(HMONITOR screen) {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(screen, &monitor);
+  return monitor.rcWork;
+}
+
+RECT WorkAreaOf(HWND window) { return WorkAreaAt(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)); }
+
 void Layout::Begin(HWND form) {
   form_ = form;
   base_ = Inside();
@@ -112,10 +121,7 @@ void Layout::Arrange() const {
 void Layout::Limit(MINMAXINFO& limits) const {
   if (items_.empty()) limits.ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
   if (items_.empty() || scaling_) return;
-  MONITORINFO monitor{};
-  monitor.cbSize = sizeof monitor;
-  GetMonitorInfoW(MonitorFromWindow(form_, MONITOR_DEFAULTTONEAREST), &monitor);
-  const SIZE room = SizeOf(monitor.rcWork);
+  const SIZE room = SizeOf(WorkAreaOf(form_));
   limits.ptMinTrackSize = {std::min(smallest_.cx, room.cx), std::min(smallest_.cy, room.cy)};
 }
 

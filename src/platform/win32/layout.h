@@ -7,6 +7,10 @@
 
 #include "platform/form.h"
 
+// The part of a screen that windows may cover; that of the screen on which a window mostly is.
+RECT WorkAreaAt(HMONITOR screen);
+RECT WorkAreaOf(HWND window);
+
 class Layout {
  public:
   // Takes the form as it is for the smallest one.

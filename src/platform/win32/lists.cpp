@@ -24,13 +24,6 @@ bool Valid(const ListControl& list, int position) {
   return position >= 0 && static_cast<std::size_t>(position) < list.Entries().size();
 }
 
-RECT RectOfScreen(HWND window) {
-  MONITORINFO monitor{};
-  monitor.cbSize = sizeof monitor;
-  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-  return monitor.rcWork;
-}
-
 // Makes the list of a drop-down as wide as its names need and the screen has room, judged by the first few: measuring
 // all would take longer than filling the list. Done as it drops down, for the window's size and font may change.
 void WidenDropList(const Control::Peer& peer) {
@@ -50,7 +43,7 @@ void WidenDropList(const Control::Peer& peer) {
   GetWindowRect(peer.Window, &own);
   const LONG width = own.right - own.left;
   const LONG margins = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE) + 4;
-  const LONG room = std::max(width, RectOfScreen(peer.Window).right - own.left);
+  const LONG room = std::max(width, WorkAreaOf(peer.Window).right - own.left);
   peer.Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width));  // not all systems go back to less in one step
   peer.Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::clamp(widest + margins, width, room)));
 }
