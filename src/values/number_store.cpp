@@ -66,7 +66,8 @@ double InPennies(double amount, Reasons& reasons) {
 // The stored form of a percentage, replaced when it is out of the type's range.
 void StorePercentage(const std::string& type, float percentage, char separator, Outcome& outcome) {
   const std::string written = WriteSingle(percentage, separator) + "%";
-  const bool is_interest = type == "INTRATE", is_signed = type == "ODDSPM";
+  const bool is_interest = type == "INTRATE";
+  const bool is_signed = type == "ODDSPM";
   outcome.Text = written;
   outcome.IsHighInterest = is_interest && percentage > 100;
   if (percentage >= (is_signed ? -100.0F : 0.0F) && (percentage <= 100 || is_interest)) return;
