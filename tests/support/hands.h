@@ -13,7 +13,7 @@
 
 namespace Hands {
 
-// The listener of the test is told of what comes up from now on; of nothing any more.
+// The listeners of a test are told of what comes up from now on; of nothing any more.
 void Begin();
 void End();
 

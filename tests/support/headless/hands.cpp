@@ -57,15 +57,11 @@ const Surface* FocusedSurface(const Form& form) { return dynamic_cast<const Surf
 
 void Hands::Begin() {
   Stage& stage = CurrentStage();
-  stage.Message = [](const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
-    return TheListener()->MessageCame(text, caption, buttons, icon);
-  };
-  stage.Input = [](const std::string& prompt, const std::string& caption, const std::string& offered) {
-    return TheListener()->InputCame(prompt, caption, offered);
-  };
-  stage.File = [](const FileChoice& choice) { return TheListener()->FileDialogCame(Asked(choice)); };
+  stage.Message = Coming::Message;
+  stage.Input = Coming::Input;
+  stage.File = [](const FileChoice& choice) { return Coming::FileDialog(Asked(choice)); };
   stage.Use = [](Form& form) {
-    TheListener()->FormCame(form);
+    Coming::FormToUse(form);
     form.PeerOf().Closed = true;
   };
 }

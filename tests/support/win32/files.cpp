@@ -12,10 +12,13 @@
 
 #include "platform/files.h"
 #include "platform/program.h"
+#include "platform/registry.h"
 #include "platform/win32/end_hook.h"
 #include "platform/win32/wide.h"
 
 namespace {
+
+namespace fs = std::filesystem;
 
 [[maybe_unused]] const bool kEndHookSet = [] {
   EndHook = [] { throw ProgramEnded{}; };
@@ -30,30 +33,14 @@ void Require(bool done, const std::string& what) {
   if (!done) throw std::runtime_error("test files: " + what + ", code " + std::to_string(GetLastError()));
 }
 
-template <typename Visit>
-void ForEachIn(const std::string& where, Visit visit) {
-  WIN32_FIND_DATAW entry{};
-  HANDLE search = FindFirstFileW(SystemName(where + "\\*").c_str(), &entry);
-  if (search == INVALID_HANDLE_VALUE) return;
-  do {
-    const std::string name = Bytes(entry.cFileName);
-    const bool is_folder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    if (name != "." && name != "..") visit(name, is_folder);
-  } while (FindNextFileW(search, &entry));
-  FindClose(search);
-}
-
-void RemoveTree(const std::string& where) {
-  ForEachIn(where, [&where](const std::string& name, bool is_folder) {
-    const std::string full_name = where + "\\" + name;
-    SetFileAttributesW(SystemName(full_name).c_str(), FILE_ATTRIBUTE_NORMAL);
-    if (is_folder) {
-      RemoveTree(full_name);
-    } else {
-      Require(DeleteFileW(SystemName(full_name).c_str()), "remove " + full_name);
-    }
-  });
-  Require(RemoveDirectoryW(SystemName(where).c_str()), "remove " + where);
+// Files may be read-only, and have longer names than the library takes.
+void RemoveTree(const fs::path& where) {
+  for (const auto& each : fs::directory_iterator(where)) {
+    const std::wstring name = SystemName(Bytes(each.path().wstring()));
+    SetFileAttributesW(name.c_str(), FILE_ATTRIBUTE_NORMAL);
+    if (!DeleteFileW(name.c_str())) RemoveTree(each.path());
+  }
+  Require(RemoveDirectoryW(where.c_str()), "remove " + where.string());
 }
 
 }  // namespace
@@ -63,30 +50,30 @@ namespace TestFiles {
 void Start() {
   static int count = 0;
   former_folder = CurrentFolder();
-  const std::string made =
-      TemporaryFolder() + "\\FilerTest" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
-  Require(CreateDirectoryW(Wide(made).c_str(), nullptr), "make " + made);
-  Require(SetCurrentDirectoryW(Wide(made).c_str()), "enter " + made);
+  const std::string name = "\\FilerTest" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
+  const std::wstring made = Wide(TemporaryFolder() + name);
+  Require(CreateDirectoryW(made.c_str(), nullptr) && SetCurrentDirectoryW(made.c_str()), "make " + name);
   folder = CurrentFolder();
+  RegDeleteTreeA(HKEY_CURRENT_USER, kOwnKey);
 }
 
 void Finish() {
   Files::CloseAll();
   ReleaseByOther();
   Require(SetCurrentDirectoryW(Wide(former_folder).c_str()), "return to " + former_folder);
-  RemoveTree(folder);
+  RemoveTree(Wide(folder));
 }
 
 std::string Folder() { return folder; }
 
 void Put(const std::string& name, std::string_view bytes) {
-  std::ofstream out(std::filesystem::path(SystemName(name)), std::ios::binary);
+  std::ofstream out(fs::path(SystemName(name)), std::ios::binary);
   out << bytes << std::flush;
   Require(out.good(), "put " + name);
 }
 
 std::optional<std::string> Get(const std::string& name) {
-  std::ifstream in(std::filesystem::path(SystemName(name)), std::ios::binary);
+  std::ifstream in(fs::path(SystemName(name)), std::ios::binary);
   if (!in) return std::nullopt;
   return std::string(std::istreambuf_iterator<char>(in), {});
 }
@@ -96,16 +83,14 @@ void SetReadOnly(const std::string& name, bool read_only) {
   Require(SetFileAttributesW(SystemName(name).c_str(), attributes), "set read-only " + name);
 }
 
-void MakeFolder(const std::string& name) {
-  Require(CreateDirectoryW(SystemName(name).c_str(), nullptr) || GetLastError() == ERROR_ALREADY_EXISTS,
-          "make " + name);
-}
+void MakeFolder(const std::string& name) { fs::create_directory(fs::path(SystemName(name))); }
 
 std::vector<std::string> List(const std::string& below) {
   std::vector<std::string> names;
-  ForEachIn(below.empty() ? folder : folder + "\\" + below, [&names](const std::string& name, bool is_folder) {
-    if (!is_folder) names.push_back(name);
-  });
+  std::error_code none;
+  for (const auto& each : fs::directory_iterator(Wide(folder + "\\" + below), none)) {
+    if (!each.is_directory(none)) names.push_back(Bytes(each.path().filename().wstring()));
+  }
   std::sort(names.begin(), names.end());
   return names;
 }

@@ -2,22 +2,18 @@
 #include "support/hands.h"
 
 #include <algorithm>
-#include <memory>
 
 #include "platform/win32/drop_target.h"
 #include "platform/win32/internals.h"
 #include "platform/win32/photo.h"
 #include "platform/win32/surface_work.h"
 #include "platform/win32/wide.h"
-#include "support/win32/watcher.h"
 // After windows.h, on which it builds.
 #include <shlobj.h>
 
 namespace {
 
 using Kind = Control::Peer::Kind;
-
-std::unique_ptr<Watcher> watcher;
 
 // The watcher's own timer waits for a message loop.
 void SettlePart() {
@@ -110,9 +106,6 @@ LPARAM Inside(const Surface& surface, const Cell& cell) {
 
 }  // namespace
 
-void Hands::Begin() { watcher = std::make_unique<Watcher>(); }
-void Hands::End() { watcher.reset(); }
-
 Hands::Sight Hands::LookAt(const Control& control) {
   const Control::Peer& peer = control.PeerOf();
   Sight sight;
@@ -164,7 +157,11 @@ void Hands::MoveTo(Control& control) {
   SettlePart();
 }
 
-void Hands::Type(Control& box, const std::string& text) { TypeInto(EditOf(box.PeerOf()), text); }
+void Hands::Type(Control& box, const std::string& text) {
+  HWND edit = EditOf(box.PeerOf());
+  SendMessageW(edit, EM_SETSEL, 0, -1);
+  SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(Wide(text).c_str()));
+}
 
 void Hands::Click(Control& control) {
   const Control::Peer& peer = control.PeerOf();
