@@ -119,6 +119,7 @@ std::vector<int> ThingsInCategories(std::int32_t category_mask) {
 
 std::vector<Column> ComputeColumns(const std::vector<int>& fields, const std::vector<int>& records) {
   std::vector<Column> columns;
+  InterestQuestion question;
   for (const int number : fields) {
     const FieldDefinition& field = TheDocument.Fields[number];
     Column& column = columns.emplace_back(field.Keyword, field.Title, field.Type, "");
@@ -128,7 +129,7 @@ std::vector<Column> ComputeColumns(const std::vector<int>& fields, const std::ve
     const FormulaDefinition& formula = TheDocument.Formulas[number];
     if (!IsNumberType(formula.Type)) continue;
     Column& column = columns.emplace_back(formula.Name, formula.Title, formula.Type, formula.Format);
-    for (const int record : records) column.Add(FormulaResult(formula, TheDocument.Things[record].Values));
+    for (const int record : records) column.Add(FormulaResult(formula, TheDocument.Things[record].Values, question));
   }
   for (Column& column : columns) column.AddTotals();
   return columns;
