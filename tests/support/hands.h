@@ -47,7 +47,6 @@ void Type(Control& box, const std::string& text);
 void Click(Control& control);
 void Select(ListControl& list, int position);
 void TurnOver(CheckList& list, int position);
-bool CanChoose(const Form& form, int item);  // as when its menu opens
 void Choose(Form& form, int item);
 void Press(Form& form, const KeyPress& key);
 void PressControl(Form& form, char letter);

@@ -68,7 +68,7 @@ void User::Enters(int id, const std::string& text) {
 
 void User::ChoosesMenu(int id) {
   Do([&] {
-    Require(Hands::CanChoose(Topmost(), id), id, " is greyed");
+    Require(Topmost().MenuEnabled(id), id, " is greyed");
     Hands::Choose(Topmost(), id);
   });
 }

@@ -104,7 +104,6 @@ void Hands::Type(Control& box, const std::string& text) {
 void Hands::Click(Control& control) { control.PeerOf().Click(); }
 void Hands::Select(ListControl& list, int position) { list.PeerOf().ChangeSelection(position); }
 void Hands::TurnOver(CheckList& list, int position) { list.PeerOf().ChangeTick(position, !list.Checked(position)); }
-bool Hands::CanChoose(const Form& form, int item) { return form.MenuEnabled(item); }
 void Hands::Choose(Form& form, int item) { Raise(form.MenuClick, item); }
 
 void Hands::Press(Form& form, const KeyPress& key) {

@@ -2,13 +2,16 @@
 // program visible to tests, as it is in memory.
 #include "support/files.h"
 
+#include <share.h>
 #include <windows.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+#include <utility>
 
 #include "platform/files.h"
 #include "platform/program.h"
@@ -25,12 +28,11 @@ namespace fs = std::filesystem;
   return true;
 }();
 
-std::string folder;
-std::string former_folder;
-std::vector<HANDLE> other_handles;
+fs::path folder, former_folder;
+std::vector<std::FILE*> held_by_other;
 
 void Require(bool done, const std::string& what) {
-  if (!done) throw std::runtime_error("test files: " + what + ", code " + std::to_string(GetLastError()));
+  if (!done) throw std::runtime_error("test files: cannot " + what + ", code " + std::to_string(GetLastError()));
 }
 
 // Files may be read-only, and have longer names than the library takes.
@@ -49,22 +51,22 @@ namespace TestFiles {
 
 void Start() {
   static int count = 0;
-  former_folder = CurrentFolder();
-  const std::string name = "\\FilerTest" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
-  const std::wstring made = Wide(TemporaryFolder() + name);
-  Require(CreateDirectoryW(made.c_str(), nullptr) && SetCurrentDirectoryW(made.c_str()), "make " + name);
-  folder = CurrentFolder();
+  former_folder = fs::current_path();
+  folder =
+      fs::temp_directory_path() / ("FilerTest" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count));
+  fs::create_directory(folder);
+  fs::current_path(folder);
   RegDeleteTreeA(HKEY_CURRENT_USER, kOwnKey);
 }
 
 void Finish() {
   Files::CloseAll();
   ReleaseByOther();
-  Require(SetCurrentDirectoryW(Wide(former_folder).c_str()), "return to " + former_folder);
-  RemoveTree(Wide(folder));
+  fs::current_path(former_folder);
+  RemoveTree(folder);
 }
 
-std::string Folder() { return folder; }
+std::string Folder() { return Bytes(folder.wstring()); }
 
 void Put(const std::string& name, std::string_view bytes) {
   std::ofstream out(fs::path(SystemName(name)), std::ios::binary);
@@ -79,16 +81,16 @@ std::optional<std::string> Get(const std::string& name) {
 }
 
 void SetReadOnly(const std::string& name, bool read_only) {
-  const DWORD attributes = read_only ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL;
-  Require(SetFileAttributesW(SystemName(name).c_str(), attributes), "set read-only " + name);
+  fs::permissions(SystemName(name), fs::perms::owner_write,
+                  read_only ? fs::perm_options::remove : fs::perm_options::add);
 }
 
-void MakeFolder(const std::string& name) { fs::create_directory(fs::path(SystemName(name))); }
+void MakeFolder(const std::string& name) { fs::create_directory(SystemName(name)); }
 
 std::vector<std::string> List(const std::string& below) {
   std::vector<std::string> names;
   std::error_code none;
-  for (const auto& each : fs::directory_iterator(Wide(folder + "\\" + below), none)) {
+  for (const auto& each : fs::directory_iterator(folder / Wide(below), none)) {
     if (!each.is_directory(none)) names.push_back(Bytes(each.path().filename().wstring()));
   }
   std::sort(names.begin(), names.end());
@@ -96,17 +98,13 @@ std::vector<std::string> List(const std::string& below) {
 }
 
 void HoldByOther(const std::string& name, bool against_readers) {
-  const DWORD access = against_readers ? GENERIC_READ | GENERIC_WRITE : GENERIC_WRITE;
-  const DWORD sharing = against_readers ? 0 : FILE_SHARE_READ;
-  HANDLE file =
-      CreateFileW(SystemName(name).c_str(), access, sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  Require(file != INVALID_HANDLE_VALUE, "hold " + name);
-  other_handles.push_back(file);
+  const int against = against_readers ? _SH_DENYRW : _SH_DENYWR;
+  held_by_other.push_back(_wfsopen(SystemName(name).c_str(), L"r+b", against));
+  Require(held_by_other.back() != nullptr, "hold " + name);
 }
 
 void ReleaseByOther() {
-  for (HANDLE each : other_handles) CloseHandle(each);
-  other_handles.clear();
+  for (std::FILE* each : std::exchange(held_by_other, {})) std::fclose(each);
 }
 
 }  // namespace TestFiles

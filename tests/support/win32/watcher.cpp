@@ -60,6 +60,7 @@ HWND TopDialog() {
 }
 
 Icon MeaningOf(HICON icon) {
+  if (icon == nullptr) return Icon::None;
   if (icon == LoadIconW(nullptr, MAKEINTRESOURCEW(32516))) return Icon::Information;
   if (icon == LoadIconW(nullptr, MAKEINTRESOURCEW(32515))) return Icon::Exclamation;
   EXPECT_EQ(icon, LoadIconW(nullptr, MAKEINTRESOURCEW(32513))) << "A message box has an icon of no known meaning";
@@ -71,25 +72,17 @@ HWND VisibleItem(HWND dialog, int id) {
   return item != nullptr && IsWindowVisible(item) ? item : nullptr;
 }
 
-// What a message box says; false when the dialog is none.
-bool ReadMessageBox(HWND box, std::string& text, Icon& icon) {
-  bool is_box = false;
+void AnswerMessageBox(HWND box) {
+  std::string text;
+  Icon icon = Icon::None;
   for (HWND child : Inside(box)) {
-    const bool is_text = ClassOf(child) == "Static";
-    if (is_text && (GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON) {
-      HICON shown = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
-      if (IsWindowVisible(child) && shown != nullptr) icon = MeaningOf(shown);
-    } else if (is_text) {
+    if (ClassOf(child) != "Static" || !IsWindowVisible(child)) continue;
+    if ((GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON) {
+      icon = MeaningOf(reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0)));
+    } else {
       text = TextOfWindow(child);
-      is_box = true;
-    } else if (ClassOf(child) != "Button") {
-      return false;
     }
   }
-  return is_box;
-}
-
-void AnswerMessageBox(HWND box, const std::string& text, Icon icon) {
   const bool may_cancel = VisibleItem(box, IDOK) != nullptr && VisibleItem(box, IDCANCEL) != nullptr;
   const Buttons buttons = VisibleItem(box, IDYES) != nullptr ? Buttons::YesNo
                           : may_cancel                       ? Buttons::OkCancel
@@ -112,25 +105,19 @@ HWND NameField(HWND dialog) {
   return nullptr;
 }
 
-// What a file dialog is asked for, in words.
-std::string AskedOf(HWND dialog, HWND field) {
+// What is asked, in words.
+void AnswerFileDialog(HWND dialog, HWND field) {
   std::string asked = TextOfWindow(dialog);
   for (HWND child : Inside(dialog)) {
     const std::string text = ClassOf(child) == "ComboBox" ? TextOfWindow(child) : "";
     if (text.find("(*.") != std::string::npos) asked += " | " + text;
   }
   if (!TextOfWindow(field).empty()) asked += " | " + TextOfWindow(field);
-  wchar_t text[MAX_PATH] = L"";
-  SendMessageW(dialog, CDM_GETFOLDERPATH, std::size(text), reinterpret_cast<LPARAM>(text));
-  const std::string folder = Bytes(text);
-  if (!folder.empty() && TestFiles::Folder() != folder) asked += " | in " + folder;
-  return asked + (TextOfWindow(GetDlgItem(dialog, IDOK)) == "&Save" ? " | to write" : "");
-}
-
-void AnswerFileDialog(HWND dialog) {
-  HWND field = NameField(dialog);
-  EXPECT_NE(field, nullptr) << "A dialog \"" << TextOfWindow(dialog) << "\" came that takes no file name";
-  const std::string name = Coming::FileDialog(AskedOf(dialog, field));
+  wchar_t folder[MAX_PATH] = L"";
+  SendMessageW(dialog, CDM_GETFOLDERPATH, std::size(folder), reinterpret_cast<LPARAM>(folder));
+  if (TestFiles::Folder() != Bytes(folder)) asked += " | in " + Bytes(folder);
+  if (TextOfWindow(GetDlgItem(dialog, IDOK)) == "&Save") asked += " | to write";
+  const std::string name = Coming::FileDialog(asked);
   SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(name).c_str()));
   PostMessageW(dialog, WM_COMMAND, name.empty() ? IDCANCEL : IDOK, 0);
 }
@@ -143,16 +130,11 @@ void AnswerInputBox(const Form& form) {
   Hands::Click(control(answer.empty() ? IDCANCEL : IDOK));
 }
 
-// Lets the person use the form; what an action throws is carried to the form's message loop.
+// What an action throws is carried to the form's message loop.
 void UseForm(Form& form) {
-  Form::Peer& peer = form.PeerOf();
-  peer.Guard([&] {
+  form.PeerOf().Guard([&form] {
     Coming::FormToUse(form);
-    if (peer.Modal) {
-      peer.Closed = true;
-    } else {
-      peer.Gone();
-    }
+    form.PeerOf().Gone();
   });
 }
 
@@ -165,14 +147,9 @@ void CALLBACK Look(HWND /*window*/, UINT /*message*/, UINT_PTR /*id*/, DWORD /*t
     if (!peer.Running || peer.Closed || peer.Carried || !MarkSeen(dialog, peer.Runs)) return;
     return peer.Template == IDD_InputBox ? AnswerInputBox(*form) : UseForm(*form);
   }
-  std::string text;
-  Icon icon = Icon::None;
   if (!MarkSeen(dialog, 1)) return;
-  if (ReadMessageBox(dialog, text, icon)) {
-    AnswerMessageBox(dialog, text, icon);
-  } else {
-    AnswerFileDialog(dialog);
-  }
+  HWND field = NameField(dialog);
+  field != nullptr ? AnswerFileDialog(dialog, field) : AnswerMessageBox(dialog);
 }
 
 }  // namespace
