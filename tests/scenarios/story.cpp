@@ -1,10 +1,7 @@
 // Telling a story: its acts one by one, what comes up meanwhile, and what is seen after each.
 #include "scenarios/story.h"
 
-#include <algorithm>
-
 #include "platform/program.h"
-#include "shell/messages.h"
 #include "support/hands.h"
 #include "support/names.h"
 #include "support/rows.h"
@@ -42,11 +39,6 @@ std::string Expanded(std::string text) {
   return text;
 }
 
-// The usual one is not told.
-std::string CaptionInWords(const std::string& caption) {
-  return caption == Global::ProgramTitle ? "" : " [" + caption + "]";
-}
-
 // A click on these closes a form.
 bool Leaves(const std::string& part) { return part == "OKButton" || part == "CancelButton"; }
 
@@ -73,7 +65,6 @@ Story::Story(const Tale& above, const Tale& tale)
 void Story::SetUp() {
   FreshTest::SetUp();
   ResetMachine();
-  TheListener() = this;
 }
 
 void Story::TearDown() {
@@ -141,16 +132,7 @@ void Story::Use(int id, const std::optional<std::string>& text) {
   const auto found = controls.find(id);
   if (found == controls.end()) return user.ChoosesMenu(id);
   Sees.Foresee(*found->second, text);
-  const auto entries = Hands::LookAt(*found->second).Entries;
-  if (!text) {
-    user.Clicks(id);
-  } else if (dynamic_cast<const CheckList*>(found->second) != nullptr) {
-    user.Ticks(id, *text);
-  } else if (std::find(entries.begin(), entries.end(), *text) != entries.end()) {
-    user.Picks(id, *text);
-  } else {
-    user.Types(id, *text);
-  }
+  text ? user.Enters(id, *text) : user.Clicks(id);
 }
 
 std::string Story::Unquoted(const std::string& text) {
@@ -171,41 +153,20 @@ void Story::Leave() {
   StartFresh();
 }
 
-std::string Story::Reply(const std::string& asked) {
+void Story::BoxCame(const std::string& words) {
+  Sees.LookAtFiles();
+  Say(words);
+}
+
+std::string Story::ReplyTo(const std::string& words) {
   if (parts_.empty()) {
-    Fail("nobody said what to answer to: " + asked);
+    Fail("nobody said what to answer to: " + words);
     return "cancel";
   }
   const std::string reply = parts_.front();
   parts_.pop_front();
-  return reply;
+  return Expanded(reply);
 }
-
-std::string Story::TextReply(const std::string& asked) {
-  Say(asked);
-  const std::string reply = Reply(asked);
-  if (reply == "cancel") return "";
-  if (!reply.starts_with('"')) Fail(reply + " is no answer to: " + asked);
-  return Unquoted(Expanded(reply));
-}
-
-Answer Story::MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
-  Sees.LookAtFiles();
-  const std::string line = InWords(text, buttons, icon) + CaptionInWords(caption);
-  Say(line);
-  if (buttons == Buttons::Ok) return Answer::Ok;
-  const std::string reply = Reply(line);
-  const auto answer = AnswerOf(reply, buttons);
-  if (!answer) Fail(reply + " is no answer to: " + line);
-  return answer.value_or(buttons == Buttons::YesNo ? Answer::No : Answer::Cancel);
-}
-
-std::string Story::InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) {
-  return TextReply("input: " + prompt + (offered.empty() ? "" : " offers \"" + offered + "\"") +
-                   CaptionInWords(caption));
-}
-
-std::string Story::FileDialogCame(const std::string& asked) { return TextReply("file dialog: " + asked); }
 
 void Story::FormCame(Form& form) {
   const auto open = Hands::OpenForms();

@@ -67,9 +67,8 @@ class Story : public FreshTest, public Listener {
   static std::string Unquoted(const std::string& text);
   Recorder Sees;
 
-  Answer MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
-  std::string InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) override;
-  std::string FileDialogCame(const std::string& asked) override;
+  void BoxCame(const std::string& words) override;
+  std::string ReplyTo(const std::string& words) override;
   void FormCame(Form& form) override;
 
  private:
@@ -79,8 +78,6 @@ class Story : public FreshTest, public Listener {
   void Step();
   void DoPart();
   void Use(int id, const std::optional<std::string>& text);
-  std::string Reply(const std::string& asked);
-  std::string TextReply(const std::string& asked);
 
   Tale above_, tale_;
   std::vector<StoryLine*> acts_;
