@@ -1,9 +1,7 @@
-// Reading print files: the header, the lines and the head; and finding text in them.
+// Reading print files: the header, the lines and the head.
 #include "viewer/report_text.h"
 
 #include <gtest/gtest.h>
-
-#include "viewer/finder.h"
 
 namespace {
 
@@ -55,34 +53,6 @@ TEST(ReportTextTest, HasHeaderHeadAndLines) {
       {"&#937;\tx&#38;#937;", "plain/0/0/15|\x1A       x&#937;"},
   };
   for (const auto& [bytes, described] : rows) EXPECT_EQ(Described(ReportText(bytes)), described) << bytes;
-}
-
-// The places of all hits, forward or backward; what is found twice would not end.
-std::string Hits(const ReportText& text, const std::string& sought, bool forward) {
-  const Finder finder(sought);
-  std::string places;
-  for (auto place = forward ? finder.Next(text, {}) : finder.Previous(text, {text.Count(), 0}); place;
-       place = forward ? finder.Next(text, {place->Line, place->Column + finder.Length()})
-                       : finder.Previous(text, *place)) {
-    const std::string told = std::to_string(place->Line) + "," + std::to_string(place->Column) + " ";
-    places.insert(forward ? places.size() : 0, told);
-  }
-  return places + std::to_string(finder.CountIn(text, text.Body()));
-}
-
-TEST(FinderTest, FindsForwardAndBackwardWithoutOverlap) {
-  const ReportText text("aaaa Shed\r\nnone\r\nSHED a\r\ncaf\xE9 CAF\xC9\r\n&#8734;&#937;x&#38;#937;\x1A");
-  const std::pair<std::string, std::string> rows[] = {
-      {"shed", "0,5 2,0 2"}, {"aa", "0,0 0,2 2"}, {"CAF\xE9", "3,0 3,5 2"},
-      {"&#937;X", "4,1 1"},  {"&#937;", "4,1 1"}, {"&#38;#937;", "4,3 1"},
-      {"\x1A", "4,9 1"},     {"missing", "0"},    {"", "0"}};
-  for (const auto& [sought, hits] : rows) {
-    EXPECT_EQ(Hits(text, sought, true), hits) << sought;
-    EXPECT_EQ(Hits(text, sought, false), hits) << sought;
-  }
-  EXPECT_EQ(Finder("aa").Next(text, {0, 1}), (Place{0, 2}));
-  EXPECT_EQ(text.TextOf(text.Line(4)) + text.Shown(text.Line(4).substr(1)),
-            "&#8734;&#937;x&#38;#937;\x1A&#937;x&#38;#937; ");
 }
 
 }  // namespace

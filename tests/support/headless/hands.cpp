@@ -179,8 +179,7 @@ std::vector<std::string> Hands::MachineNews() {
   std::vector<std::string> news;
   for (const std::string& command_line : Machine::StartedPrograms()) news.push_back("starts " + command_line);
   for (const Page& page : Machine::PrintedPages()) {
-    const auto rows = RowsOf(page);
-    news.push_back("prints " + std::to_string(rows.size()) + " rows: " + rows.at(1) + " ... " + rows.back());
+    news.push_back("prints " + Joined(RowsOf(page), " / ") + (page.Rules.empty() ? "" : " lines " + RulesOf(page)));
   }
   return news;
 }

@@ -4,11 +4,13 @@
 //   no-starts                  starting a program gives no process
 //   program-folder FOLDER      where the program lies; today YEAR MONTH DAY; first-weekday NUMBER (0 is Sunday)
 //   registry KEY NAME TEXT     a value of the user's, "-" for the default one; unregister KEY
-//   printer FIRST LAST [SHEETS [HEIGHT]], printer 0 (cancels)
+//   printer FIRST LAST [SHEETS [COLUMNS ROWS]], printer cancels
+//   window COLUMNS ROWS        of text in its usual size, on each surface
 #include <sstream>
 
 #include "platform/headless/machine.h"
 #include "scenarios/story.h"
+#include "support/hands.h"
 #include "support/rows.h"
 
 namespace {
@@ -24,8 +26,24 @@ void SetPrinter(Story&, const std::string& rest) {
   PrintRange range{};
   std::istringstream in(rest);
   if (in >> range.First >> range.Last) printer.Chosen = range;
-  in >> printer.PaperLeft >> printer.Paper.Height;
+  in >> printer.PaperLeft;
+  Sheet& paper = printer.Paper;
+  if (int columns = 0, rows = 0; in >> columns >> rows) {
+    paper.Width = columns * paper.CellWidth() + paper.Left + paper.Right;
+    paper.Height = rows * paper.CellHeight() + paper.Top + paper.Bottom;
+  }
   Machine::SetPrinter(printer);
+}
+
+void SetWindow(Story&, const std::string& rest) {
+  int columns = 0, rows = 0;
+  std::istringstream(rest) >> columns >> rows;
+  Machine::SetSurface(columns, rows);
+  for (const Form* form : Hands::OpenForms()) {
+    for (const auto& [id, control] : Hands::ControlsOf(*form)) {
+      if (const auto* surface = dynamic_cast<const Surface*>(control)) surface->Resize();
+    }
+  }
 }
 
 void SetToday(Story&, const std::string& rest) {
@@ -47,7 +65,8 @@ const Story::Verbs& MachineVerbs() {
       {"registry", SetRegistry},
       {"unregister",
        [](Story&, const std::string& key) { Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, key); }},
-      {"printer", SetPrinter}};
+      {"printer", SetPrinter},
+      {"window", SetWindow}};
   return kVerbs;
 }
 
@@ -58,5 +77,6 @@ void ResetMachine() {
   Machine::SetFirstWeekday(0);
   Machine::FailStart(std::nullopt);
   Machine::SetPrinter(std::nullopt);
+  Machine::SetSurface(80, 25);
   Machine::StartedPrograms();
 }
