@@ -38,7 +38,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "scenarios/story_file.h"
 #include "support/fresh_test.h"
@@ -55,7 +54,8 @@ class Story : public FreshTest, public Listener {
   // For verbs.
   void Say(const std::string& line);
   void Fail(const std::string& why);
-  void Leave();  // closes the main window unasked
+  void OnlyInMemory();  // ends the story in real windows
+  void Leave();         // closes the main window unasked
   template <typename Window>
   Window& Open(std::unique_ptr<Window> form) {  // makes it the main window
     Window& opened = *form;
@@ -72,8 +72,6 @@ class Story : public FreshTest, public Listener {
   void FormCame(Form& form) override;
 
  private:
-  void SetUp() override;
-  void TearDown() override;
   void TestBody() override;
   bool GoesOn();
   void Do(const std::string& act);

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <fstream>
 
 #include "support/update.h"
@@ -20,9 +19,7 @@ std::string Joined(const std::vector<std::string>& lines, const char* before) {
 
 }  // namespace
 
-bool StoryLine::IsAct() const {
-  return !Text.empty() && !Text.starts_with('#') && !Text.starts_with(kTitle) && !Text.starts_with("only ");
-}
+bool StoryLine::IsAct() const { return !Text.empty() && !Text.starts_with('#') && !Text.starts_with(kTitle); }
 
 StoryFile::StoryFile(const std::string& path) : Path(path), Tales(1) {
   std::ifstream in(path);
@@ -36,13 +33,6 @@ StoryFile::StoryFile(const std::string& path) : Path(path), Tales(1) {
       Tales.back().push_back({number, line});
     }
   }
-}
-
-bool StoryFile::Says(std::size_t tale, const std::string& line) const {
-  const auto says = [&line](const Tale& each) {
-    return std::any_of(each.begin(), each.end(), [&line](const StoryLine& told) { return told.Text == line; });
-  };
-  return says(Tales[0]) || says(Tales[tale]);
 }
 
 void StoryFile::Compare(std::size_t tale) {

@@ -20,7 +20,6 @@ struct StoryFile {
   std::vector<Tale> Tales = {};  // the first one is what stands above all titles
 
   explicit StoryFile(const std::string& path);
-  bool Says(std::size_t tale, const std::string& line) const;  // there, or above all titles
   // Fails the test, with the lines that differ, unless what was seen is as the file has it; or makes it so.
   void Compare(std::size_t tale);
 };

@@ -1,5 +1,4 @@
 // The acts of a person and what stories are given: see story.h.
-#include <fstream>
 #include <iterator>
 #include <regex>
 #include <sstream>
@@ -23,8 +22,7 @@ using Text = const std::string&;
 
 void Give(Story&, Text rest) {
   const auto [name, as] = Halves(rest, ' ');
-  std::ifstream in(FILER_SOURCE_DIR "/tests/scenarios/given/" + name, std::ios::binary);
-  TestFiles::Put(as.empty() ? name : Story::Unquoted(as), std::string(std::istreambuf_iterator<char>(in), {}));
+  TestFiles::Put(as.empty() ? name : Story::Unquoted(as), SourceFile("tests/scenarios/given/" + name));
 }
 
 // Lines parted by " / ", each with its end; one alone without. "3*Th##" is three, which have their numbers for "##".
@@ -129,11 +127,9 @@ void DropFile(Story& story, Text name) {
 }
 
 void ShowFile(Story& story, Text name) {
-  std::istringstream in(TestFiles::Get(name).value());
-  for (std::string line; std::getline(in, line);) {
-    const bool whole = line.ends_with('\r') && !in.eof();
-    story.Say("| " + (whole ? line.substr(0, line.size() - 1) : line + " (no line's end)"));
-  }
+  auto lines = Parts(TestFiles::Get(name).value(), "\r\n");
+  lines.back() += lines.back().empty() ? "" : " (no line's end)";
+  for (const std::string& line : lines) story.Say("| " + line);
 }
 
 void OpenPrint(Story& story, Text typed) {
@@ -172,6 +168,7 @@ const Story::Verbs& GivenVerbs() {
                                       {"held", [](Story&, Text name) { TestFiles::HoldByOther(name, false); }},
                                       {"kept", [](Story&, Text name) { TestFiles::HoldByOther(name, true); }},
                                       {"released", [](Story&, Text) { TestFiles::ReleaseByOther(); }},
+                                      {"only", [](Story& story, Text) { story.OnlyInMemory(); }},
                                       {"home", ShowGiven},
                                       {"shows", ShowLines},
                                       {"full", Fill}};

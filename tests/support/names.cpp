@@ -71,11 +71,7 @@ const Book& TheBook() {
 
 }  // namespace
 
-const Names::Template& Names::Of(int form) {
-  static const Template kNone;
-  const auto found = TheBook().Templates.find(form);
-  return found == TheBook().Templates.end() ? kNone : found->second;
-}
+const Names::Template& Names::Of(int form) { return TheBook().Templates.at(form); }
 
 int Names::ControlOf(const std::string& name) {
   const auto [row, place] = Halves(name, '[');

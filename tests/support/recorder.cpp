@@ -16,18 +16,6 @@ using Aspects = std::map<std::string, std::string>;
 
 std::string Quoted(const std::string& text) { return '"' + text + '"'; }
 
-// Entries, those without a text counted: "(3)".
-std::string Entries(const Texts& texts) {
-  Texts parts;
-  std::size_t empty = 0;
-  for (const std::string& text : texts) {
-    empty = text.empty() ? empty + 1 : 0;
-    if (empty > 1) parts.pop_back();
-    parts.push_back(empty > 0 ? "(" + std::to_string(empty) + ")" : text);
-  }
-  return texts.empty() ? "(none)" : Joined(parts, " | ");
-}
-
 // The rows of a page that differ: "4: text / 5: text".
 std::string RowNews(Texts before, Texts now) {
   before.resize(std::max(before.size(), now.size()));
@@ -55,6 +43,12 @@ std::string NamesOf(int form, const std::vector<int>& ids) {
     line += (line.empty() ? "" : ", ") + name;
   }
   return line;
+}
+
+template <typename Map>
+typename Map::mapped_type At(const Map& map, int id) {
+  const auto found = map.find(id);
+  return found == map.end() ? typename Map::mapped_type() : found->second;
 }
 
 template <typename... Kinds>
@@ -89,10 +83,10 @@ void SeePage(Aspects& told, const Surface& surface) {
 
 // What is told of any control but its text.
 void SeeControl(Aspects& told, const Control& control, const Hands::Sight& sight) {
-  for (const std::string& entry : sight.Entries) told[":"] += entry + "\n";
+  for (const std::string& entry : sight.Entries) told[":"] += (entry.empty() ? "-" : entry) + "\n";
   const auto ticked = sight.TickedEntries();
   const auto* button = dynamic_cast<const Button*>(&control);
-  See(told, !ticked.empty(), "ticked", Entries(ticked));
+  See(told, !ticked.empty(), "ticked", Joined(ticked, " | "));
   See(told, !control.ToolTip().empty(), "tip", Quoted(control.ToolTip()));
   See(told, !sight.Enabled, "disabled");
   See(told, sight.Bold, "bold");
@@ -113,16 +107,16 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
   const bool topmost = Hands::OpenForms().back() == &form;
   for (const auto& [id, control] : Hands::ControlsOf(form)) {
     const Hands::Sight sight = Hands::LookAt(*control);
+    const Aspects old = At(before.Controls, id);
     Aspects& told = state.Controls[id];
     See(told, !sight.Visible, "hidden");
     if (!sight.Visible) continue;
     const bool picked = IsA<ListBox, RowList>(*control) && sight.Selected >= 0;
     const std::string text = picked ? sight.Entries.at(static_cast<std::size_t>(sight.Selected)) : sight.Text;
-    if (!text.empty() && (!names.Texts.contains(id) || names.Texts.at(id) != text)) told[""] = Quoted(text);
+    if (!text.empty() && text != At(names.Texts, id)) told[""] = Quoted(text);
     SeeControl(told, *control, sight);
     // While another form is on top, the focus waits where it was.
-    const auto old = before.Controls.find(id);
-    See(told, topmost ? sight.Focused : old != before.Controls.end() && old->second.contains("focus"), "focus");
+    See(told, topmost ? sight.Focused : old.contains("focus"), "focus");
     const auto [first, last] = sight.Mark;
     const bool whole = first == 0 && last == static_cast<int>(sight.Text.size());
     See(told, topmost && sight.Focused && first != last && !names.Lines.contains(id), "marked",
@@ -141,13 +135,15 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
 // What is new of a control whose template has that text, piece by piece. Where the focus went tells what it left.
 Texts Recorder::NewsOf(Aspects before, Aspects now, const std::string& blank) {
   Texts news;
+  const bool hidden = now.contains("hidden");  // nothing else is seen then
   for (const auto& [what, old] : before) now[what];
   const auto texts = [](const std::string& lines) { return Parts(lines.substr(0, lines.rfind('\n')), "\n"); };
   for (const auto& [what, is] : now) {
     const std::string& old = before[what];
-    if (old == is || (is.empty() && (what == "focus" || what == "marked"))) continue;
+    if (old == is || (hidden && what != "hidden")) continue;
+    if (is.empty() && (what == "focus" || what == "marked")) continue;
     if (what == ":") {
-      news.push_back(": " + Entries(is.empty() ? Texts() : texts(is)));
+      news.push_back(": " + (is.empty() ? "(none)" : Joined(texts(is), " | ")));
     } else if (what == "rows") {
       news.push_back(" " + RowNews(texts(old), texts(is)));
     } else {
@@ -197,14 +193,9 @@ void Recorder::Tell(const State& before, const State& now) {
     if (found->first != news) found->first += news;
     found->second.push_back(id);
   };
-  const auto& texts = Names::Of(now.Form).Texts;
   for (const auto& [id, told] : now.Controls) {
-    const auto old = before.Controls.find(id);
-    const Aspects were = old == before.Controls.end() ? Aspects() : old->second;
-    const auto news = NewsOf(were, told, texts.contains(id) ? texts.at(id) : "");
-    for (const std::string& each : news) {
-      if (!told.contains("hidden") || each == " hidden") add(id, each);
-    }
+    const std::string blank = At(Names::Of(now.Form).Texts, id);
+    for (const std::string& news : NewsOf(At(before.Controls, id), told, blank)) add(id, news);
   }
   // What is told of the same ones follows behind one name.
   for (auto line = lines.begin(); line != lines.end();) {

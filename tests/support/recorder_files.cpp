@@ -1,27 +1,13 @@
 // Putting into words what became of the test's files and of the document: see recorder.h.
 #include <algorithm>
 
+#include "contract/error_of.h"
 #include "platform/file_handles.h"
 #include "platform/files.h"
-#include "platform/runtime_error.h"
 #include "support/files.h"
 #include "support/properties.h"
 #include "support/recorder.h"
 #include "support/rows.h"
-
-namespace {
-
-bool IsLocked(const std::string& name) {
-  try {
-    Files::Open(kProbeHandle, name, Files::Mode::Lock);
-    Files::Close(kProbeHandle);
-    return false;
-  } catch (const RuntimeError& error) {
-    return error.Number == kPermissionDenied;
-  }
-}
-
-}  // namespace
 
 void Recorder::LookAtFiles() {
   std::map<std::string, std::string> now;
@@ -50,7 +36,9 @@ void Recorder::LookAtFiles() {
 // Which files nobody else can write now.
 void Recorder::LookAtLocks() {
   for (const auto& [name, bytes] : files_) {
-    const bool locked = IsLocked(name);
+    const bool locked =
+        ErrorOf([&file = name] { Files::Open(kProbeHandle, file, Files::Mode::Lock); }) == kPermissionDenied;
+    Files::Close(kProbeHandle);
     if (locked != locks_[name]) note_(name + (locked ? " locked" : " free"));
     locks_[name] = locked;
   }
