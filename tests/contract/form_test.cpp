@@ -19,10 +19,8 @@ TEST_F(FormTest, LivesFromLoadToUnloadAndMayRefuseToGo) {
     EXPECT_FALSE(form.Closed());
     form.Refuses = false;
   };
-  for (int life = 0; life < 2; ++life) {
-    Does([&] { form.ShowModal(); }, "Load, Activate, QueryUnload Code, QueryUnload Code, Unload");
-    EXPECT_TRUE(form.Closed());
-  }
+  const std::string life = "Load, Activate, QueryUnload Code, QueryUnload Code, Unload";
+  Does([&] { form.ShowModal(), form.ShowModal(); }, life + ", " + life);
   form.OnLoad = [] { throw ProgramEnded(); };
   EXPECT_THROW(form.Show(), ProgramEnded);
   EXPECT_TRUE(form.Closed());
@@ -85,8 +83,7 @@ TEST_F(FormTest, APersonDoesNothingImpossibleAndExpectsNothing) {
   form.LineBox.SetVisible(false);
   form.LinesBox.SetReadOnly(true);
   EXPECT_NONFATAL_FAILURE(user.ChoosesMenu(IDC_PlainItem), "greyed");
-  EXPECT_NONFATAL_FAILURE(user.Clicks(IDC_FirstButton), "disabled");
-  for (const int id : {IDC_LineBox, IDC_LinesBox, IDC_TickList, IDC_TitleLabel, IDC_PlainItem})
+  for (const int id : {IDC_LineBox, IDC_LinesBox, IDC_FirstButton, IDC_TickList, IDC_PlainItem})
     EXPECT_NONFATAL_FAILURE(user.Enters(id, "x"), std::to_string(id));
   const Listener nobody;
   EXPECT_NONFATAL_FAILURE(MsgBox("sure?", "T"), "sure?");

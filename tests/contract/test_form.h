@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <map>
 #include <source_location>
 #include <string>
 #include <utility>
@@ -35,15 +34,12 @@ inline void Does(const std::function<void()>& act, const std::string& events,
 class TestForm : public Form {
  public:
   TestForm() : Form(IDD_TestForm) {
-    MenuClick = [](int id) { Log("Menu " + std::to_string(id)); };
     CancelButton.Click = [this] { Close(); };
   }
   using Form::RemoveRows;
 
-  bool Refuses = false;                     // Form_QueryUnload cancels
-  bool LogsFocus = false;                   // GotFocus and LostFocus as well
-  Event OnLoad, Acts;                       // in Form_Load; what the person does before closing it
-  std::map<Control*, std::string> Members;  // all controls, with the names they have in the log
+  bool Refuses = false;  // Form_QueryUnload cancels
+  Event OnLoad, Acts;    // in Form_Load; what the person does before closing it
 
  private:
   void Form_Load() override {
@@ -57,44 +53,23 @@ class TestForm : public Form {
   }
   void Form_Unload() override { Log("Unload"); }
 
-  // A control that tells of its events under its name, with what it then shows.
-  template <typename Kind>
-  struct Logging : Kind {
-    Logging(TestForm& form, int id, const std::string& name) : Kind(form, id) {
-      form.Members[this] = name;
-      this->GotFocus = [=, &form] { form.LogsFocus ? Log(name + " got") : void(); };
-      this->LostFocus = [=, &form] { form.LogsFocus ? Log(name + " lost") : void(); };
-      if constexpr (std::is_base_of_v<ListControl, Kind>) {
-        this->Click = [=, this] { Log(name + " Click " + std::to_string(this->Selected()) + " " + this->Text()); };
-      } else if constexpr (requires { this->Click; }) {
-        this->Click = [=] { Log(name + " Click"); };
-      }
-      if constexpr (requires { this->Change; }) this->Change = [=, this] { Log(name + " Change " + this->Text()); };
-      if constexpr (std::is_same_v<CheckList, Kind>) {
-        this->ItemCheck = [=, this](int position) {
-          Log(name + " ItemCheck " + std::to_string(position) + (this->Checked(position) ? " on" : " off"));
-        };
-      }
-    }
-  };
-
  public:
-  Logging<Label> TitleLabel{*this, IDC_TitleLabel, "TitleLabel"};
-  Logging<TextBox> LineBox{*this, IDC_LineBox, "LineBox"};
-  Logging<TextBox> LinesBox{*this, IDC_LinesBox, "LinesBox"};
-  Logging<OptionButton> RedOption{*this, IDC_RedOption, "RedOption"};
-  Logging<OptionButton> GreenOption{*this, IDC_GreenOption, "GreenOption"};
-  Logging<Button> FirstButton{*this, IDC_FirstButton, "FirstButton"};
-  Logging<OptionButton> SmallOption{*this, IDC_SmallOption, "SmallOption"};
-  Logging<OptionButton> LargeOption{*this, IDC_LargeOption, "LargeOption"};
-  Logging<ComboBox> NameCombo{*this, IDC_NameCombo, "NameCombo"};
-  Logging<DropDownList> KindDrop{*this, IDC_KindDrop, "KindDrop"};
-  Logging<ListBox> EntryList{*this, IDC_EntryList, "EntryList"};
-  Logging<CheckList> TickList{*this, IDC_TickList, "TickList"};
-  Logging<Picture> ShownPic{*this, IDC_ShownPic, "ShownPic"};
-  Logging<Frame> GroupFrame{*this, IDC_GroupFrame, "GroupFrame"};
-  Logging<Surface> TextSurface{*this, IDC_TextSurface, "TextSurface"};
-  Logging<Button> CancelButton{*this, IDC_CancelButton, "CancelButton"};
+  Label TitleLabel{*this, IDC_TitleLabel};
+  TextBox LineBox{*this, IDC_LineBox};
+  TextBox LinesBox{*this, IDC_LinesBox};
+  OptionButton RedOption{*this, IDC_RedOption};
+  OptionButton GreenOption{*this, IDC_GreenOption};
+  Button FirstButton{*this, IDC_FirstButton};
+  OptionButton SmallOption{*this, IDC_SmallOption};
+  OptionButton LargeOption{*this, IDC_LargeOption};
+  ComboBox NameCombo{*this, IDC_NameCombo};
+  DropDownList KindDrop{*this, IDC_KindDrop};
+  ListBox EntryList{*this, IDC_EntryList};
+  CheckList TickList{*this, IDC_TickList};
+  Picture ShownPic{*this, IDC_ShownPic};
+  Frame GroupFrame{*this, IDC_GroupFrame};
+  Surface TextSurface{*this, IDC_TextSurface};
+  Button CancelButton{*this, IDC_CancelButton};
 };
 
 class FormTest : public testing::Test {

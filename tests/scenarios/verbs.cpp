@@ -101,7 +101,7 @@ void PressKeys(Story& story, Text rest) {
     const std::string name = key.substr(key.rfind('+') + 1);
     const auto found = std::find(std::begin(kKeys), std::end(kKeys), name);
     if (name.size() == 1) {
-      story.user.PressesControl(name[0]);
+      story.user.ActsOnForm(Hands::PressControl, name[0]);
     } else if (found != std::end(kKeys)) {
       story.user.Presses(KeyPress{static_cast<Key>(found - std::begin(kKeys)), Has(key, "Shift+"), Has(key, "Ctrl+")});
     } else {
@@ -187,14 +187,15 @@ const Story::Verbs& PersonVerbs() {
       {"focus", Focus},
       {"drop", DropFile},
       {"drag", On([](User& user, int id, Text how) {
-         user.Drags(id, CellOf(how), CellOf(Halves(how, ' ').second), Has(how, "shift"));
+         user.ActsOn<Surface>(id, Hands::Drag, CellOf(how), CellOf(Halves(how, ' ').second), Has(how, "shift"));
        })},
-      {"double-click", On([](User& user, int id, Text how) { user.DoubleClicks(id, CellOf(how)); })},
+      {"double-click", On([](User& user, int id, Text how) { user.ActsOn(id, Hands::DoubleClick, CellOf(how)); })},
       {"wheel", On([](User& user, int id, Text how) {
          user.TurnsWheel(id, std::stoi(how), Has(how, "shift"), Has(how, "ctrl"));
        })},
       {"page", On([](User& user, int id, Text how) {
-         user.PagesBar(id, Has(how, "across") ? Surface::Bar::Across : Surface::Bar::Down, std::stoi(how));
+         user.ActsOn<Surface>(id, Hands::PageBar, Has(how, "across") ? Surface::Bar::Across : Surface::Bar::Down,
+                              std::stoi(how));
        })},
       {"show", ShowFile},
       {"clipboard", [](Story& story, Text) { story.Say('"' + ClipboardText() + '"'); }},

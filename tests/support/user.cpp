@@ -72,10 +72,3 @@ void User::ChoosesMenu(int id) {
     Hands::Choose(Topmost(), id);
   });
 }
-
-void User::TurnsWheel(int id, int notches, bool shift, bool control) {
-  Do([&] {
-    const bool is_list = dynamic_cast<ListControl*>(&Find(id)) != nullptr;
-    Hands::TurnWheel(is_list ? Find(id) : Reach(id), notches, shift, control);
-  });
-}

@@ -20,24 +20,14 @@ class User : public Listener {
   void MovesTo(int id) { ActsOn(id, Hands::MoveTo); }
   void ChoosesMenu(int id);
   void Presses(const KeyPress& key) { ActsOnForm(Hands::Press, key); }  // in the control that has the focus
-  void PressesControl(char letter) { ActsOnForm(Hands::PressControl, letter); }
-  void ClosesWindow() { ActsOnForm(Hands::Close); }  // by the topmost form's close box
-
-  // In cells of a surface; dragging ends by letting go.
-  void Drags(int id, Cell from, Cell to, bool shift) { ActsOn<Surface>(id, Hands::Drag, from, to, shift); }
-  void DoubleClicks(int id, Cell at) { ActsOn(id, Hands::DoubleClick, at); }
-  void PagesBar(int id, Surface::Bar bar, int pages) { ActsOn<Surface>(id, Hands::PageBar, bar, pages); }
-  // Over a surface, or over a drop-down, which does not get the focus by it; positive: towards the person.
-  void TurnsWheel(int id, int notches, bool shift, bool control);
-
+  void ClosesWindow() { ActsOnForm(Hands::Close); }                     // by the topmost form's close box
+  // Does not move the focus. Positive: towards the person.
+  void TurnsWheel(int id, int notches, bool shift, bool control) {
+    Do([&] { Hands::TurnWheel(Find(id), notches, shift, control); });
+  }
   Hands::Sight LooksAt(int id) { return Hands::LookAt(Find(id)); }
 
- private:
-  static Form& Topmost();
-  static Control& Find(int id);
-  static Control& Reach(int id);
-  static void Do(const std::function<void()>& act);
-
+  // Any other act of the hands.
   template <typename Kind = Control, typename Act, typename... How>
   static void ActsOn(int id, Act act, const How&... how) {
     Do([&] { act(dynamic_cast<Kind&>(Reach(id)), how...); });
@@ -46,4 +36,10 @@ class User : public Listener {
   static void ActsOnForm(Act act, const How&... how) {
     Do([&] { act(Topmost(), how...); });
   }
+
+ private:
+  static Form& Topmost();
+  static Control& Find(int id);
+  static Control& Reach(int id);
+  static void Do(const std::function<void()>& act);
 };

@@ -71,11 +71,10 @@ TEST_F(ShownFormTest, DroppedListIsAsWideAsItsNamesNeedFromItsBoxToTheScreensEdg
 
 TEST_F(ShownFormTest, AnotherTextIsDrawnAsIfItHadStoodThere) {
   HWND box = WindowOf(form.LinesBox);
-  const std::string many = "a\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj\r\nk\r\nl";
   form.FirstButton.SetFocus();  // no blinking caret
   std::vector<DWORD> last;
-  for (const std::string& text : {std::string("a few words"), std::string("others"), many, many + "\r\nm",
-                                  std::string("one\r\ntwo"), std::string()}) {
+  for (const std::string text : {"a few words", "others", "a\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj\r\nk\r\nl",
+                                 "a\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj\r\nk\r\nl\r\nm", "one\r\ntwo", ""}) {
     form.LinesBox.SetText(text);
     UpdateWindow(box);
     const auto seen = PixelsOf(box);
@@ -95,9 +94,8 @@ TEST_F(FormTest, WhatStandsBelowRemovedRowsMovesUpAndTheFormGetsLower) {
   Edges expected[std::size(windows)];
   std::transform(std::begin(windows), std::end(windows), expected, EdgesOf);
   const LONG height = expected[2][1] - expected[1][1];
-  for (LONG* edge : {&expected[2][1], &expected[2][3], &expected[3][1], &expected[3][3], &expected[4][3]}) {
-    *edge -= height;
-  }
+  for (const int lower : {2, 3}) expected[lower][1] -= height;
+  for (const int lower : {2, 3, 4}) expected[lower][3] -= height;
   form.RemoveRows(form.LinesBox, form.FirstButton);
   for (std::size_t each = 0; each < std::size(windows); ++each) EXPECT_EQ(EdgesOf(windows[each]), expected[each]);
 }

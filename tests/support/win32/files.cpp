@@ -2,6 +2,7 @@
 // program visible to tests, as it is in memory.
 #include "support/files.h"
 
+#include <gtest/gtest.h>
 #include <share.h>
 #include <windows.h>
 
@@ -10,8 +11,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
-#include <utility>
+#include <memory>
 
 #include "platform/files.h"
 #include "platform/program.h"
@@ -29,11 +29,7 @@ namespace fs = std::filesystem;
 }();
 
 fs::path folder, former_folder;
-std::vector<std::FILE*> held_by_other;
-
-void Require(bool done, const std::string& what) {
-  if (!done) throw std::runtime_error("test files: cannot " + what + ", code " + std::to_string(GetLastError()));
-}
+std::vector<std::unique_ptr<std::FILE, int (*)(std::FILE*)>> held_by_other;
 
 // Files may be read-only, and have longer names than the library takes.
 void RemoveTree(const fs::path& where) {
@@ -42,7 +38,7 @@ void RemoveTree(const fs::path& where) {
     SetFileAttributesW(name.c_str(), FILE_ATTRIBUTE_NORMAL);
     if (!DeleteFileW(name.c_str())) RemoveTree(each.path());
   }
-  Require(RemoveDirectoryW(where.c_str()), "remove " + where.string());
+  fs::remove(where);
 }
 
 }  // namespace
@@ -71,7 +67,7 @@ std::string Folder() { return Bytes(folder.wstring()); }
 void Put(const std::string& name, std::string_view bytes) {
   std::ofstream out(fs::path(SystemName(name)), std::ios::binary);
   out << bytes << std::flush;
-  Require(out.good(), "put " + name);
+  EXPECT_TRUE(out.good()) << name;
 }
 
 std::optional<std::string> Get(const std::string& name) {
@@ -99,12 +95,10 @@ std::vector<std::string> List(const std::string& below) {
 
 void HoldByOther(const std::string& name, bool against_readers) {
   const int against = against_readers ? _SH_DENYRW : _SH_DENYWR;
-  held_by_other.push_back(_wfsopen(SystemName(name).c_str(), L"r+b", against));
-  Require(held_by_other.back() != nullptr, "hold " + name);
+  held_by_other.emplace_back(_wfsopen(SystemName(name).c_str(), L"r+b", against), std::fclose);
+  EXPECT_NE(held_by_other.back(), nullptr) << name;
 }
 
-void ReleaseByOther() {
-  for (std::FILE* each : std::exchange(held_by_other, {})) std::fclose(each);
-}
+void ReleaseByOther() { held_by_other.clear(); }
 
 }  // namespace TestFiles

@@ -35,28 +35,25 @@ bool MarkSeen(HWND window, int value) {
   return true;
 }
 
-// The windows that one of the system's enumerations tells of.
-template <typename Enumerate>
-std::vector<HWND> Told(Enumerate enumerate) {
+// The top dialog window of this thread that takes input, or null.
+HWND TopDialog() {
+  for (HWND each = nullptr; (each = FindWindowExW(nullptr, each, WC_DIALOG, nullptr)) != nullptr;) {
+    const bool is_ours = GetWindowThreadProcessId(each, nullptr) == GetCurrentThreadId();
+    if (is_ours && IsWindowVisible(each) && IsWindowEnabled(each)) return each;
+  }
+  return nullptr;
+}
+
+// The visible windows of a class in a dialog.
+std::vector<HWND> Inside(HWND dialog, const std::string& class_name) {
   std::vector<HWND> windows;
   const auto add = [](HWND window, LPARAM result) -> BOOL {
     reinterpret_cast<std::vector<HWND>*>(result)->push_back(window);
     return TRUE;
   };
-  enumerate(static_cast<WNDENUMPROC>(add), reinterpret_cast<LPARAM>(&windows));
+  EnumChildWindows(dialog, add, reinterpret_cast<LPARAM>(&windows));
+  std::erase_if(windows, [&](HWND each) { return ClassOf(each) != class_name || !IsWindowVisible(each); });
   return windows;
-}
-
-std::vector<HWND> Inside(HWND dialog) {
-  return Told([dialog](WNDENUMPROC add, LPARAM to) { EnumChildWindows(dialog, add, to); });
-}
-
-// The top dialog window of this thread that takes input, or null.
-HWND TopDialog() {
-  for (HWND each : Told([](WNDENUMPROC add, LPARAM to) { EnumThreadWindows(GetCurrentThreadId(), add, to); })) {
-    if (IsWindowVisible(each) && IsWindowEnabled(each) && ClassOf(each) == "#32770") return each;
-  }
-  return nullptr;
 }
 
 Icon MeaningOf(HICON icon) {
@@ -75,8 +72,7 @@ HWND VisibleItem(HWND dialog, int id) {
 void AnswerMessageBox(HWND box) {
   std::string text;
   Icon icon = Icon::None;
-  for (HWND child : Inside(box)) {
-    if (ClassOf(child) != "Static" || !IsWindowVisible(child)) continue;
+  for (HWND child : Inside(box, "Static")) {
     if ((GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON) {
       icon = MeaningOf(reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0)));
     } else {
@@ -97,10 +93,9 @@ void AnswerMessageBox(HWND box) {
 // The field of a file dialog that takes the name; null when it has none.
 HWND NameField(HWND dialog) {
   constexpr int kName = 0x480, kNameOfOtherDialogs = 0x3E9, kNameCombo = 0x47C;
-  for (HWND child : Inside(dialog)) {
-    const int id = GetDlgCtrlID(child);
-    const bool takes_name = id == kName || id == kNameOfOtherDialogs || GetDlgCtrlID(GetParent(child)) == kNameCombo;
-    if (ClassOf(child) == "Edit" && takes_name) return child;
+  for (HWND field : Inside(dialog, "Edit")) {
+    const int id = GetDlgCtrlID(field);
+    if (id == kName || id == kNameOfOtherDialogs || GetDlgCtrlID(GetParent(field)) == kNameCombo) return field;
   }
   return nullptr;
 }
@@ -108,8 +103,8 @@ HWND NameField(HWND dialog) {
 // What is asked, in words.
 void AnswerFileDialog(HWND dialog, HWND field) {
   std::string asked = TextOfWindow(dialog);
-  for (HWND child : Inside(dialog)) {
-    const std::string text = ClassOf(child) == "ComboBox" ? TextOfWindow(child) : "";
+  for (HWND child : Inside(dialog, "ComboBox")) {
+    const std::string text = TextOfWindow(child);
     if (text.find("(*.") != std::string::npos) asked += " | " + text;
   }
   if (!TextOfWindow(field).empty()) asked += " | " + TextOfWindow(field);
