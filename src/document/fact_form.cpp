@@ -93,7 +93,7 @@ void FactForm::ShowValue() {
   DataBox.SetText(shown_);
 }
 
-void FactForm::ShowFormulas() { FormulaList.Fill(FormulaLines(working_)); }
+void FactForm::ShowFormulas() { FormulaList.Fill(FormulaLines(working_, interest_question_)); }
 
 // Stores what was typed. A text that nobody touched is left as it is: computing it again could only change it.
 // False when the user has to mend the text first.

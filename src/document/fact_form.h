@@ -58,5 +58,5 @@ class FactForm : public Form {
   FieldSlots working_;
   int field_ = 0;      // the field whose value is in the box, 0 for none
   std::string shown_;  // what the box was filled with: any other text was typed
-  Global::InterestQuestionOnce interest_question_once_;
+  InterestQuestion interest_question_;
 };

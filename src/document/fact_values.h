@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "values/definitions.h"
+#include "values/number_store.h"
 
 // Set when a thing's field values were written back; whoever shows the thing refreshes it and clears the flag.
 extern bool ThingDataChanged;
@@ -15,4 +16,4 @@ extern bool ThingDataChanged;
 bool ConvertTypedValue(std::string& text, std::string_view type);
 
 // A line for each formula: its name, and what it gives for these values.
-std::vector<ListEntry> FormulaLines(const FieldSlots& slots);
+std::vector<ListEntry> FormulaLines(const FieldSlots& slots, InterestQuestion& question);

@@ -60,15 +60,12 @@ bool Holds(Comparison how, auto one, auto other) {
 
 ValueTester::ValueTester(const ValueTest& test) : test_(test) {
   field_ = Named(TheDocument.Fields, &FieldDefinition::Keyword, test.Name);
-  if (const auto* formula = Named(TheDocument.Formulas, &FormulaDefinition::Name, test.Name)) formula_ = *formula;
+  formula_ = Named(TheDocument.Formulas, &FormulaDefinition::Name, test.Name);
   const std::string_view typed = Trim(test.Text);
-  passes_all_ = test.Name.empty() || (field_ == nullptr && !formula_) || (Compares() && typed.empty());
+  passes_all_ = test.Name.empty() || (field_ == nullptr && formula_ == nullptr) || (Compares() && typed.empty());
   if (passes_all_) return;
-  of_number_ = formula_.has_value() || IsNumberType(field_->Type);
-  if (of_number_) type_ = StorageType(formula_ ? formula_->Type : field_->Type);
-  if (formula_) shown_type_ = formula_->Type;
-  // As an interest, a result above 100 % would be asked about.
-  if (type_ == "INTRATE" && formula_) formula_->Type = "DOUBLE";
+  of_number_ = formula_ != nullptr || IsNumberType(field_->Type);
+  if (of_number_) type_ = StorageType(formula_ != nullptr ? formula_->Type : field_->Type);
   if (of_number_ && Compares()) number_ = TypedNumber(typed);
   plain_ = PlainText(typed);
 }
@@ -85,11 +82,12 @@ std::optional<double> ValueTester::TypedNumber(std::string_view typed) const {
   std::string expression = UpperCase(typed);
   if (expression.find_first_not_of(characters) != std::string::npos) return std::nullopt;
   if (expression.find_first_of("0123456789") == std::string::npos || type_.empty()) return std::nullopt;
-  return NumberOf(Global::EvaluateExpression(expression, IsPercentage(type_) ? "DOUBLE" : type_, true));
+  return NumberOf(Evaluate(expression, IsPercentage(type_) ? "DOUBLE" : type_, DecimalSeparator()).Text);
 }
 
 std::string ValueTester::StoredValue(const ThingRecord& thing) const {
-  return formula_ ? FormulaResult(*formula_, thing.Values) : std::string(ValueOf(thing.Values, test_.Name));
+  return formula_ != nullptr ? EvaluateFormula(*formula_, thing.Values).Text
+                             : std::string(ValueOf(thing.Values, test_.Name));
 }
 
 bool ValueTester::Passes(const ThingRecord& thing) const {
@@ -103,10 +101,10 @@ bool ValueTester::Passes(const ThingRecord& thing) const {
 }
 
 std::string ValueTester::Title() const {
-  return field_ != nullptr ? field_->Title : formula_ ? formula_->Title : test_.Name;
+  return field_ != nullptr ? field_->Title : formula_ != nullptr ? formula_->Title : test_.Name;
 }
 
 std::string ValueTester::ShownValue(const ThingRecord& thing) const {
-  if (formula_) return FormatValue(StoredValue(thing), shown_type_, formula_->Format);
-  return StoredValue(thing);
+  const std::string stored = StoredValue(thing);
+  return formula_ != nullptr ? FormatValue(stored, formula_->Type, formula_->Format) : stored;
 }

@@ -34,9 +34,8 @@ class ValueTester {
 
   ValueTest test_;
   const FieldDefinition* field_ = nullptr;
-  std::optional<FormulaDefinition> formula_;
+  const FormulaDefinition* formula_ = nullptr;
   std::string type_;         // of the field or formula, as numbers are stored
-  std::string shown_type_;   // of the formula, as its result is shown
   bool of_number_ = false;   // numbers are compared
   bool passes_all_ = false;  // there is nothing to compare
   std::string plain_;        // the text to compare with

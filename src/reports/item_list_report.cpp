@@ -25,10 +25,10 @@ void WriteValues(const ThingRecord& thing) {
   }
 }
 
-void WriteFormulas(const ThingRecord& thing) {
+void WriteFormulas(const ThingRecord& thing, InterestQuestion& question) {
   for (int number = 1; number <= TheDocument.Formulas.Count(); ++number) {
     const FormulaDefinition& formula = TheDocument.Formulas[number];
-    const std::string result = FormulaResult(formula, thing.Values);
+    const std::string result = FormulaResult(formula, thing.Values, question);
     if (result.empty()) continue;
     PrintLine({" ", formula.Name, ": ", FormatValue(result, formula.Type, formula.Format)});
   }
@@ -51,11 +51,11 @@ void WriteCategories(std::int32_t categories) {
   if (!list.empty()) WriteWrapped(list, kWidth);
 }
 
-void WriteThing(const ThingRecord& thing) {
+void WriteThing(const ThingRecord& thing, InterestQuestion& question) {
   PrintLine({});
   PrintLine({JoinUnderscoredWords(thing.NAME)});
   WriteValues(thing);
-  WriteFormulas(thing);
+  WriteFormulas(thing, question);
   WriteCategories(thing.CATBITMAP);
   if (thing.NOTE.empty()) return;
   PrintLine({" Note:"});
@@ -64,16 +64,13 @@ void WriteThing(const ThingRecord& thing) {
 
 }  // namespace
 
-bool IsInCategories(std::int32_t thing_categories, std::int32_t category_mask) {
-  return category_mask == 0 || (thing_categories & category_mask) != 0;
-}
-
 void WriteItemListReport(std::int32_t category_mask) {
   if (TheDocument.Things.Count() == 0) return;
+  InterestQuestion question;
   PrintFrame("LARKSPUR V1.0 REPORT T=2,G=0", "Larkspur Object List report");
   for (int record = 1; record <= TheDocument.Things.Count(); ++record) {
     const ThingRecord& thing = TheDocument.Things[record];
-    if (IsInCategories(thing.CATBITMAP, category_mask)) WriteThing(thing);
+    if (IsInCategories(thing, category_mask)) WriteThing(thing, question);
   }
 }
 

@@ -112,13 +112,14 @@ class Table {
 std::vector<int> ThingsInCategories(std::int32_t category_mask) {
   std::vector<int> records;
   for (int record = 1; record <= TheDocument.Things.Count(); ++record) {
-    if (IsInCategories(TheDocument.Things[record].CATBITMAP, category_mask)) records.push_back(record);
+    if (IsInCategories(TheDocument.Things[record], category_mask)) records.push_back(record);
   }
   return records;
 }
 
 std::vector<Column> ComputeColumns(const std::vector<int>& fields, const std::vector<int>& records) {
   std::vector<Column> columns;
+  InterestQuestion question;
   for (const int number : fields) {
     const FieldDefinition& field = TheDocument.Fields[number];
     Column& column = columns.emplace_back(field.Keyword, field.Title, field.Type, "");
@@ -128,7 +129,7 @@ std::vector<Column> ComputeColumns(const std::vector<int>& fields, const std::ve
     const FormulaDefinition& formula = TheDocument.Formulas[number];
     if (!IsNumberType(formula.Type)) continue;
     Column& column = columns.emplace_back(formula.Name, formula.Title, formula.Type, formula.Format);
-    for (const int record : records) column.Add(FormulaResult(formula, TheDocument.Things[record].Values));
+    for (const int record : records) column.Add(FormulaResult(formula, TheDocument.Things[record].Values, question));
   }
   for (Column& column : columns) column.AddTotals();
   return columns;

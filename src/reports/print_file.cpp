@@ -9,7 +9,6 @@
 #include "platform/runtime_error.h"
 #include "platform/text.h"
 #include "shell/messages.h"
-#include "values/number_store.h"
 #include "values/numbers.h"
 
 namespace {
@@ -62,7 +61,6 @@ void PrintFrame(std::string_view header, std::string_view title) {
 bool WritePrintFile(const std::function<void()>& write) {
   try {
     const PrintFileCloser closer;
-    const Global::InterestQuestionOnce interest_question_once;
     write();
     Files::Close(kPrintFileHandle);
     return true;

@@ -23,5 +23,5 @@ void PrintLine(std::initializer_list<PrintItem> items);
 void PrintFrame(std::string_view header, std::string_view title);
 
 // Has a report written into the open print file and closes that in any case. A failure is said; true when there
-// was none. The question about high interest is asked at most once meanwhile.
+// was none.
 bool WritePrintFile(const std::function<void()>& write);

@@ -31,10 +31,6 @@ void Say(std::string_view text, Icon icon) {
   MsgBox(text, ProgramTitle, Buttons::Ok, icon);
 }
 
-void SayUnless(bool quiet, std::string_view text) {
-  if (!quiet) Say(text, Icon::Exclamation);
-}
-
 int MessagesSaid() { return messages_said; }
 
 bool Ask(std::string_view question, Buttons buttons, Icon icon) {

@@ -17,9 +17,6 @@ extern std::string ProgramTitle;
 // Shows a text with an OK button.
 void Say(std::string_view text, Icon icon = Icon::None);
 
-// Says why something failed, unless it is only tried out.
-void SayUnless(bool quiet, std::string_view text);
-
 // How many texts Say has shown: tells a caller whether what it called has explained itself.
 int MessagesSaid();
 

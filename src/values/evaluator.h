@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "document/document.h"
+#include "values/number_store.h"
 
 namespace Global {
 
@@ -15,13 +16,11 @@ namespace Global {
 std::string ExpandFieldReferences(std::string_view expression, int thing);
 std::string ExpandFieldReferences(std::string_view expression, const FieldSlots& slots);
 
-// Computes an expression and stores the result under the type (a keyword that StoreNumberByType knows).
-// Returns the stored text, "0" for an empty expression, or "?" when it cannot be computed; why is said
-// unless `quiet`. EvaluateExpression decides the machine's decimal separator. `expression` is worked on.
+// Evaluate (below), told at once. EvaluateExpression takes the machine's decimal separator.
 std::string EvaluateExpression(std::string& expression, std::string_view type, bool quiet);
 std::string CalculateExpression(std::string& expression, std::string_view type, char separator, bool quiet);
 
-// The steps of CalculateExpression. Positions count from 1; 0 is none.
+// The steps of Evaluate, told like it. Positions count from 1; 0 is none.
 std::string ConvertPercentages(std::string expression, char separator, bool quiet);
 std::string EvaluateFlat(std::string expression, char separator, bool quiet);
 bool FindOperation(std::string_view expression, std::string_view operator_class, int& first, int& last, char& sign);
@@ -31,6 +30,11 @@ int LastPositionOf(std::string_view text, std::string_view needle);
 
 }  // namespace Global
 
-// A formula's result for a thing, as text: "?" for a formula of a type that no value can be stored under.
-// Quiet. Empty when one of the values it needs is missing.
-std::string FormulaResult(const FormulaDefinition& formula, const FieldSlots& slots);
+// Computes an expression and stores the result under the type (a keyword that StoreNumber knows): the stored text,
+// "0" for an empty expression, or "?" when it cannot be computed. `expression` is worked on.
+Outcome Evaluate(std::string& expression, std::string_view type, char separator);
+
+// A formula's result for a thing: "?" for a formula of a type that no value can be stored under, empty when one of the
+// values it needs is missing. FormulaResult settles it; why one failed is not said.
+Outcome EvaluateFormula(const FormulaDefinition& formula, const FieldSlots& slots);
+std::string FormulaResult(const FormulaDefinition& formula, const FieldSlots& slots, InterestQuestion& question);

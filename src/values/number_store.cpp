@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <utility>
 
 #include "platform/locale.h"
 #include "platform/program.h"
@@ -13,12 +14,7 @@
 #include "shell/messages.h"
 #include "values/numbers.h"
 
-namespace Global {
-
 namespace {
-
-int interest_scopes = 0;
-std::optional<bool> interest_answer;
 
 template <class Whole>
 std::string Whole32(double number) {
@@ -57,42 +53,36 @@ std::string MoneyText(double amount, char separator) {
   return text;
 }
 
-// What is typed is asked about each time; what is only shown, once.
-bool KeepsHighInterest(bool quiet) {
-  const bool once = quiet && interest_scopes > 0;
-  if (once && interest_answer.has_value()) return *interest_answer;
-  const bool keeps = Ask("Are you sure that you want to use an interest rate greater than 100%?", Buttons::YesNo);
-  if (once) interest_answer = keeps;
-  return keeps;
-}
-
-// The stored text of a percentage, replaced when it is out of the type's range.
-std::string PercentText(const std::string& type, float percentage, char separator, bool quiet) {
-  std::string written = WriteSingle(percentage, separator) + "%";
-  if (type == "INTRATE") {
-    if (percentage < 0) {
-      SayUnless(quiet, "Invalid interest value " + written +
-                           " is replaced with 0.  (For interest, type a positive numbers followed by a percent sign or "
-                           "type a fractional amount.)");
-      return "0";
-    }
-    return percentage > 100 && !KeepsHighInterest(quiet) ? "0" : written;
+// The amount in whole pennies; what does not fit into 32 bits of them is told and thrown.
+double InPennies(double amount, Reasons& reasons) {
+  const double pennies = std::nearbyint(amount * 100);
+  if (!(std::abs(pennies) <= 2147483648.0) || pennies == 2147483648.0) {
+    reasons.push_back("Failed to round your number to pennies due to error #" + SignedText(kOverflow));
+    throw RuntimeError(kOverflow);
   }
-  const bool is_signed = type == "ODDSPM";
-  if (percentage >= (is_signed ? -100.0F : 0.0F) && percentage <= 100) return written;
-  SayUnless(quiet, "Invalid odds value " + written + " is replaced with 100%.  " +
-                       (is_signed ? "(Type a positive or negative number followed by a percent sign or type a "
-                                    "fractional amount.)"
-                                  : "(For odds, please type numbers followed by a percent sign or type a fractional "
-                                    "amount.)"));
-  return "100%";
+  return pennies / 100;
 }
 
-std::string StoredText(const std::string& text, const std::string& type, char separator, bool quiet) {
-  const double number = ReadNumber(text, separator);
-  if (const auto plain = PlainNumber(type, number, separator)) return *plain;
-  if (type == "DOLLAR") return MoneyText(RoundToPennies(number, quiet), separator);
-  return PercentText(type, Single(static_cast<double>(Single(number)) * 100), separator, quiet);
+// The stored form of a percentage, replaced when it is out of the type's range.
+void StorePercentage(const std::string& type, float percentage, char separator, Outcome& outcome) {
+  const std::string written = WriteSingle(percentage, separator) + "%";
+  const bool is_interest = type == "INTRATE";
+  const bool is_signed = type == "ODDSPM";
+  outcome.Text = written;
+  outcome.IsHighInterest = is_interest && percentage > 100;
+  if (percentage >= (is_signed ? -100.0F : 0.0F) && (percentage <= 100 || is_interest)) return;
+  outcome.Text = is_interest ? "0" : "100%";
+  if (is_interest) {
+    outcome.Why.push_back("Invalid interest value " + written +
+                          " is replaced with 0.  (For interest, type a positive numbers followed by a percent sign or "
+                          "type a fractional amount.)");
+    return;
+  }
+  outcome.Why.push_back("Invalid odds value " + written + " is replaced with 100%.  " +
+                        (is_signed ? "(Type a positive or negative number followed by a percent sign or type a "
+                                     "fractional amount.)"
+                                   : "(For odds, please type numbers followed by a percent sign or type a fractional "
+                                     "amount.)"));
 }
 
 bool IsKnown(const std::string& type) {
@@ -104,33 +94,52 @@ bool IsKnown(const std::string& type) {
 
 }  // namespace
 
-bool StoreNumberByType(std::string& text, std::string_view type, char separator, bool quiet) {
+std::string InterestQuestion::Settle(Outcome outcome) {
+  if (!outcome.IsHighInterest) return std::move(outcome.Text);
+  if (!is_meant_) {
+    is_meant_ = Global::Ask("Are you sure that you want to use an interest rate greater than 100%?", Buttons::YesNo);
+  }
+  return *is_meant_ ? std::move(outcome.Text) : "0";
+}
+
+Outcome StoreNumber(std::string text, std::string_view type, char separator) {
   const std::string keyword = UpperCase(type);
   if (!IsKnown(keyword)) EndProgram();
   if (text.empty() && keyword != "BYTE") text = "0";
+  Outcome outcome;
   try {
-    text = StoredText(text, keyword, separator, quiet);
-    return true;
+    const double number = ReadNumber(text, separator);
+    if (const auto plain = PlainNumber(keyword, number, separator)) {
+      outcome.Text = *plain;
+    } else if (keyword == "DOLLAR") {
+      outcome.Text = MoneyText(InPennies(number, outcome.Why), separator);
+    } else {
+      StorePercentage(keyword, Single(static_cast<double>(Single(number)) * 100), separator, outcome);
+    }
   } catch (const RuntimeError& error) {
-    SayUnless(quiet, "Failed to store number " + text + DueToError(error));
-    text.clear();
-    return false;
+    outcome.Why.push_back("Failed to store number " + text + Global::DueToError(error));
+  }
+  return outcome;
+}
+
+std::string Tell(const Outcome& outcome, bool quiet) {
+  for (const std::string& reason : outcome.Why) {
+    if (!quiet) Global::Say(reason, Icon::Exclamation);
+  }
+  return InterestQuestion().Settle(outcome);
+}
+
+bool Global::StoreNumberByType(std::string& text, std::string_view type, char separator, bool quiet) {
+  text = Tell(StoreNumber(text, type, separator), quiet);
+  return !text.empty();
+}
+
+double Global::RoundToPennies(double amount, bool quiet) {
+  Reasons reasons;
+  try {
+    return InPennies(amount, reasons);
+  } catch (const RuntimeError&) {
+    Tell({"", reasons}, quiet);
+    throw;
   }
 }
-
-double RoundToPennies(double amount, bool quiet) {
-  const double pennies = std::nearbyint(amount * 100);
-  if (!(std::abs(pennies) <= 2147483648.0) || pennies == 2147483648.0) {
-    SayUnless(quiet, "Failed to round your number to pennies due to error #" + SignedText(kOverflow));
-    throw RuntimeError(kOverflow);
-  }
-  return pennies / 100;
-}
-
-InterestQuestionOnce::InterestQuestionOnce() {
-  if (interest_scopes++ == 0) interest_answer.reset();
-}
-
-InterestQuestionOnce::~InterestQuestionOnce() { --interest_scopes; }
-
-}  // namespace Global

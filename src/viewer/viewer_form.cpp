@@ -207,10 +207,10 @@ void ViewerForm::ShowStatus() {
 
 // What stands in the window when there is nothing to read.
 Page ViewerForm::Notice() const {
+  const std::string text = HasFile() ? "This report is empty: there was nothing to write into it."
+                                     : "No report is open. Choose Open in the File menu to read one.";
   Page page;
-  page.Runs.push_back({{2, 1},
-                       HasFile() ? "This report is empty: there was nothing to write into it."
-                                 : "No report is open. Choose Open in the File menu to read one."});
+  page.Runs.push_back({{2, 1}, text});
   return page;
 }
 

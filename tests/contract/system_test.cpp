@@ -1,7 +1,8 @@
-// What runtime_error.h, locale.h, program.h and process.h promise, on both platforms alike.
+// What runtime_error.h, locale.h, program.h, process.h and clipboard.h promise, on both platforms alike.
 #include <sstream>
 
 #include "contract/error_of.h"
+#include "platform/clipboard.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/process.h"
@@ -55,7 +56,7 @@ TEST(SystemTest, TextIsOfTheSystemsLanguage) {
   EXPECT_TRUE(Today().ok() && Today().year() >= std::chrono::year{2026});
 }
 
-TEST(SystemTest, ProgramHasFoldersAnEnvironmentAndAnEnd) {
+TEST(SystemTest, ProgramHasFoldersAnEnvironmentAClipboardAndAnEnd) {
   TestFiles::Start();
   EXPECT_EQ(CurrentFolder(), TestFiles::Folder());
   const std::string folder = ProgramFolder();
@@ -63,9 +64,13 @@ TEST(SystemTest, ProgramHasFoldersAnEnvironmentAndAnEnd) {
   EXPECT_NE(EnvironmentValue("PATH").value_or(""), "");
   EXPECT_EQ(EnvironmentValue("Path"), EnvironmentValue("PATH"));
   EXPECT_FALSE(EnvironmentValue("FILER_TEST_NOT_DEFINED") || EnvironmentValue(""));
-  EXPECT_EQ(ErrorOf([] { StartProgram("\"C:\\no such folder\\none.exe\" x"); }), kFileNotFound);
-  EXPECT_EQ(ErrorOf([] { StartProgram("none.exe"); }), kFileNotFound);
-
+  for (const std::string none : {"none.exe", "\"C:\\no such folder\\none.exe\" x"}) {
+    EXPECT_EQ(ErrorOf([&] { StartProgram(none); }), kFileNotFound) << none;
+  }
+  for (const std::string text : {"old", "caf\xE9\r\nline &#937;&#38;#937;", ""}) {
+    SetClipboardText(text);
+    EXPECT_EQ(ClipboardText(), text);
+  }
   Files::Open(1, "OUT.TXT", Files::Mode::Output);
   Files::WriteLine(1, "last words");
   EXPECT_THROW(EndProgram(), ProgramEnded);

@@ -67,7 +67,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   std::string expanded = Global::ExpandFieldReferences(expression, slots);
   Require(expanded.size() <= std::max<std::size_t>(expression.size(), 32767), "references are bounded");
-  FormulaResult({"F", "F", wanted_type, "", expression}, slots);
+  EvaluateFormula({"F", "F", wanted_type, "", expression}, slots);
   FormatValue(expression, wanted_type, format);
   if (!type.empty()) {
     CheckStored(type, Global::EvaluateExpression(expanded, type, quiet), separator);

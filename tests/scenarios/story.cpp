@@ -1,12 +1,10 @@
 // Telling a story: its acts one by one, what comes up meanwhile, and what is seen after each.
 #include "scenarios/story.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <regex>
 
 #include "platform/program.h"
-#include "shell/messages.h"
 #include "support/hands.h"
 #include "support/names.h"
 #include "support/rows.h"
@@ -56,11 +54,6 @@ std::string Expanded(std::string text) {
   return text;
 }
 
-// The usual one is not told.
-std::string CaptionInWords(const std::string& caption) {
-  return caption == Global::ProgramTitle ? "" : " [" + caption + "]";
-}
-
 }  // namespace
 
 std::deque<std::string> Story::PartsOf(const std::string& act) {
@@ -77,7 +70,6 @@ Story::Story(std::shared_ptr<StoryFile> file, std::size_t tale)
 
 void Story::TestBody() {
   ResetMachine();
-  TheListener() = this;
   for (Tale* tale : {&file_->Tales[0], &file_->Tales[tale_]}) {
     for (StoryLine& line : *tale) {
       if (line.IsAct()) acts_.push_back(&line);
@@ -142,16 +134,7 @@ void Story::Use(int id, const std::optional<std::string>& text) {
   const auto found = controls.find(id);
   if (found == controls.end()) return user.ChoosesMenu(id);
   Sees.Foresee(*found->second, text);
-  const auto entries = Hands::LookAt(*found->second).Entries;
-  if (!text) {
-    user.Clicks(id);
-  } else if (dynamic_cast<const CheckList*>(found->second) != nullptr) {
-    user.Ticks(id, *text);
-  } else if (std::find(entries.begin(), entries.end(), *text) != entries.end()) {
-    user.Picks(id, *text);
-  } else {
-    user.Types(id, *text);
-  }
+  text ? user.Enters(id, *text) : user.Clicks(id);
 }
 
 void Story::Say(const std::string& line) {
@@ -182,35 +165,20 @@ void Story::Leave() {
   StartFresh();
 }
 
-// Says what is asked, and takes the answer out of the act.
-std::string Story::Reply(const std::string& asked) {
-  Say(asked);
-  if (parts_.empty()) Fail("nobody said what to answer to: " + asked);
-  const std::string reply = parts_.empty() ? "cancel" : Expanded(parts_.front());
-  if (!parts_.empty()) parts_.pop_front();
-  return reply;
-}
-
-std::string Story::TextReply(const std::string& asked) {
-  const std::string reply = Reply(asked);
-  return reply == "cancel" ? "" : Unquoted(reply);
-}
-
-Answer Story::MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
+void Story::BoxCame(const std::string& words) {
   Sees.LookAtFiles();
-  const std::string line = InWords(text, buttons, icon) + CaptionInWords(caption);
-  if (buttons == Buttons::Ok) return Say(line), Answer::Ok;
-  const auto answer = AnswerOf(Reply(line), buttons);
-  if (!answer) Fail("that is no answer to: " + line);
-  return answer.value_or(buttons == Buttons::YesNo ? Answer::No : Answer::Cancel);
+  Say(words);
 }
 
-std::string Story::InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) {
-  return TextReply("input: " + prompt + (offered.empty() ? "" : " offers \"" + offered + "\"") +
-                   CaptionInWords(caption));
+std::string Story::ReplyTo(const std::string& words) {
+  if (parts_.empty()) {
+    Fail("nobody said what to answer to: " + words);
+    return "cancel";
+  }
+  const std::string reply = parts_.front();
+  parts_.pop_front();
+  return Expanded(reply);
 }
-
-std::string Story::FileDialogCame(const std::string& asked) { return TextReply("file dialog: " + asked); }
 
 void Story::FormCame(Form& form) {
   Sees.LookAround();

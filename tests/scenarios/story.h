@@ -66,9 +66,8 @@ class Story : public FreshTest, public Listener {
   static std::string Unquoted(const std::string& text);
   Recorder Sees;
 
-  Answer MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
-  std::string InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) override;
-  std::string FileDialogCame(const std::string& asked) override;
+  void BoxCame(const std::string& words) override;
+  std::string ReplyTo(const std::string& words) override;
   void FormCame(Form& form) override;
 
  private:
@@ -77,8 +76,6 @@ class Story : public FreshTest, public Listener {
   void Do(const std::string& act);
   void Use(int id, const std::optional<std::string>& text);
   void Note(const std::string& news);
-  std::string Reply(const std::string& asked);
-  std::string TextReply(const std::string& asked);
 
   std::shared_ptr<StoryFile> file_;
   std::size_t tale_;

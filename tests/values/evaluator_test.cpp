@@ -84,7 +84,7 @@ abc => ABC | [LOOP] =>  | [TWO] => )",
   EXPECT_EQ(expanded(many + "[a]"), "");
   ExpectRows("DOLLAR [PRICE]*2 => 25.00 |  [PRICE]*2 => 25 | CALC [PRICE]*2 => ? | CALC [QTY]*2 => ", ' ',
              [&](const std::string& type, const std::string& expression) {
-               return FormulaResult({"F", "", type, "", expression}, slots);
+               return EvaluateFormula({"F", "", type, "", expression}, slots).Text;
              });
 }
 

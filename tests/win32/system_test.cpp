@@ -1,13 +1,17 @@
-// Files between threads and programs that are started, on the real system.
+// Files between threads, programs that are started, and the registry, on the real system.
 #include <thread>
 
 #include "contract/error_of.h"
 #include "platform/files.h"
+#include "platform/locale.h"
 #include "platform/process.h"
 #include "platform/program.h"
+#include "platform/registry.h"
 #include "platform/win32/internals.h"
 #include "platform/win32/wide.h"
 #include "support/fresh_test.h"
+// After windows.h, on which it builds.
+#include <sddl.h>
 
 namespace {
 
@@ -47,6 +51,37 @@ TEST_F(RealSystemTest, AStartedProgramGetsItsArguments) {
     CloseHandle(program);
   }
   EXPECT_EQ(TestFiles::Get("STARTED.TXT"), "\"C:\\a page.htm\" more\r\n");
+}
+
+TEST_F(RealSystemTest, RegistryKeysOpenByPathAlsoForReadingOnly) {
+  const std::string class_key = "Software\\Classes\\.filertest", key = class_key + "\\shell\\open";
+  HKEY made = nullptr;
+  RegCreateKeyA(HKEY_CURRENT_USER, key.c_str(), &made);
+  const std::tuple<std::string, DWORD, std::string> rows[] = {{"", kRegistryText, "caf\xE9"},
+                                                              {"Folder", kRegistryExpandableText, "%windir%\\x"},
+                                                              {"number", REG_DWORD, "abc"},
+                                                              {"Nothing", kRegistryText, ""}};
+  for (const auto& [name, type, text] : rows) {
+    RegSetKeyValueA(made, nullptr, name.c_str(), type, text.c_str(), static_cast<DWORD>(text.size() + 1));
+  }
+  PSECURITY_DESCRIPTOR may_read_and_delete = nullptr;
+  ConvertStringSecurityDescriptorToSecurityDescriptorA("D:P(A;;KRWDSD;;;WD)", SDDL_REVISION_1, &may_read_and_delete,
+                                                       nullptr);
+  RegSetKeySecurity(made, DACL_SECURITY_INFORMATION, may_read_and_delete);
+  LocalFree(may_read_and_delete);
+  RegCloseKey(made);
+  const RegistryKey open(RegistryRoot::CurrentUser, UpperCase(key));
+  for (const auto& [name, type, text] : rows) {
+    const RegistryValue value = open.Query(UpperCase(name)).value_or(RegistryValue());
+    EXPECT_EQ(std::make_pair(value.Type, value.Size), std::make_pair(type, text.size() + 1)) << name;
+    EXPECT_EQ(open.ReadText(name, value.Size), text) << name;
+    EXPECT_EQ(open.ReadText(name, value.Size - 1), std::nullopt) << name;
+  }
+  EXPECT_FALSE(open.Query("missing") || open.ReadText("missing", 100));
+  const RegistryKey empty(RegistryRoot::CurrentUser, class_key), other(RegistryRoot::LocalMachine, key);
+  EXPECT_TRUE(empty.IsOpen() && !other.IsOpen());
+  for (const RegistryKey* none : {&empty, &other}) EXPECT_FALSE(none->Query("") || none->ReadText("", 100));
+  RegDeleteTreeA(HKEY_CURRENT_USER, class_key.c_str());
 }
 
 }  // namespace

@@ -38,15 +38,11 @@ const Surface* FocusedSurface(const Form& form) { return dynamic_cast<const Surf
 
 void Hands::Begin() {
   Stage& stage = CurrentStage();
-  stage.Message = [](const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
-    return TheListener()->MessageCame(text, caption, buttons, icon);
-  };
-  stage.Input = [](const std::string& prompt, const std::string& caption, const std::string& offered) {
-    return TheListener()->InputCame(prompt, caption, offered);
-  };
-  stage.File = [](const FileChoice& choice) { return TheListener()->FileDialogCame(Asked(choice)); };
+  stage.Message = Coming::Message;
+  stage.Input = Coming::Input;
+  stage.File = [](const FileChoice& choice) { return Coming::FileDialog(Asked(choice)); };
   stage.Use = [](Form& form) {
-    TheListener()->FormCame(form);
+    Coming::FormToUse(form);
     form.PeerOf().Closed = true;
   };
 }
@@ -89,7 +85,6 @@ void Hands::Type(Control& box, const std::string& text) {
 void Hands::Click(Control& control) { control.PeerOf().Click(); }
 void Hands::Select(ListControl& list, int position) { list.PeerOf().ChangeSelection(position); }
 void Hands::TurnOver(CheckList& list, int position) { list.PeerOf().ChangeTick(position, !list.Checked(position)); }
-bool Hands::CanChoose(const Form& form, int item) { return form.MenuEnabled(item); }
 void Hands::Choose(Form& form, int item) { Raise(form.MenuClick, item); }
 
 // Enter goes to the button that has the focus; else it and Esc to the one of their id; without one, the form is told.
