@@ -1,7 +1,6 @@
 // Telling a story: its acts one by one, what comes up meanwhile, and what is seen after each.
 #include "scenarios/story.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <regex>
 

@@ -33,11 +33,13 @@ Listener::~Listener() { listening = former_; }
 void Listener::BoxCame(const std::string& words) { ADD_FAILURE() << "Nobody expected: " << words; }
 void Listener::FormCame(Form& form) { BoxCame("form " + std::to_string(Hands::TemplateOf(form))); }
 
-Answer Coming::Message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
+Answer Coming::Message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon,
+                       DefaultButton enter) {
   constexpr const char* kIcons[] = {"no icon", "information", "exclamation", "critical"};
-  constexpr const char* kButtons[] = {"OK", "OK/Cancel", "Yes/No"};
-  const std::string words = kIcons[static_cast<int>(icon)] + std::string(" ") + kButtons[static_cast<int>(buttons)] +
-                            ": " + text + CaptionInWords(caption);
+  constexpr const char* kButtons[][2] = {{"OK", "OK"}, {"OK/Cancel", "OK/(Cancel)"}, {"Yes/No", "Yes/(No)"}};
+  const std::string words = kIcons[static_cast<int>(icon)] + std::string(" ") +
+                            kButtons[static_cast<int>(buttons)][static_cast<int>(enter)] + ": " + text +
+                            CaptionInWords(caption);
   listening->BoxCame(words);
   if (buttons == Buttons::Ok) return Answer::Ok;
   const bool yes_no = buttons == Buttons::YesNo;

@@ -15,8 +15,8 @@ class Listener {
   Listener(const Listener&) = delete;
   Listener& operator=(const Listener&) = delete;
 
-  // A box came: "exclamation OK: text", "input: prompt", "file dialog: caption"; behind it its caption where that is
-  // not the usual one.
+  // A box came: "exclamation OK/Cancel: text" ("OK/(Cancel)" where Enter means the last button), "input: prompt", "file
+  // dialog: caption"; behind it its caption where that is not the usual one.
   virtual void BoxCame(const std::string& words);
   // Asked behind that, but for a message to be read only: "ok", "cancel", "yes" or "no", or a text in quotes.
   virtual std::string ReplyTo(const std::string& /*words*/) { return "cancel"; }
@@ -30,7 +30,7 @@ class Listener {
 // For the platforms: what came is told to the listener, and its answer comes back.
 namespace Coming {
 
-Answer Message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon);
+Answer Message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon, DefaultButton enter);
 std::string Input(const std::string& prompt, const std::string& caption, const std::string& offered);
 std::string FileDialog(const std::string& asked);
 void FormToUse(Form& form);

@@ -38,7 +38,9 @@ const Surface* FocusedSurface(const Form& form) { return dynamic_cast<const Surf
 
 void Hands::Begin() {
   Stage& stage = CurrentStage();
-  stage.Message = Coming::Message;
+  stage.Message = [&stage](const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
+    return Coming::Message(text, caption, buttons, icon, stage.Default);
+  };
   stage.Input = Coming::Input;
   stage.File = [](const FileChoice& choice) { return Coming::FileDialog(Asked(choice)); };
   stage.Use = [](Form& form) {

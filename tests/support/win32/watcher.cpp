@@ -83,7 +83,10 @@ void AnswerMessageBox(HWND box) {
   const Buttons buttons = VisibleItem(box, IDYES) != nullptr ? Buttons::YesNo
                           : may_cancel                       ? Buttons::OkCancel
                                                              : Buttons::Ok;
-  const Answer answer = Coming::Message(text, TextOfWindow(box), buttons, icon);
+  const int enter = LOWORD(SendMessageW(box, DM_GETDEFID, 0, 0));
+  const bool is_last = buttons != Buttons::Ok && (enter == IDCANCEL || enter == IDNO);
+  const Answer answer =
+      Coming::Message(text, TextOfWindow(box), buttons, icon, is_last ? DefaultButton::Last : DefaultButton::First);
   constexpr int kIds[] = {IDOK, IDCANCEL, IDYES, IDNO};  // in the order of Answer
   HWND pressed = VisibleItem(box, kIds[static_cast<int>(answer)]);
   if (pressed == nullptr) pressed = VisibleItem(box, IDCANCEL);  // a single OK may have either id
