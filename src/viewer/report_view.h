@@ -43,9 +43,9 @@ class ReportView {
 
   // Starts seeking a text, from the beginning of the selection on; empty text ends it.
   void Seek(std::string_view sought);
-  // Selects the next hit, or the one before; round the end when there is none. False when there is none at all.
-  bool FindNext();
-  bool FindPrevious();
+  // Selects the next hit, or the one before; round the end when there is none.
+  void FindNext();
+  void FindPrevious();
   bool Seeks() const { return !finder_.Empty(); }
   std::size_t HitCount() const { return hits_; }
   std::size_t HitNumber() const { return hit_number_; }  // of the hit found last, from 1; 0 when there is none

@@ -129,20 +129,18 @@ void ReportView::Seek(std::string_view sought) {
   if (hit) Found(*hit);
 }
 
-bool ReportView::FindNext() {
-  if (hits_ == 0) return false;
+void ReportView::FindNext() {
+  if (hits_ == 0) return;
   std::optional<Place> hit = finder_.Next(text_, caret_set_ ? Selection().second : FirstInView());
   if (!hit) hit = finder_.Next(text_, {});
   Found(*hit);
-  return true;
 }
 
-bool ReportView::FindPrevious() {
-  if (hits_ == 0) return false;
+void ReportView::FindPrevious() {
+  if (hits_ == 0) return;
   std::optional<Place> hit = finder_.Previous(text_, caret_set_ ? Selection().first : FirstInView());
   if (!hit) hit = finder_.Previous(text_, {text_.Count(), 0});
   Found(*hit);
-  return true;
 }
 
 void ReportView::Found(const Place& hit) {

@@ -69,8 +69,8 @@ class ViewerForm : public Form {
   void FindItem_Click();
   void FindNextItem_Click() { Find(&ReportView::FindNext); }
   void FindPreviousItem_Click() { Find(&ReportView::FindPrevious); }
-  bool Load(const std::string& name, bool keep_place);
-  void Find(bool (ReportView::*step)());
+  void Load(const std::string& name, bool keep_place);
+  void Find(void (ReportView::*step)());
   std::string FoundText() const;
 
   void Zoom(int steps);

@@ -47,15 +47,15 @@ void ViewerForm::ReloadItem_Click() { Load(file_, true); }
 
 // The file is read whole and let go at once, so that the report can be written anew while it is shown. A failure
 // leaves what is shown.
-bool ViewerForm::Load(const std::string& name, bool keep_place) {
+void ViewerForm::Load(const std::string& name, bool keep_place) {
   try {
     view_.SetText(ReportText(Files::ReadAll(name)), keep_place);
   } catch (const RuntimeError& error) {
     Global::Say("Failed to open file " + name + Global::DueToError(error), Icon::Exclamation);
-    return false;
+    return;
   } catch (const std::bad_alloc&) {
     Global::Say("Failed to open file " + name + Global::DueToError(RuntimeError(kOutOfMemory)), Icon::Exclamation);
-    return false;
+    return;
   }
   file_ = name;
   view_.Resize(ReportSurface.Columns(), ReportSurface.Rows());
@@ -63,7 +63,6 @@ bool ViewerForm::Load(const std::string& name, bool keep_place) {
   if (HasLines() && !view_.Text().Header().IsReport && !keep_place) {
     Global::Say(name + " is not a Larkspur report.  It is shown as plain text.", Icon::Information);
   }
-  return true;
 }
 
 void ViewerForm::SaveTextItem_Click() {
@@ -87,7 +86,7 @@ void ViewerForm::FindItem_Click() {
   FindBox.SelectAll();
 }
 
-void ViewerForm::Find(bool (ReportView::*step)()) {
+void ViewerForm::Find(void (ReportView::*step)()) {
   if (!view_.Seeks()) return FindItem_Click();
   (view_.*step)();
   Refresh();
