@@ -3,21 +3,20 @@
 #include "document/fact_values.h"
 
 #include "support/fresh_test.h"
-#include "support/rows.h"
 #include "support/said.h"
 
 namespace {
 
 TEST(FactValuesTest, AValueGoesIntoItsSlotOrTheFirstFreeOne) {
-  FieldSlots slots = {{{"A:1"}, {}, {"B:2"}, {"C:"}, {"junk"}, {":x"}, {"D:1:"}, {"E:1"}, {"F:1"}, {"G:1"}}};
+  FieldSlots slots = SlotsOf("A:1||B:2|C:|junk|:x|D:1:|E:1|F:1|G:1");
   EXPECT_TRUE(PutValue(slots, "B", "3") && PutValue(slots, "H", "x:y") && PutValue(slots, "A", ""));
   EXPECT_TRUE(PutValue(slots, "I", "1") && PutValue(slots, "J", "1") && PutValue(slots, "K", "1"));
   EXPECT_TRUE(PutValue(slots, "L", "") && PutValue(slots, "G", "2"));
   EXPECT_FALSE(PutValue(slots, "L", "1"));
-  EXPECT_EQ(JoinedSlots(slots), "I:1|H:x:y|B:3|J:1|K:1|:x|D:1:|E:1|F:1|G:2|");
+  EXPECT_TRUE(slots == SlotsOf("I:1|H:x:y|B:3|J:1|K:1|:x|D:1:|E:1|F:1|G:2"));
   EXPECT_EQ(std::string(ValueOf(slots, "H")) + "/" + std::string(ValueOf(slots, "L")), "x:y/");
   EXPECT_TRUE(PutValue(slots, "I", ""));
-  EXPECT_EQ(JoinedSlots(PackValues(slots)), "H:x:y|B:3|J:1|K:1|:x|D:1:|E:1|F:1|G:2||");
+  EXPECT_TRUE(PackValues(slots) == SlotsOf("H:x:y|B:3|J:1|K:1|:x|D:1:|E:1|F:1|G:2"));
 }
 
 class TypedValueTest : public FreshTest {};

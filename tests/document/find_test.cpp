@@ -1,12 +1,8 @@
 // Finding things, and the way back to those that were shown.
 #include "document/find.h"
 
-#include <sstream>
-
 #include "document/document.h"
-#include "document/things.h"
 #include "support/fresh_test.h"
-#include "support/rows.h"
 #include "values/numbers.h"
 
 namespace {
@@ -15,59 +11,39 @@ class FindTest : public FreshTest {
  protected:
   void SetUp() override {
     FreshTest::SetUp();
-    for (const char* name : {"Big Red_Barn", "Garden Shed", "\xC9table", "rake", "Zoo"}) InsertThing(name);
-    Document& document = TheDocument;
-    document.CategoryNames.Writable(1) = "Rooms";
-    document.CategoryNames.Writable(32) = "On loan";
-    document.Fields.SetCount(3);
-    document.Fields.Writable(1) = {"PRICE", "Price", "DOLLAR"};
-    document.Fields.Writable(2) = {"ODDS", "Odds", "ODDS"};
-    document.Fields.Writable(3) = {"MAKER", "Maker", ""};
-    document.Formulas.SetCount(2);
-    document.Formulas.Writable(1) = {"TWICE", "Doubled", "DOLLAR", "", "[PRICE] * 2"};
-    document.Formulas.Writable(2) = {"RATE", "Rate", "INTEREST", "", "[PRICE] / 5"};
-    Put(1, "It stands in the field.", 1, {"PRICE:12.50", "MAKER:Voss"});
-    Put(2, "", CategoryBit(32), {"MAKER:field & Son", "PRICE:3"});
-    Put(5, "Rooms with caf\xE9s", 0, {"ODDS:33.3%", "PRICE:x"});
-    Put(4, "barn", 1 | CategoryBit(32), {"ODDS:50%"});
+    Load(R"([CATEGORIES]/NAME=Rooms/*32; NAME=On loan/[FIELDS]/NAME=PRICE; TITLE=Price; FIELDTYPE=DOLLAR
+*2; NAME=ODDS; TITLE=Odds; FIELDTYPE=ODDS/*3; NAME=MAKER; TITLE=Maker
+[FORMULAS]/NAME=TWICE; TITLE=Doubled; FIELDTYPE=DOLLAR; FORMULA=[PRICE] * 2
+*2; NAME=RATE; TITLE=Rate; FIELDTYPE=INTEREST; FORMULA=[PRICE] ~/ 5
+[THINGS]/NAME=Big Red_Barn; NOTE=It stands in the field.; CATBITMAP=1; %PRICE=12.50; %MAKER=Voss
+*2; NAME=Garden Shed; CATBITMAP=-2147483648; %MAKER=field & Son; %PRICE=3/*3; NAME=rake
+*4; NAME=Zoo; NOTE=barn; CATBITMAP=-2147483647; %ODDS=50%)"
+         "/*5; NAME=\xC9table; NOTE=Rooms with caf\xE9s; %ODDS=33.3%; %PRICE=x");
   }
-  static void Put(int record, const char* note, int categories, std::initializer_list<const char*> values) {
-    ThingRecord& thing = TheDocument.Things.Writable(record);
-    thing.NOTE = note;
-    thing.CATBITMAP = categories;
-    std::size_t slot = 0;
-    for (const char* value : values) thing.Values[slot++].Text = value;
-  }
-  // "words @place ?FIELD sign text": the first letter of a place, a sign of kSigns.
+  // Words/place/field/sign/text: the first letter of a place, one of these signs.
   static FindRequest Asked(const std::string& text) {
+    std::vector<std::string> parts = Parts(text, "/");
+    parts.resize(5);
     const std::string places = "ENTVC", signs = "=!<[>]eE";
-    const auto [words, value] = Halves(text, '?');
-    const auto [plain, place] = Halves(words, '@');
-    FindRequest request;
-    request.Words = plain;
-    if (!place.empty()) request.Where = static_cast<FindPlace>(places.find(place[0]));
-    const auto [name, rest] = Halves(value, ' ');
-    request.Value.Name = name;
-    if (!rest.empty()) request.Value.How = static_cast<Comparison>(signs.find(rest[0]));
-    if (rest.size() > 2) request.Value.Text = rest.substr(2);
-    return request;
+    return {parts[0],
+            static_cast<FindPlace>(places.find(parts[1])),
+            {parts[2], static_cast<Comparison>(signs.find(parts[3])), parts[4]}};
   }
 };
 
-// Etable stands behind Zoo: its capital is greater.
 TEST_F(FindTest, FindsAllWordsAndTheValue) {
   ExpectRows(R"(barn => 1Name<Big Red_Barn> 4Note<barn> | BARN field => 1Name<Big Red_Barn>
-field => 1Note<It stands in the field.> 2Maker<field & Son> | field @T => 1Note<It stands in the field.>
+field => 1Note<It stands in the field.> 2Maker<field & Son> | field/T => 1Note<It stands in the field.>
 "red barn" => 1Name<Big Red_Barn> | "red  barn =>  | red "barn => 1Name<Big Red_Barn> | "" =>  | zoo => 4Name<Zoo> | q => 
-loan @C => 2Category<On loan> 4Category<On loan> | loan rooms @C => 4Category<On loan> | loan @N =>  | price => 
-12.5 @V => 1Price<12.50> | ?PRICE =>  | ?PRICE = =>  | ?PRICE = 12.5 => 1Price<12.50> | ?PRICE = 12.496 + 5% => 
-?PRICE = 12.496 => 1Price<12.50> | ?PRICE ! 3 => 1Price<12.50> | ?PRICE < 12.50 => 2Price<3>
-?PRICE [ 12.50 => 1Price<12.50> 2Price<3> | ?PRICE > 3 => 1Price<12.50> | ?PRICE ] 1.5 * 2 => 1Price<12.50> 2Price<3>
-?PRICE ] -1 => 1Price<12.50> 2Price<3> | ?PRICE ] 1,5 =>  | ?PRICE e => 3Price<> 4Price<> | ?PRICE > ten => 
-?PRICE E => 1Price<12.50> 2Price<3> 5Price<x> | ?ODDS = 33.3% => 5Odds<33.3%> | ?ODDS < 150% => 4Odds<50%> 5Odds<33.3%>
-?MAKER = voss => 1Maker<Voss> | ?MAKER > VOS => 1Maker<Voss> | ?MAKER ] ten => 1Maker<Voss> | ?GONE e => 
-?TWICE = 25 => 1Doubled<25.00> | ?TWICE e => 3Doubled<> 4Doubled<> | ?RATE > 100% => 1Rate<250.00%>
-barn @E?PRICE E => 1Name<Big Red_Barn> | barn?PRICE = => 1Name<Big Red_Barn> 4Note<barn>)"
+loan/C => 2Category<On loan> 4Category<On loan> | loan rooms/C => 4Category<On loan> | loan/N =>  | price => 
+12.5/V => 1Price<12.50> | //PRICE =>  | //PRICE/= =>  | //PRICE/=/12.5 => 1Price<12.50> | //PRICE/=/12.496 + 5% => 
+//PRICE/=/12.496 => 1Price<12.50> | //PRICE/!/3 => 1Price<12.50> | //PRICE/</12.50 => 2Price<3>
+//PRICE/[/12.50 => 1Price<12.50> 2Price<3> | //PRICE/>/3 => 1Price<12.50> | //PRICE/]/1.5 * 2 => 1Price<12.50> 2Price<3>
+//PRICE/]/-1 => 1Price<12.50> 2Price<3> | //PRICE/]/1,5 =>  | //PRICE/e => 3Price<> 4Price<> | //PRICE/>/ten => 
+//PRICE/E => 1Price<12.50> 2Price<3> 5Price<x> | //ODDS/=/33.3% => 5Odds<33.3%> | //ODDS/</150% => 4Odds<50%> 5Odds<33.3%>
+//MAKER/=/voss => 1Maker<Voss> | //MAKER/>/VOS => 1Maker<Voss> | //MAKER/]/ten => 1Maker<Voss> | //GONE/e => 
+//TWICE/=/25 => 1Doubled<25.00> | //TWICE/e => 3Doubled<> 4Doubled<> | //RATE/>/100% => 1Rate<250.00%>
+barn/E/PRICE/E => 1Name<Big Red_Barn> | barn//PRICE/= => 1Name<Big Red_Barn> 4Note<barn>)"
              "\ne\"ta\"ble => 5Name<\xC9table> | etABle => 5Name<\xC9table> | caf\xC9 => 5Note<Rooms with caf\xE9s>"
              " | rooms => 1Category<Rooms> 4Category<Rooms> 5Note<Rooms with caf\xE9s>",
              [](const std::string& asked) {
@@ -79,7 +55,7 @@ barn @E?PRICE E => 1Name<Big Red_Barn> | barn?PRICE = => 1Name<Big Red_Barn> 4No
                }
                return text;
              });
-  ExpectRows("?PRICE < ten => 0 | ?PRICE e ten => 1 | ?MAKER < ten => 1 | ?ODDS < 2 => 1",
+  ExpectRows("//PRICE/</ten => 0 | //PRICE/e/ten => 1 | //MAKER/</ten => 1 | //ODDS/</2 => 1",
              [](const std::string& asked) { return std::to_string(CanBeRead(Asked(asked).Value)); });
 }
 
@@ -112,34 +88,19 @@ TEST_F(FindTest, ShowsTheWordsAround) {
   EXPECT_EQ(around("y"), "... y" + letters.substr(0, 75) + " ...");
 }
 
-TEST_F(FindTest, GoesOnRoundTheEnd) {
-  const std::vector<Hit> hits = {{2}, {4}};
-  const int next[] = {2, 2, 4, 4, 2, 2}, previous[] = {4, 4, 4, 2, 2, 4};
-  for (int record = 0; record < 6; ++record) {
-    EXPECT_EQ(NextHit(hits, record, true), next[record]) << record;
-    EXPECT_EQ(NextHit(hits, record, false), previous[record]) << record;
-  }
-  EXPECT_EQ(NextHit({}, 1, true), 0);
-}
-
-// A word each: a record is visited; back, forward; -N: that one goes, and those above move down.
+// A record is visited; back, forward; -N: that one goes, and those above move down.
 TEST(TrailTest, LeadsBackAndForward) {
-  ExpectRows(R"(1 2 3 b b f =>  2 1 2 | 1 2 b 3 f =>  1 . | b =>  . | 1 1 b =>  . | 1 2 3 4 -2 b b =>  2 1
-1 2 1 -2 b =>  . | 1 2 3 b -2 f =>  2 2 | 1 2 3 b -2 b =>  2 .)",
+  ExpectRows(R"(1 2 3 b b f => 212 | 1 2 b 3 f => 1. | b => . | 1 1 b => . | 1 2 3 4 -2 b b => 21 | 1 2 1 -2 b => .
+1 2 3 b -2 f => 22 | 1 2 3 b -2 b => 2.)",
              [](const std::string& acts) {
                Trail trail;
-               std::string told, act;
-               for (std::istringstream in(acts); in >> act;) {
+               std::string told;
+               for (const std::string& act : Parts(acts, " ")) {
                  const int record = LeadingInt16(act);
-                 if (act == "b") {
-                   told += " " + (trail.CanGoBack() ? std::to_string(trail.GoBack()) : ".");
-                 } else if (act == "f") {
-                   told += " " + (trail.CanGoForward() ? std::to_string(trail.GoForward()) : ".");
-                 } else if (record > 0) {
-                   trail.Visit(record);
-                 } else {
-                   trail.Follow([gone = -record](int other) { return other == gone ? 0 : other - (other > gone); });
-                 }
+                 if (record > 0) trail.Visit(record);
+                 if (record < 0) trail.Follow([=](int each) { return each == -record ? 0 : each - (each > -record); });
+                 if (act == "b") told += trail.CanGoBack() ? std::to_string(trail.GoBack()) : ".";
+                 if (act == "f") told += trail.CanGoForward() ? std::to_string(trail.GoForward()) : ".";
                }
                return told;
              });

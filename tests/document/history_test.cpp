@@ -20,7 +20,8 @@ class HistoryTest : public FreshTest {
 
   int Below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
   bool Heads() { return Below(2) == 0; }
-  std::string Word() { return {static_cast<char>('A' + Below(26)), static_cast<char>('A' + Below(26))}; }
+  std::string Key() { return {"ABCD"[Below(4)]}; }
+  std::string Word() { return Key() + Key() + Key(); }
   // Things' names collide in their first letters and differ in case, so that places are found by more than a byte.
   std::string FreshName() { return "abAB"[Below(4)] + ("abAB"[Below(4)] + std::to_string(++names_given)); }
   std::int16_t Link() {  // a damaged file may give any number
@@ -31,45 +32,40 @@ class HistoryTest : public FreshTest {
   // The name of each thing, and those of the things that it links to.
   using Names = std::vector<std::array<std::string, 3>>;
   static Names NamesOfThings() {
-    const int count = TheDocument.Things.Count();
-    const auto name = [count](int link) { return link < 1 || link > count ? "" : TheDocument.Things[link].NAME; };
+    const auto& things = TheDocument.Things;
+    const auto name = [&things](int link) { return things.Holds(link) ? things[link].NAME : ""; };
     Names names;
-    for (int record = 1; record <= count; ++record) {
-      names.push_back({name(record), name(TheDocument.Things[record].XREF1), name(TheDocument.Things[record].XREF2)});
+    for (int record = 1; record <= things.Count(); ++record) {
+      names.push_back({name(record), name(things[record].XREF1), name(things[record].XREF2)});
     }
     return names;
   }
 
   // Has a thing come (without a name before), go (without one behind) or take another name.
   template <class Act>
-  void Rename(const std::string& before, const std::string& behind, Act act) {
+  static void Rename(const std::string& before, const std::string& behind, Act act) {
     Names names = NamesOfThings();
-    std::array<std::string, 3> thing = {behind};
-    for (std::size_t index = 0; !before.empty() && index < names.size(); ++index) {
-      std::replace(names[index].begin(), names[index].end(), before, behind);
-      if (names[index][0] == behind) thing = names[index];
+    for (auto& each : names) {
+      if (!before.empty()) std::replace(each.begin(), each.end(), before, behind);
     }
-    std::erase_if(names, [&](const auto& each) { return each[0] == behind; });
-    const auto is_greater = [&](const auto& each) { return UpperCase(each[0]) > UpperCase(behind); };
-    if (!behind.empty()) names.insert(std::find_if(names.begin(), names.end(), is_greater), thing);
+    if (before.empty()) names.push_back({behind});
+    std::erase_if(names, [](const auto& each) { return each[0].empty(); });
+    std::sort(names.begin(), names.end(),
+              [](const auto& one, const auto& other) { return UpperCase(one[0]) < UpperCase(other[0]); });
     act();
     EXPECT_EQ(NamesOfThings(), names) << before << " to " << behind;
-    EXPECT_TRUE(behind.empty() || TheDocument.Things[FindThing(UpperCase(behind))].NAME == behind);
   }
 
   void AnyCommand() {
     const int count = TheDocument.Things.Count(), record = count == 0 ? 0 : 1 + Below(count);
     const int fields = TheDocument.Fields.Count(), formulas = TheDocument.Formulas.Count();
     const std::string fresh = FreshName(), name = count == 0 ? "" : TheDocument.Things[record].NAME;
-    FieldSlots slots;
-    for (int number = 1; number <= fields && number <= kFieldValues; ++number) {
-      slots[static_cast<std::size_t>(number - 1)].Text = TheDocument.Fields[number].Keyword + ":" + Word();
-    }
+    FieldSlots slots = SlotsOf(Key() + ":" + Word() + "|A:" + Word() + "|B:x|C:y");
     CategoryNameTable categories = TheDocument.CategoryNames;
     categories.Writable(1 + Below(32)) = Word();
-    const ThingEdits edits = {Below(3) == 0 ? "note" : Word(), Link(), Link()};
-    const FieldDefinition field = {Word(), "title", ""};
-    const FormulaDefinition formula = {Word(), "title", "", "", "[" + Word() + "]"};
+    const ThingEdits edits = {Heads() ? "note" : Word(), Link(), Link()};
+    const FieldDefinition field = {Key(), "title", ""};
+    const FormulaDefinition formula = {Word(), "title", "", "", "[" + Key() + "]"};
     const std::vector<int> some = {1, record, count};
     const std::function<void()> commands[] = {
         [&] { Rename("", fresh, [&] { AddThing(fresh); }); },
@@ -100,10 +96,9 @@ TEST_F(HistoryTest, EachStateComesBackInBothDirections) {
     const auto compare = [&] {
       ASSERT_TRUE(DescribeDocument() == states[at]) << at;
       ASSERT_EQ(TheDocument.Modified, at != saved) << at;
-      const int count = TheDocument.Things.Count();
-      ASSERT_TRUE(count == 0 || TheDocument.CurrentThing <= count) << at;
+      ASSERT_LE(TheDocument.CurrentThing, TheDocument.Things.Count()) << at;
     };
-    for (int step = 0; step < 400; ++step) {
+    for (int step = 0; step < 400 && !HasFailure(); ++step) {
       const int choice = Below(20);
       if (choice == 0 && at > 0) {
         EXPECT_TRUE(TheHistory.Undo());
@@ -128,12 +123,11 @@ TEST_F(HistoryTest, EachStateComesBackInBothDirections) {
         }
       }
       compare();
-      if (HasFailure()) return;
     }
-    for (; at > 0 && !HasFailure(); compare()) TheHistory.Undo(), --at;
-    EXPECT_FALSE(TheHistory.CanUndo() || TheHistory.Undo());
-    for (; at + 1 < states.size() && !HasFailure(); compare()) TheHistory.Redo(), ++at;
-    EXPECT_FALSE(TheHistory.CanRedo() || TheHistory.Redo());
+    for (; TheHistory.Undo() && at > 0 && !HasFailure(); compare()) --at;
+    EXPECT_TRUE(at == 0 && !TheHistory.CanUndo());
+    for (; TheHistory.Redo() && at + 1 < states.size() && !HasFailure(); compare()) ++at;
+    EXPECT_TRUE(at + 1 == states.size() && !TheHistory.CanRedo());
   }
 }
 
@@ -149,14 +143,11 @@ TEST_F(HistoryTest, AStepThatThrowsChangesNothingAndOneWithinAnotherJoinsIt) {
     if (fails) throw 1;
   };
   EXPECT_THROW(change(true), int);
-  EXPECT_EQ(DescribeDocument(), before);
-  EXPECT_EQ(TheHistory.UndoTitle(), "Change Links of A");
+  EXPECT_EQ(DescribeDocument() + TheHistory.UndoTitle(), before + "Change Links of A");
   change(false);
-  EXPECT_EQ(TheDocument.Things.Count(), 1);
-  EXPECT_EQ(TheHistory.UndoTitle(), "Outer");
+  EXPECT_EQ(DescribeDocument() + TheHistory.UndoTitle(), "thing 1 name<Z>\nOuter");
   EXPECT_TRUE(TheHistory.Undo());
-  EXPECT_EQ(DescribeDocument(), before);
-  EXPECT_EQ(TheHistory.RedoTitle(), "Outer");
+  EXPECT_EQ(DescribeDocument() + TheHistory.RedoTitle(), before + "Outer");
 }
 
 TEST_F(HistoryTest, TheOldestStepsGoFirst) {

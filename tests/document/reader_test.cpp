@@ -3,63 +3,40 @@
 #include "document/reader.h"
 
 #include <algorithm>
-#include <sstream>
-#include <tuple>
 
 #include "document/document.h"
 #include "platform/program.h"
 #include "support/fresh_test.h"
-#include "support/rows.h"
 #include "support/said.h"
 
 namespace {
 
 class ReaderTest : public FreshTest {
  protected:
-  bool Load(const std::string& bytes) {
-    TheDocument.CurrentThing = 1;
-    TheDocument.Modified = TheDocument.PendingEdits = true;
-    MakeNew();
-    EXPECT_FALSE(TheDocument.Modified || TheDocument.PendingEdits || TheDocument.CurrentThing != 0);
-    TestFiles::Put("Test.FIL", bytes);
-    const bool whole = LoadFilerFile(InFolder("Test.FIL"));
-    EXPECT_EQ(TheDocument.LockHeld, whole);
-    return whole;
-  }
-
-  // Loads files, parted by "|", and tells what is said and the document. "/" ends a line of the files, but not "~/";
-  // "[END]" is added where it does not stand.
-  std::string Told(std::string files) {
+  // Loads files, parted by "|", and tells what is said and the document: "/" ends a line, and empty records before
+  // others are left out.
+  std::string Told(const std::string& files) {
     MakeNew();
     TheDocument = {};
     bool whole = true;
-    for (std::string file; !files.empty();) {
-      std::tie(file, files) = Halves(files, '|');
-      if (file.find("[END]") == std::string::npos) file += "/[END]";
-      file = Replaced(Replaced(file, "/", "\r\n"), "~\r\n", "~/");
+    for (const std::string& file : Parts(files, "|")) {
       try {
-        whole = Load("LARKSPUR V5.0 FILER DATA\r\n" + file);
+        whole = Loads(DataFile(file));
       } catch (const ProgramEnded&) {
         return said.Take() + " ends";
       }
+      EXPECT_EQ(TheDocument.LockHeld, whole);
     }
-    std::string texts = said.Take();
+    const std::string texts = said.Take();
     EXPECT_EQ(whole, texts.empty() || texts.ends_with('?')) << texts;
     const std::string partly = "!The file was not completely loaded.  Some information will be missing.";
-    return Replaced(texts, partly, " ... ") + Document();
-  }
-  // "/" ends a line, and empty records before others are left out.
-  static std::string Document() {
-    std::string told, line, next;
-    std::istringstream lines(DescribeDocument());
-    const auto kind = [](const std::string& of) { return of.substr(0, of.find(' ')); };
-    for (std::getline(lines, line); !line.empty(); line = next) {
-      next.clear();
-      std::getline(lines, next);
-      const bool empty = std::count(line.begin(), line.end(), ' ') == 1;
-      if (!empty || kind(line) != kind(next)) told += line + "/";
+    std::string told;
+    const std::vector<std::string> lines = Parts(DescribeDocument(), "\n");
+    for (std::size_t at = 0; at + 1 < lines.size(); ++at) {
+      const bool empty = std::count(lines[at].begin(), lines[at].end(), ' ') == 1;
+      if (!empty || Halves(lines[at], ' ').first != Halves(lines[at + 1], ' ').first) told += lines[at] + "/";
     }
-    return told;
+    return Replaced(texts, partly, " ... ") + told;
   }
   void Check(const std::string& rows) {
     ExpectRows(rows, [this](const std::string& files) { return Told(files); });
@@ -157,8 +134,8 @@ LARKSPUR V-1.0 FILER DATA => loaded | LARKSPUR V6.0 FILER DATA => no | LARKSPUR 
 LARKSPUR V0.0 FILER DATA => no | LARKSPUR FILER DATA V5 => no | LARKSPUR FILER DATA V5  => no | LARKSPUR V5.0 DATA => no
 OTHER V5.0 FILER DATA => no | LARKSPUR V9.0 FILER DATA V5.0 => no | LARKSPURV5.0 FILER DATA => no
 LARKSPUR V1e999 FILER DATA => no |  => no)",
-      [this](const std::string& header) { return Load(header + "\r\n[END]") ? "loaded" : "no"; });
-  EXPECT_FALSE(Load(""));
+      [](const std::string& header) { return Loads(header + "\r\n[END]") ? "loaded" : "no"; });
+  EXPECT_FALSE(Loads(""));
 }
 
 }  // namespace

@@ -17,24 +17,18 @@ class Maker {
   std::size_t Below(std::size_t bound) { return random_() % bound; }
   bool Chance(std::size_t one_in) { return Below(one_in) == 0; }
 
-  // Text of that many characters: every byte but "~", CR and LF, the ones that mean something in the file
-  // more often, and blanks in runs. A blank in front is the caller's choice; the last is none, since the
-  // format cannot hold one there.
+  // Text of that many characters: every byte but "~", CR and LF, the ones that mean something in the file and blanks
+  // more often. A blank in front is the caller's choice; the last is none, since the format cannot hold one there.
   std::string Text(std::size_t length) {
     static constexpr std::string_view kSpecial = "+;=*[]'%:,\"\t\x1A\xFF";
     std::string text;
     const std::size_t blanks = 1 + Below(40);  // one in so many
     while (text.size() < length) {
-      const auto character = static_cast<char>(1 + Below(255));
-      if (Chance(blanks)) {
-        text.append(1 + Below(4), ' ');
-      } else if (Chance(6)) {
-        text += kSpecial[Below(kSpecial.size())];
-      } else if (character != '~' && character != '\r' && character != '\n') {
-        text += character;
-      }
+      const auto any = static_cast<char>(1 + Below(255));
+      text += Chance(6) ? kSpecial[Below(kSpecial.size())] : Chance(blanks) || any == '~' ? ' ' : any;
     }
-    text.resize(length);
+    std::replace_if(
+        text.begin(), text.end(), [](char each) { return each == '\r' || each == '\n'; }, ' ');
     if (text.ends_with(' ')) text.back() = '+';
     return text;
   }
@@ -43,17 +37,12 @@ class Maker {
 
   // A note whose length and blanks lie around those where lines are cut.
   std::string Note() {
-    static constexpr std::size_t kLengths[] = {1, 68, 69, 70, 71, 72, 139, 140, 141, 142, 200, 210, 211, 350};
-    std::string note = Text(Chance(4) ? Below(300) + 1 : kLengths[Below(std::size(kLengths))]);
+    std::string note = Text(Chance(4) ? 1 + Below(300) : 68 + 70 * Below(4) + Below(5));
     if (Chance(3) && note.size() > 72) note[68 + Below(4)] = Chance(2) ? ' ' : '+';
     return note;
   }
 
-  std::string Keyword() {
-    std::string keyword;
-    for (std::size_t length = 1 + Below(8); keyword.size() < length;) keyword += static_cast<char>('A' + Below(26));
-    return keyword;
-  }
+  std::string Keyword() { return std::string(1 + Below(8), static_cast<char>('A' + Below(26))); }
 
   ThingRecord Thing(int things) {
     ThingRecord thing;

@@ -18,31 +18,21 @@
 
 namespace {
 
-// The number of a stored text, which must be one from end to end, in the form the program writes.
-double StoredNumber(std::string text, char separator) {
-  if (text.ends_with('%')) text.pop_back();
-  Require(!text.empty() && text.find_first_not_of(std::string("0123456789E+-") + separator) == std::string::npos,
-          "a stored text is a number and nothing else");
-  std::replace(text.begin(), text.end(), ',', '.');
-  char* end = nullptr;
-  const double number = std::strtod(text.c_str(), &end);
-  Require(*end == '\0', "a stored text is one number");
-  return number;
-}
-
 // A number with an exponent may not come back: its sign is an operator, and the largest exceed the type once they are
 // rounded. Nor may a bare 0: nothing at all, or declined interest. Singles are written with 7 digits, which may read as
 // their neighbour.
 void CheckStored(const std::string& type, const std::string& stored, char separator) {
   if (stored.empty() || stored == "?") return;
-  const double number = StoredNumber(stored, separator);
+  const std::optional<double> number = StoredNumber(stored, separator);
+  Require(number && stored.find_first_not_of(std::string("0123456789E+-%") + separator) == std::string::npos,
+          "a stored text is one number and nothing else");
   const bool odds = type.starts_with("ODDS");
-  Require(!odds || (number <= 100 && number >= (type == "ODDSPM" ? -100 : 0)), "odds stay in their range");
+  Require(!odds || (*number <= 1 && *number >= (type == "ODDSPM" ? -1 : 0)), "odds stay in their range");
   if (stored.find('E') != std::string::npos || stored == "0") return;
   std::string text = stored;
   const std::string again = Global::CalculateExpression(text, type, separator, true);
-  const double spread = type == "SINGLE" || stored.ends_with('%') ? std::abs(number) * 1e-6 : 0;
-  Require(again == stored || std::abs(StoredNumber(again, separator) - number) <= spread,
+  const double spread = type == "SINGLE" || stored.ends_with('%') ? std::abs(*number) * 1e-6 : 0;
+  Require(again == stored || std::abs(StoredNumber(again, separator).value() - *number) <= spread,
           "a stored text typed again stays the same");
 }
 

@@ -2,7 +2,6 @@
 #include "document/fact_values.h"
 #include "platform/headless/machine.h"
 #include "support/fresh_test.h"
-#include "support/rows.h"
 #include "support/said.h"
 #include "values/templates.h"
 

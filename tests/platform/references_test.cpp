@@ -6,6 +6,7 @@
 #include <random>
 
 #include "support/properties.h"
+#include "support/rows.h"
 
 namespace {
 
@@ -36,14 +37,12 @@ TEST(ReferencesTest, StandForWhatThePageDoesNotHaveInOneFormOnly) {
 TEST(ReferencesTest, AreOneCharacterEach) {
   const std::string text = "a&#937;&#128512;&#38;#937;b";  // seven bytes, sixteen, twenty-six, twenty-seven
   EXPECT_EQ(CountCharacters(text), 10U);
-  const std::pair<std::size_t, std::string> firsts[] = {
-      {0, ""}, {1, "a"}, {2, "a&#937;"}, {3, "a&#937;&#128512;"}, {8, "a&#937;&#128512;&#937"}, {99, text}};
-  for (const auto& [count, first] : firsts) EXPECT_EQ(FirstCharacters(text, count), first);
-  const std::size_t whole[][2] = {{0, 0},  {1, 1},   {2, 1},   {6, 1},   {7, 7},
-                                  {15, 7}, {16, 16}, {25, 16}, {26, 26}, {99, 27}};
-  for (const auto& [most, bytes] : whole) EXPECT_EQ(WholeBytes(text, most), bytes) << most;
-  const std::size_t positions[][2] = {{0, 0}, {1, 1}, {7, 2}, {16, 4}, {21, 5}, {22, 6}, {27, 11}, {99, 11}};
-  for (const auto& [bytes, units] : positions) EXPECT_EQ(WidePosition(text, bytes), units) << bytes;
+  ExpectRows("0 =>  | 1 => a | 2 => a&#937; | 3 => a&#937;&#128512; | 8 => a&#937;&#128512;&#937 | 99 => " + text,
+             [&](const std::string& count) { return FirstCharacters(text, std::stoul(count)); });
+  ExpectRows("0 => 0 | 1 => 1 | 2 => 1 | 6 => 1 | 7 => 7 | 15 => 7 | 16 => 16 | 25 => 16 | 26 => 26 | 99 => 27",
+             [&](const std::string& most) { return std::to_string(WholeBytes(text, std::stoul(most))); });
+  ExpectRows("0 => 0 | 1 => 1 | 7 => 2 | 16 => 4 | 21 => 5 | 22 => 6 | 27 => 11 | 99 => 11",
+             [&](const std::string& bytes) { return std::to_string(WidePosition(text, std::stoul(bytes))); });
 }
 
 // A page where bytes have no character, half a one, or another byte's.

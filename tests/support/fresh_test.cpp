@@ -7,6 +7,7 @@
 #include "document/document.h"
 #include "document/file_lock.h"
 #include "document/history.h"
+#include "document/reader.h"
 #include "document/segments.h"
 #include "mainwindow/command_line.h"
 #include "mainwindow/settings.h"
@@ -32,12 +33,31 @@ void FreshTest::TearDown() {
   TestFiles::Finish();
 }
 
+bool FreshTest::Loads(std::string_view file) {
+  MakeNew();  // gives up the lock
+  TestFiles::Put("Loaded.FIL", file);
+  return LoadFilerFile("Loaded.FIL");
+}
+
+void FreshTest::Load(const std::string& lines) {
+  MakeNew();
+  TheDocument = {};
+  EXPECT_TRUE(Loads(DataFile(lines))) << lines;
+}
+
 std::string InFolder(const std::string& name) { return TestFiles::Folder() + "\\" + name; }
 
-std::string Lines(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines) text += line + "\r\n";
-  return text;
+std::string DataFile(const std::string& lines) {
+  const std::string file =
+      "LARKSPUR V5.0 FILER DATA/" + lines + (lines.find("[END]") == std::string::npos ? "/[END]" : "");
+  return Replaced(Lines(Replaced(file, "\n", "/")), "~\r\n", "~/");
+}
+
+FieldSlots SlotsOf(const std::string& texts) {
+  FieldSlots slots;
+  std::size_t at = 0;
+  for (const std::string& text : Parts(texts, "|")) slots.at(at++).Text = text;
+  return slots;
 }
 
 std::string SourceFile(const std::string& name) {

@@ -15,9 +15,6 @@ inline void Require(bool holds, const char* promise) {
 // The document in words, a line a record, for comparing; empty members are left out.
 std::string DescribeDocument();
 
-// The texts of a thing's slots, each with "|" behind it.
-std::string JoinedSlots(const FieldSlots& slots);
-
 // The bytes of the file of that name, or of a passing one, after the document was written to it.
 std::string Saved(const std::string& name = "Saved.FIL");
 

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <source_location>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -46,16 +45,14 @@ inline std::pair<std::string, std::string> Halves(const std::string& text, char 
 
 // What is told of each given text is what its row expects.
 template <class Told>
-void ExpectRows(const std::string& rows, Told told, const std::source_location& at = std::source_location::current()) {
-  const testing::ScopedTrace trace(at.file_name(), static_cast<int>(at.line()), "");
+void ExpectRows(const std::string& rows, Told told) {
   for (const auto& [given, expected] : Rows(rows)) EXPECT_EQ(told(given), expected) << given;
 }
 
 // The same where the mark parts what is given in two, or in three.
 template <class Told>
-void ExpectRows(const std::string& rows, char mark, Told told,
-                const std::source_location& at = std::source_location::current()) {
-  const auto of_parts = [&](const std::string& given) {
+void ExpectRows(const std::string& rows, char mark, Told told) {
+  ExpectRows(rows, [&](const std::string& given) {
     const auto [first, rest] = Halves(given, mark);
     if constexpr (std::is_invocable_v<Told, std::string, std::string>) {
       return told(first, rest);
@@ -63,6 +60,5 @@ void ExpectRows(const std::string& rows, char mark, Told told,
       const auto [second, third] = Halves(rest, mark);
       return told(first, second, third);
     }
-  };
-  ExpectRows(rows, of_parts, at);
+  });
 }

@@ -4,7 +4,6 @@
 
 #include "platform/program.h"
 #include "support/fresh_test.h"
-#include "support/rows.h"
 #include "support/said.h"
 #include "values/number_store.h"
 
@@ -67,11 +66,9 @@ DOLLAR 30000000 => !Failed to round your number to pennies due to error # 6!Fail
 }
 
 TEST_F(EvaluatorTest, ExpandsReferences) {
-  TheDocument.Things.SetCount(1);
+  Load("[THINGS]/NAME=Barn");
   auto& slots = TheDocument.Things.Writable(1).Values;
-  const char* const texts[] = {":nothing",     "",         "PRICE:12.50",    "QTY:", "TIME:10:30",
-                               "LOOP:[loop]1", "PRICE:99", "TWO:[two][two]", "A:1"};
-  for (std::size_t slot = 0; slot < std::size(texts); ++slot) slots[slot].Text = texts[slot];
+  slots = SlotsOf(":nothing||PRICE:12.50|QTY:|TIME:10:30|LOOP:[loop]1|PRICE:99|TWO:[two][two]|A:1");
   const auto expanded = [](const std::string& text) { return Global::ExpandFieldReferences(text, 1); };
   // Empty where a value is empty or missing, and where there is no end.
   ExpectRows(R"(  [price] * 2 + [PRICE]  => 12.50 * 2 + 12.50
@@ -88,26 +85,11 @@ abc => ABC | [LOOP] =>  | [TWO] => )",
              });
 }
 
-TEST_F(EvaluatorTest, FindsOperations) {
-  int first = 0, last = 0;
-  char sign = 0;
-  EXPECT_TRUE(Global::FindOperation("1+-2*3-4", "*/", first, last, sign));
-  EXPECT_TRUE(first == 3 && last == 6 && sign == '*');
-  EXPECT_FALSE(Global::FindOperation("-3", "+-", first, last, sign));
-  EXPECT_EQ(Global::NextOperator("1E-5-2", 1, sign), 5);
-  EXPECT_EQ(Global::LastPositionOf("abcab", "ab") + 10 * Global::LastPositionOf("abc", "x"), 4);
-}
-
 TEST_F(EvaluatorTest, EndsOnLongExpressions) {
   std::string sum = "1", product = "1";
-  for (int term = 0; term < 5000; ++term) {
-    sum += "+1";
-    product += "*1+0";
-  }
+  for (int term = 0; term < 5000; ++term) sum += "+1", product += "*1+0";
   EXPECT_EQ(Value(sum) + " " + Value(product), "5001 1");
-  std::string nested(20000, '(');
-  nested += '2';
-  EXPECT_EQ(Value(nested.append(20000, ')')), "2");
+  EXPECT_EQ(Value(std::string(20000, '(') + '2' + std::string(20000, ')')), "2");
 }
 
 }  // namespace
