@@ -24,10 +24,8 @@ class FindTest : public FreshTest {
   static FindRequest Asked(const std::string& text) {
     std::vector<std::string> parts = Parts(text, "/");
     parts.resize(5);
-    const std::string places = "ENTVC", signs = "=!<[>]eE";
-    return {parts[0],
-            static_cast<FindPlace>(places.find(parts[1])),
-            {parts[2], static_cast<Comparison>(signs.find(parts[3])), parts[4]}};
+    const auto sign = static_cast<Comparison>(std::string("=!<[>]eE").find(parts[3]));
+    return {parts[0], static_cast<FindPlace>(std::string("ENTVC").find(parts[1])), {parts[2], sign, parts[4]}};
   }
 };
 

@@ -90,6 +90,9 @@ TEST_F(HistoryTest, EachStateComesBackInBothDirections) {
     SCOPED_TRACE(seed);
     random.seed(seed);
     TheDocument = {};
+    TheDocument.Things = RecordTable<ThingRecord>(1);  // tables that have to grow
+    TheDocument.Fields = RecordTable<FieldDefinition>(1);
+    TheDocument.Formulas = RecordTable<FormulaDefinition>(1);
     TheHistory.Clear();
     std::vector<std::string> states = {DescribeDocument()};
     std::size_t at = 0, saved = 0;

@@ -131,9 +131,9 @@ TEST_F(ReaderTest, ChecksTheHeader) {
       R"(larkspur v5.0 filer data => loaded |   LARKSPUR V4.1 FILER DATA   => loaded | LARKSPUR V0.5 FILER DATA => loaded
 FILER DATA of LARKSPUR V5.0 => loaded | LARKSPUR FILER DATA V5.0 => loaded | LARKSPUR V5.0 FILER DATA V9.0 => loaded
 LARKSPUR V-1.0 FILER DATA => loaded | LARKSPUR V6.0 FILER DATA => no | LARKSPUR V5.1 FILER DATA => no
-LARKSPUR V0.0 FILER DATA => no | LARKSPUR FILER DATA V5 => no | LARKSPUR FILER DATA V5  => no | LARKSPUR V5.0 DATA => no
+LARKSPUR V0.0 FILER DATA => no | LARKSPUR FILER DATA V5 => no | LARKSPUR FILER DATA V5. => no | LARKSPUR V5.0 DATA => no
 OTHER V5.0 FILER DATA => no | LARKSPUR V9.0 FILER DATA V5.0 => no | LARKSPURV5.0 FILER DATA => no
-LARKSPUR V1e999 FILER DATA => no |  => no)",
+LARKSPUR V1e999 FILER DATA => no | LARKSPUR FILER DATA V5  => no |  => no)",
       [](const std::string& header) { return Loads(header + "\r\n[END]") ? "loaded" : "no"; });
   EXPECT_FALSE(Loads(""));
 }

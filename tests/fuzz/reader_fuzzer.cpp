@@ -62,17 +62,12 @@ bool FormatHolds(const std::string& input) {
   return holds;
 }
 
-// An older document, of which nothing may show through.
-void FillStale() {
+void CheckDocument(const std::string& input) {
   TheDocument = {};
-  for (int number = 1; number <= 20; ++number) {
+  for (int number = 1; number <= 20; ++number) {  // an older document, of which nothing may show through
     TheDocument.CategoryNames.Writable(number) = TheDocument.Fields.Writable(number).Type = kStale;
     TheDocument.Formulas.Writable(number).Format = TheDocument.Things.Writable(number).NOTE = kStale;
   }
-}
-
-void CheckDocument(const std::string& input) {
-  FillStale();
   MakeNew();
   TestFiles::Put("Input.FIL", input);
   const bool complete = Survives(kDataFileHandle, [] { return LoadFilerFile("Input.FIL"); });

@@ -57,15 +57,14 @@ C:\Data,\Home.FIL => \Home.FIL | C:\Data,Home:FIL => Home:FIL)T",
 C:/a.b/Home => C:/a.b | Home.FIL => )T",
              FolderOf);
   ExpectRows(R"T(C:\a\Home.FIL => C:\a\Home.BAK | C:\a.b\Home => C:\a.b\Home.BAK
-C:/a.b/Home => C:/a.b/Home.BAK | C:\a.b.c => C:\a.b.BAK)T",
+C:/a.b/Home => C:/a.b/Home.BAK | C:\a.b.c => C:\a.b.BAK | C:\a\.FIL => C:\a\.BAK)T",
              BackupName);
   // A name without its folder has at most 255 characters.
   EXPECT_EQ(SavingName("C:\\a.b", 1) + SavingName("C:\\a.b", 2), "C:\\a.b.savingC:\\a.b.saving2");
   const std::string folder = "C:\\" + std::string(300, 'f') + "\\", longest = std::string(245, 'n');
   EXPECT_EQ(SavingName(folder + longest + "&#937;", 12), folder + longest + "&#937;.saving12");
   EXPECT_EQ(SavingName(folder + longest + "&#937;a", 12), folder + longest.substr(0, 238) + ".saving12");
-  EXPECT_TRUE(SameFile("c:/Data\\home.fil", "C:\\DATA/Home.FIL"));
-  EXPECT_FALSE(SameFile("C:\\Data\\Home.FIL", "C:\\Data\\Home2.FIL"));
+  EXPECT_TRUE(SameFile("c:/Data\\home.fil", "C:\\DATA/Home.FIL") && !SameFile("C:\\D\\A.FIL", "C:\\D\\A2.FIL"));
   ExpectRows(R"T(a.jpg, => C:\W\a.jpg; | p\a.jpg,C:\D\x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg;
 p/a.jpg,C:/D/x.FIL => C:\D\p\a.jpg;C:\W\p\a.jpg; | E:\o\p\a.jpg, => E:\o\p\a.jpg;
 E:\o/p\a.jpg,C:\x.FIL => E:\o\p\a.jpg;C:\a.jpg;C:\p\a.jpg;C:\o\p\a.jpg; | E:a.jpg,C:\x.FIL => E:a.jpg;C:\a.jpg;
@@ -145,7 +144,7 @@ TEST_F(StartTest, ProposesTheNumberBehindTheHighest) {
 C:\D\Home.FIL/filer002.fil/D:Filer011.FIL/C:\Filer003.FIL => Filer012.FIL | C:\Filer009.FIL\Home.FIL => Filer001.FIL
 C:\D\My Filer041 old.FIL => Filer042.FIL | C:\D\Filer99 => Filer001.FIL | C:\D\Filer998.FIL => Filer999.FIL
 Filer005.FIL/Filer999.FIL => Filer999.FIL | Filer999.FIL/Filer005.FIL => Filer005.FIL | Filer.FIL => Filer000.FIL
-Filer000.FIL => Filer000.FIL | Filer004.FIL/Filer.FIL => Filer005.FIL | Filer7a.FIL => Filer008.FIL
+Filer000.FIL => Filer000.FIL | Filer001.FIL => Filer002.FIL | Filer004.FIL/Filer.FIL => Filer005.FIL | Filer7a.FIL => Filer008.FIL
 Filer0123.FIL => Filer013.FIL | Filer041 => Filer042.FIL | Filer-12.FIL => Filer-012.FIL)",
              [](const std::string& recent) {
                TheRecentFiles = {};
