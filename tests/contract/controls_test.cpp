@@ -1,153 +1,141 @@
-// What the plain controls promise: their texts and looks, their events exactly once and only when something differs,
-// the focus, and groups of options.
+// What the plain controls promise beyond what stories show: odd texts, events exactly once and only when something
+// differs, what is counted in bytes, groups of options, the focus, pictures that are none.
 #include "platform/controls.h"
 
-#include <gtest/gtest-spi.h>
-
+#include "contract/error_of.h"
 #include "contract/test_form.h"
-#include "support/hands.h"
+#include "platform/message.h"
+#include "support/files.h"
 
 namespace {
 
-using ControlsTest = ShownFormTest;
-
-TEST_F(ControlsTest, TextsComeBackByteForByte) {
+TEST_F(ShownFormTest, TextsComeBackByteForByte) {
   std::string high, words, many;
   for (int byte = 0xA0; byte <= 0xFF; ++byte) high += static_cast<char>(byte);
   while (words.size() < 2000) words += "many words that wrap ";
   while (many.size() < 40000) many += "a line that is short enough\r\n";
-  for (const auto& [control, name] : form.Members) {
-    const int id = control->Id();
-    const bool is_typed = id == IDC_LineBox || id == IDC_LinesBox || id == IDC_NameCombo;
-    if (id >= IDC_KindDrop && id <= IDC_PhotoPic) continue;  // has no text, or not its own
+  for (Control* control :
+       std::initializer_list<Control*>{&form.TitleLabel, &form.FirstButton, &form.RedOption, &form.GroupFrame,
+                                       &form.LineBox, &form.LinesBox, &form.NameCombo}) {
+    SCOPED_TRACE(control->Id());
     std::vector<std::string> texts = {"plain",    "",  "Fish & Chips && more", " caf\xE9 ", high, "tab\tbed",
                                       "100%s %d", kFar};
     // Lines are parted by CR LF, and long ones stay whole.
-    if (id == IDC_LinesBox)
+    if (control == &form.LinesBox)
       texts.insert(texts.end(), {"first\r\n\r\n  third\r\n", std::string(1000, 'w'), words, many});
-    if (id == IDC_LineBox) texts.emplace_back(40000, 'y');
+    if (control == &form.LineBox) texts.emplace_back(40000, 'y');
+    const bool is_typed = control == &form.LineBox || control == &form.LinesBox || control == &form.NameCombo;
     for (const std::string& text : texts) {
+      const std::string tip = text.substr(0, 200);
       control->SetText(text);
-      EXPECT_EQ(control->Text(), text) << name;
-      EXPECT_EQ(user.Sees(id), text);
+      control->SetToolTip(tip);
+      EXPECT_EQ(control->Text() + control->ToolTip(), text + tip);
       control->SetText("-");
-      if (is_typed) user.Types(id, text);
-      EXPECT_EQ(control->Text(), is_typed ? text : "-") << name;
+      if (is_typed) user.Enters(control->Id(), text);
+      EXPECT_EQ(control->Text(), is_typed ? text : "-");
     }
   }
 }
 
-TEST_F(ControlsTest, ChangeComesOnceAndOnlyWhenTheTextDiffers) {
-  for (Control* box : std::initializer_list<Control*>{&form.LineBox, &form.LinesBox, &form.NameCombo}) {
-    const std::string change = form.Members[box] + " Change ";
-    const auto sets = [box](const char* text) { box->SetText(text); };
-    const auto types = [&](const char* text) { user.Types(box->Id(), text); };
-    Does([&] { sets("code"), sets("code"), types("code"); }, change + "code");
-    Does([&] { types("person"), types("person"), sets("person"); }, change + "person");
-    Does([&] { sets("PERSON"); }, change + "PERSON");
-  }
-  form.LineBox.Change = [&, tell = form.LineBox.Change] {
-    tell();
-    if (form.LineBox.Text() == "wrong") form.LineBox.SetText("right");
+TEST_F(ShownFormTest, ChangeComesOnceAndOnlyWhenTheTextDiffers) {
+  const auto check = [this](auto& box) {
+    const auto sets = [&](const char* text) { box.SetText(text); };
+    const auto types = [&](const char* text) { user.Enters(box.Id(), text); };
+    box.Change = [&box] { Log(box.Text()); };
+    Does([&] { sets("code"), sets("code"), types("code"); }, "code");
+    Does([&] { types("person"), types("person"), sets("person"); }, "person");
+    Does([&] { sets("PERSON"); }, "PERSON");
+    box.Change = [&] {
+      Log(box.Text());
+      if (box.Text() == "wrong") sets("right");
+    };
+    Does([&] { types("wrong"), sets("wrong"); }, "wrong, right, wrong, right");
   };
-  Does([&] { user.Types(IDC_LineBox, "wrong"); }, "LineBox Change wrong, LineBox Change right");
-  Does([&] { form.LineBox.SetText("wrong"); }, "LineBox Change wrong, LineBox Change right");
-  Does([&] { form.TitleLabel.SetText("x"), form.FirstButton.SetText("x"), form.GroupFrame.SetText("x"); }, "");
+  check(form.LineBox);
+  check(form.LinesBox);
+  check(form.NameCombo);
 }
 
-TEST_F(ControlsTest, LimitAndReadOnlyBindThePersonNotTheCode) {
-  form.LineBox.SetTextLimit(5);
-  Does([&] { user.Types(IDC_LineBox, "abcdefgh"); }, "LineBox Change abcde");
-  Does([&] { form.LineBox.SetText("abcdefgh"); }, "LineBox Change abcdefgh");
-  form.LineBox.SetTextLimit(7);  // in bytes
-  Does([&] { user.Types(IDC_LineBox, "&#937;abc"); }, "LineBox Change &#937;a");
-  form.LineBox.SetTextLimit(0);
-  Does([&] { user.Types(IDC_LineBox, "no limit any more"); }, "LineBox Change no limit any more");
-  for (const bool read_only : {true, false}) {
-    EXPECT_NE(form.LinesBox.ReadOnly(), read_only);
-    form.LinesBox.SetReadOnly(read_only);
-    Does([&] { form.LinesBox.SetText(read_only ? "bound" : "free"); },
-         read_only ? "LinesBox Change bound" : "LinesBox Change free");
-    if (read_only) Does([&] { EXPECT_NONFATAL_FAILURE(user.Types(IDC_LinesBox, "typed"), "5013"); }, "");
+TEST_F(ShownFormTest, LimitsBindThePersonNotTheCodeAndAreInBytesAsMarksAre) {
+  TextBox& box = form.LineBox;
+  for (const auto& [limit, typed] : {std::pair(5, "abcde"), {7, "&#937;a"}, {0, "&#937;abcdefgh"}}) {
+    box.SetTextLimit(limit);
+    box.SetText("abcdefgh");
+    EXPECT_EQ(box.Text(), "abcdefgh");
+    user.Enters(IDC_LineBox, limit == 5 ? "abcdefgh" : "&#937;abcdefgh");
+    EXPECT_EQ(box.Text(), typed);
   }
-  Does([&] { user.Types(IDC_LinesBox, "typed"); }, "LinesBox Change typed");
-}
-
-TEST_F(ControlsTest, MarksAreCountedInBytes) {
-  form.LineBox.SetText("a&#937;b&#128512;&#38;#937;");
-  form.NameCombo.SetText(form.LineBox.Text());
-  for (const auto& [first, last] : {std::pair(0, 27), {1, 7}, {8, 17}, {7, 8}, {17, 27}}) {
-    form.LineBox.SelectText(first, last);
-    form.NameCombo.SelectText(first, last);
-    for (const Control* control : std::initializer_list<Control*>{&form.LineBox, &form.NameCombo}) {
-      EXPECT_EQ(Hands::LookAt(*control).Mark, std::pair(first, last)) << control->Id();
-    }
+  box.SetText("a&#937;b&#128512;&#38;#937;");
+  form.NameCombo.SetText(box.Text());
+  for (const auto& mark : {std::pair(0, 27), {1, 7}, {8, 17}, {7, 8}, {17, 27}}) {
+    box.SelectText(mark.first, mark.second);
+    form.NameCombo.SelectText(mark.first, mark.second);
+    for (const int id : {IDC_LineBox, IDC_NameCombo}) EXPECT_EQ(user.LooksAt(id).Mark, mark) << id;
   }
 }
 
-TEST_F(ControlsTest, PropertiesAreOfOneControlEach) {
-  const struct {
-    void (Control::*Set)(bool);
-    bool (Control::*Get)() const;
-    bool (User::*Sees)(int);
-    bool Usual;
-  } properties[] = {{&Control::SetEnabled, &Control::Enabled, &User::SeesEnabled, true},
-                    {&Control::SetVisible, &Control::Visible, &User::SeesVisible, true},
-                    {&Control::SetBold, &Control::Bold, &User::SeesBold, false}};
-  for (const auto& [each, name] : form.Members) {
-    SCOPED_TRACE(name);
-    EXPECT_EQ(&each->Owner(), &form);
-    for (const auto& [set, get, sees, usual] : properties) {
-      EXPECT_EQ((each->*get)(), usual);
-      for (const bool value : {!usual, usual}) {
-        (each->*set)(value);
-        EXPECT_EQ((each->*get)(), value);
-        EXPECT_EQ((user.*sees)(each->Id()), value);
-      }
-    }
-    EXPECT_EQ(each->ToolTip(), "");
-    for (const std::string tip : {"Fish & Chips", kFar.c_str(), ""}) {
-      each->SetToolTip(tip);
-      EXPECT_EQ(each->ToolTip(), tip);
-    }
-  }
-  for (const bool marked : {true, false}) {
-    const BackColor color = marked ? BackColor::Marked : BackColor::ButtonFace;
-    EXPECT_TRUE(form.TitleLabel.Border() != marked && form.FirstButton.BackColor() != color);
-    form.TitleLabel.SetBorder(marked);
-    form.FirstButton.SetBackColor(color);
-    EXPECT_TRUE(form.TitleLabel.Border() == marked && form.FirstButton.BackColor() == color);
-  }
+TEST_F(ShownFormTest, OptionsOfAGroupGoOutForEachOther) {
+  OptionButton* const options[] = {&form.RedOption, &form.GreenOption, &form.SmallOption, &form.LargeOption};
+  for (OptionButton* each : options) each->Click = [] { Log("Click"); };
+  const auto does = [&](const Event& act, const char* checked) {
+    Does(act, "Click");
+    for (int each = 0; each < 4; ++each) EXPECT_EQ(options[each]->Checked(), checked[each] == 'x') << checked << each;
+  };
+  does([&] { form.RedOption.SetChecked(true), form.RedOption.SetChecked(true); }, "x---");
+  does([&] { form.LargeOption.SetChecked(true); }, "x--x");
+  does([&] { user.Clicks(IDC_GreenOption), user.Clicks(IDC_GreenOption); }, "-x-x");
+  does([&] { form.RedOption.SetChecked(true), form.LargeOption.SetChecked(false); }, "x---");
 }
 
-TEST_F(ControlsTest, OptionsOfAGroupGoOutForEachOther) {
-  OptionButton &red = form.RedOption, &green = form.GreenOption, &small = form.SmallOption, &large = form.LargeOption;
-  Does([&] { red.SetChecked(true), large.SetChecked(true); }, "RedOption Click, LargeOption Click");
-  EXPECT_TRUE(red.Checked() && !green.Checked() && !small.Checked() && large.Checked());
-  Does([&] { user.Clicks(IDC_GreenOption), user.Clicks(IDC_GreenOption); }, "GreenOption Click");
-  EXPECT_TRUE(!red.Checked() && green.Checked() && !small.Checked() && large.Checked());
-  Does([&] { red.SetChecked(true), red.SetChecked(true), large.SetChecked(false); }, "RedOption Click");
-  EXPECT_TRUE(red.Checked() && !green.Checked() && !small.Checked() && !large.Checked());
+TEST_F(ShownFormTest, FocusMovesBeforeTheClickAndNeverToBoxesNorToWhatCannotHaveIt) {
+  form.LineBox.LostFocus = [] { Log("lost"); };
+  form.NameCombo.GotFocus = [] { Log("got"); };
+  form.TitleLabel.Click = form.ShownPic.Click = form.FirstButton.Click = [] { Log("Click"); };
+  form.LinesBox.SetEnabled(false);
+  form.EntryList.SetVisible(false);
+  Does([&] { form.LinesBox.SetFocus(), form.EntryList.SetFocus(), form.TitleLabel.SetFocus(); }, "");
+  Does([&] { user.Clicks(IDC_TitleLabel), user.Clicks(IDC_ShownPic); }, "Click, Click");
+  Does([&] { MsgBox("one", "T"), InputBox("two", "T"); }, "no icon OK: one [T], Activate, input: two [T], Activate");
+  Does([&] { form.NameCombo.SetFocus(), form.NameCombo.SetFocus(), form.LineBox.SetFocus(); }, "lost, got");
+  Does([&] { user.Clicks(IDC_FirstButton); }, "lost, Click");
 }
 
-TEST_F(ControlsTest, FocusIsLostAndGotBeforeAnythingElseAndNotToBoxesAboveTheForm) {
-  LogsFocus = true;
-  form.EntryList.SetFocus();
-  EXPECT_TRUE(form.EntryList.HasFocus() && user.SeesFocusOn(IDC_EntryList));
-  Does([&] { form.LineBox.SetFocus(), form.LineBox.SetFocus(); }, "EntryList lost, LineBox got");
-  EXPECT_FALSE(form.EntryList.HasFocus());
-  Does([&] { user.Clicks(IDC_FirstButton); }, "LineBox lost, FirstButton got, FirstButton Click");
-  Does([&] { user.Types(IDC_NameCombo, "x"); }, "FirstButton lost, NameCombo got, NameCombo Change x");
-  Does([&] { user.MovesTo(IDC_LinesBox); }, "NameCombo lost, LinesBox got");
-  Does([&] { user.Clicks(IDC_TitleLabel), user.Clicks(IDC_PhotoPic), user.ChoosesMenu(IDC_PlainItem); },
-       "TitleLabel Click, PhotoPic Click, Menu 5040");
-  form.LineBox.SetEnabled(false);
-  form.FirstButton.SetVisible(false);
-  Does([&] { form.LineBox.SetFocus(), form.FirstButton.SetFocus(), form.TitleLabel.SetFocus(); }, "");
-  user.Reads("above", Icon::None);
-  user.AnswersInput("above", "x");
-  Does([&] { MsgBox("above", "T"), InputBox("above", "T"); }, "Activate, Activate");
-  EXPECT_TRUE(form.LinesBox.HasFocus() && user.SeesFocusOn(IDC_LinesBox));
+TEST_F(FormTest, RoomOnASurfaceFollowsTheTextSize) {
+  Surface& surface = form.TextSurface;
+  const int columns = surface.Columns(), rows = surface.Rows();
+  EXPECT_TRUE(surface.TextSize() == 10 && columns >= 10 && rows >= 3);
+  surface.SetTextSize(20);
+  EXPECT_NEAR(surface.Columns(), columns / 2, 2);
+  EXPECT_NEAR(surface.Rows(), rows / 2, 1);
+  surface.SetTextSize(4000);
+  EXPECT_EQ(surface.Columns() + surface.Rows(), 1 + 1);
+}
+
+TEST_F(FormTest, PicturesAreKnownByTheirBytesAndWhatFailsLeavesTheBoxEmpty) {
+  // 2 by 2 pixels in 24 bits.
+  const std::string bitmap =
+      std::string("BM\x46\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x02\0\0\0\x02\0\0\0\x01\0\x18\0", 30) +
+      std::string(24, '\0') + std::string(16, '\x7F');
+  const std::string jpeg("\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1\0\0\1\0\1\0\0", 20);
+  TestFiles::Start();
+  Picture& box = form.ShownPic;
+  for (const std::string& bytes :
+       {std::string(), std::string(200, 't'), bitmap.substr(0, 54), bitmap.substr(0, 60), jpeg}) {
+    TestFiles::Put("a.bmp", bitmap);
+    box.Load("a.bmp");
+    // A file is read again only when it has changed, and the box does not hold it.
+    TestFiles::HoldByOther("a.bmp", true);
+    box.Load("a.bmp");
+    EXPECT_FALSE(box.Empty());
+    TestFiles::ReleaseByOther();
+    TestFiles::Put("a.bmp", bytes);
+    EXPECT_EQ(ErrorOf([&] { box.Load("a.bmp"); }), kInvalidPicture) << bytes.size();
+    EXPECT_TRUE(box.Empty()) << bytes.size();
+    TestFiles::HoldByOther("a.bmp", true);
+    EXPECT_EQ(ErrorOf([&] { box.Load("a.bmp"); }), kPermissionDenied) << bytes.size();
+    TestFiles::ReleaseByOther();
+  }
+  TestFiles::Finish();
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
-// What runtime_error.h, locale.h, program.h and process.h promise, on both platforms alike.
+// What runtime_error.h, locale.h, program.h, process.h and clipboard.h promise, on both platforms alike.
 #include <sstream>
 
 #include "contract/error_of.h"
+#include "platform/clipboard.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/process.h"
@@ -33,20 +34,15 @@ Can't open Clipboard => 521)")) {
   for (const int unknown : {-1, 0, 9999}) EXPECT_EQ(ErrorDescription(unknown), ErrorDescription(5)) << unknown;
 }
 
-std::string Range(int first, int last) {
-  std::string text;
-  for (int code = first; code <= last; ++code) text += static_cast<char>(code);
-  return text;
-}
-
 TEST(SystemTest, TextIsOfTheSystemsLanguage) {
-  const std::string letters = Range('a', 'z') + Range(0xE0, 0xF6) + Range(0xF8, 0xFE) + "\x9A\x9C\x9E\xFF";
-  const std::string capitals = Range('A', 'Z') + Range(0xC0, 0xD6) + Range(0xD8, 0xDE) + "\x8A\x8C\x8E\x9F";
-  for (const char character : Range(0, 255)) {
-    const std::size_t letter = letters.find(character);
-    EXPECT_EQ(UpperCase(character), letter == std::string::npos ? character : capitals[letter]);
+  for (int code = 0; code < 256; ++code) {
+    const auto within = [code](int first, int last) { return first <= code && code <= last; };
+    const bool is_letter = within('a', 'z') || within(0xE0, 0xF6) || within(0xF8, 0xFE);
+    const bool is_other = code == 0x9A || code == 0x9C || code == 0x9E;
+    const auto capital = static_cast<char>(code - (is_letter ? 0x20 : is_other ? 0x10 : code == 0xFF ? 0x60 : 0));
+    EXPECT_EQ(UpperCase(static_cast<char>(code)), capital);
+    EXPECT_EQ(UpperCase("a\0"s + static_cast<char>(code)), "A\0"s + capital);
   }
-  EXPECT_EQ(UpperCase("Shed 12\0"s + letters), "SHED 12\0"s + capitals);
   EXPECT_EQ(DecimalSeparator(), '.');
   EXPECT_EQ(FirstWeekday(), 0);
   EXPECT_EQ(ShortDate(2026, 8, 5) + " " + ShortDate(9998, 12, 31) + " " + ShortDate(1601, 1, 1),
@@ -55,7 +51,7 @@ TEST(SystemTest, TextIsOfTheSystemsLanguage) {
   EXPECT_TRUE(Today().ok() && Today().year() >= std::chrono::year{2026});
 }
 
-TEST(SystemTest, ProgramHasFoldersAnEnvironmentAndAnEnd) {
+TEST(SystemTest, ProgramHasFoldersAnEnvironmentAClipboardAndAnEnd) {
   TestFiles::Start();
   EXPECT_EQ(CurrentFolder(), TestFiles::Folder());
   const std::string folder = ProgramFolder();
@@ -63,9 +59,13 @@ TEST(SystemTest, ProgramHasFoldersAnEnvironmentAndAnEnd) {
   EXPECT_NE(EnvironmentValue("PATH").value_or(""), "");
   EXPECT_EQ(EnvironmentValue("Path"), EnvironmentValue("PATH"));
   EXPECT_FALSE(EnvironmentValue("FILER_TEST_NOT_DEFINED") || EnvironmentValue(""));
-  EXPECT_EQ(ErrorOf([] { StartProgram("\"C:\\no such folder\\none.exe\" x"); }), kFileNotFound);
-  EXPECT_EQ(ErrorOf([] { StartProgram("none.exe"); }), kFileNotFound);
-
+  for (const std::string none : {"none.exe", "\"C:\\no such folder\\none.exe\" x"}) {
+    EXPECT_EQ(ErrorOf([&] { StartProgram(none); }), kFileNotFound) << none;
+  }
+  for (const std::string text : {"old", "caf\xE9\r\nline &#937;&#38;#937;", ""}) {
+    SetClipboardText(text);
+    EXPECT_EQ(ClipboardText(), text);
+  }
   Files::Open(1, "OUT.TXT", Files::Mode::Output);
   Files::WriteLine(1, "last words");
   EXPECT_THROW(EndProgram(), ProgramEnded);

@@ -144,7 +144,7 @@ a;;b => !Data file contains no record definitions.
 [CATEGORIES]/*32;NAME=Z/*/NAME=More => xMaximum 32 categories exceeded; loading stopped. ... category 32 name<Z>/
 [FIELDS]/NAME=P/[THINGS]/*2;NAME=A;%P=1;%P=2;%P=3;%P=4;%P=5;%P=6;%P=7;%P=8;%P=9;%P=10/%P=11 => !Data file contains too many user-defined fields for person #2: A ... field 1 keyword<P>/thing 2 name<A> slot1<P:1> slot2<P:2> slot3<P:3> slot4<P:4> slot5<P:5> slot6<P:6> slot7<P:7> slot8<P:8> slot9<P:9> slot10<P:10>/
 )");
-  said.Reply = Answer::No;
+  said.Reply = "no";
   Check(
       R"([FIELDS]/NAME=price/[THINGS]/NAME=A/%price=1/NOTE=b => ?Filer object record contains unknown user-defined field: <<%price=1>>.  It will not be loaded.  Do you wish to continue loading the remaining data? ... field 1 keyword<price>/thing 1 name<A>/)");
 }

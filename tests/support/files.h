@@ -8,7 +8,7 @@
 
 namespace TestFiles {
 
-void Start();          // makes the empty folder and moves into it
+void Start();          // makes the empty folder and moves into it; what the programs remember is forgotten
 void Finish();         // closes every handle and removes the folder
 std::string Folder();  // its full name, without a trailing "\"
 

@@ -11,11 +11,9 @@
 #include "mainwindow/command_line.h"
 #include "mainwindow/settings.h"
 #include "shell/messages.h"
-#include "support/registry.h"
 
 void FreshTest::SetUp() {
   TestFiles::Start();
-  TestRegistry::Remove(kOwnKey);
   StartFresh();
 }
 

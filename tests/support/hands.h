@@ -13,7 +13,7 @@
 
 namespace Hands {
 
-// The listener of the test is told of what comes up from now on; of nothing any more.
+// The listeners of a test are told of what comes up from now on; of nothing any more.
 void Begin();
 void End();
 
@@ -47,7 +47,6 @@ void Type(Control& box, const std::string& text);
 void Click(Control& control);
 void Select(ListControl& list, int position);
 void TurnOver(CheckList& list, int position);
-bool CanChoose(const Form& form, int item);  // as when its menu opens
 void Choose(Form& form, int item);
 void Press(Form& form, const KeyPress& key);
 void PressControl(Form& form, char letter);

@@ -1,27 +1,38 @@
-// Who is told of what comes up before a test's person, and answers it.
+// Who is told, in words, of what comes up before a test's person, and answers it.
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "platform/form.h"
 #include "platform/message.h"
 
+// It listens for as long as it lives, or until another one does meanwhile. This one expects nothing: whatever comes
+// fails the test and is closed.
 class Listener {
  public:
-  virtual ~Listener() = default;
-  virtual Answer MessageCame(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) = 0;
-  // The text to type before OK, or to choose; empty cancels. What a file dialog is asked for is told in words.
-  virtual std::string InputCame(const std::string& prompt, const std::string& caption, const std::string& offered) = 0;
-  virtual std::string FileDialogCame(const std::string& asked) = 0;
-  // Uses the form, and reports one that is still open then: it is closed afterwards, asking nobody.
-  virtual void FormCame(Form& form) = 0;
+  Listener();
+  virtual ~Listener();
+  Listener(const Listener&) = delete;
+  Listener& operator=(const Listener&) = delete;
+
+  // A box came: "exclamation OK: text", "input: prompt", "file dialog: caption"; behind it its caption where that is
+  // not the usual one.
+  virtual void BoxCame(const std::string& words);
+  // Asked behind that, but for a message to be read only: "ok", "cancel", "yes" or "no", or a text in quotes.
+  virtual std::string ReplyTo(const std::string& /*words*/) { return "cancel"; }
+  // Uses the form; one that is still open then is closed, asking nobody.
+  virtual void FormCame(Form& form);
+
+ private:
+  Listener* former_;
 };
 
-// The one of the running test.
-Listener*& TheListener();
+// For the platforms: what came is told to the listener, and its answer comes back.
+namespace Coming {
 
-// A message box in words: "exclamation OK: text".
-std::string InWords(const std::string& text, Buttons buttons, Icon icon);
-// What such a box is answered by "ok", "cancel", "yes" or "no"; nothing when it has no such button.
-std::optional<Answer> AnswerOf(const std::string& word, Buttons buttons);
+Answer Message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon);
+std::string Input(const std::string& prompt, const std::string& caption, const std::string& offered);
+std::string FileDialog(const std::string& asked);
+void FormToUse(Form& form);
+
+}  // namespace Coming

@@ -1,6 +1,7 @@
 // Listens in place of a person and notes what message boxes say, for tests that compare texts by the row.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -8,25 +9,19 @@
 
 class Said : public Listener {
  public:
-  Said() : former_(std::exchange(TheListener(), this)) {}
-  ~Said() override { TheListener() = former_; }
-  Said(const Said&) = delete;
-  Said& operator=(const Said&) = delete;
-
   // What was said since the last call: before each text "?" when it was a question, or the sign of its icon.
   std::string Take() { return std::exchange(said_, {}); }
 
-  Answer Reply = Answer::Yes;  // to questions
+  std::string Reply = "yes";  // to questions
 
-  Answer MessageCame(const std::string& text, const std::string& /*caption*/, Buttons buttons, Icon icon) override {
-    said_ += (buttons == Buttons::Ok ? " i!x"[static_cast<int>(icon)] : '?') + text;
-    return buttons == Buttons::Ok ? Answer::Ok : Reply;
+  void BoxCame(const std::string& words) override {
+    const auto text = words.find(": ");
+    const bool asks = words.find('/') < text;
+    said_ += (asks ? '?' : words[0] == 'n' ? ' ' : words[0] == 'e' ? '!' : words[0] == 'c' ? 'x' : 'i');
+    said_ += words.substr(text + 2);
   }
-  std::string InputCame(const std::string&, const std::string&, const std::string&) override { return {}; }
-  std::string FileDialogCame(const std::string&) override { return {}; }
-  void FormCame(Form& /*form*/) override {}
+  std::string ReplyTo(const std::string& /*words*/) override { return Reply; }
 
  private:
-  Listener* former_;
   std::string said_;
 };

@@ -20,6 +20,7 @@ void Start() {
   Machine::MakeFolder(kFolder);
   Machine::SetCurrentFolder(kFolder);
   Machine::ClearFaults();
+  Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, kOwnKey);
 }
 
 void Finish() {

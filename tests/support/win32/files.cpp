@@ -2,58 +2,43 @@
 // program visible to tests, as it is in memory.
 #include "support/files.h"
 
+#include <gtest/gtest.h>
+#include <share.h>
 #include <windows.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
+#include <memory>
 
 #include "platform/files.h"
 #include "platform/program.h"
+#include "platform/registry.h"
 #include "platform/win32/end_hook.h"
 #include "platform/win32/wide.h"
 
 namespace {
+
+namespace fs = std::filesystem;
 
 [[maybe_unused]] const bool kEndHookSet = [] {
   EndHook = [] { throw ProgramEnded{}; };
   return true;
 }();
 
-std::string folder;
-std::string former_folder;
-std::vector<HANDLE> other_handles;
+fs::path folder, former_folder;
+std::vector<std::unique_ptr<std::FILE, int (*)(std::FILE*)>> held_by_other;
 
-void Require(bool done, const std::string& what) {
-  if (!done) throw std::runtime_error("test files: " + what + ", code " + std::to_string(GetLastError()));
-}
-
-template <typename Visit>
-void ForEachIn(const std::string& where, Visit visit) {
-  WIN32_FIND_DATAW entry{};
-  HANDLE search = FindFirstFileW(SystemName(where + "\\*").c_str(), &entry);
-  if (search == INVALID_HANDLE_VALUE) return;
-  do {
-    const std::string name = Bytes(entry.cFileName);
-    const bool is_folder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    if (name != "." && name != "..") visit(name, is_folder);
-  } while (FindNextFileW(search, &entry));
-  FindClose(search);
-}
-
-void RemoveTree(const std::string& where) {
-  ForEachIn(where, [&where](const std::string& name, bool is_folder) {
-    const std::string full_name = where + "\\" + name;
-    SetFileAttributesW(SystemName(full_name).c_str(), FILE_ATTRIBUTE_NORMAL);
-    if (is_folder) {
-      RemoveTree(full_name);
-    } else {
-      Require(DeleteFileW(SystemName(full_name).c_str()), "remove " + full_name);
-    }
-  });
-  Require(RemoveDirectoryW(SystemName(where).c_str()), "remove " + where);
+// Files may be read-only, and have longer names than the library takes.
+void RemoveTree(const fs::path& where) {
+  for (const auto& each : fs::directory_iterator(where)) {
+    const std::wstring name = SystemName(Bytes(each.path().wstring()));
+    SetFileAttributesW(name.c_str(), FILE_ATTRIBUTE_NORMAL);
+    if (!DeleteFileW(name.c_str())) RemoveTree(each.path());
+  }
+  fs::remove(where);
 }
 
 }  // namespace
@@ -62,66 +47,58 @@ namespace TestFiles {
 
 void Start() {
   static int count = 0;
-  former_folder = CurrentFolder();
-  const std::string made =
-      TemporaryFolder() + "\\FilerTest" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
-  Require(CreateDirectoryW(Wide(made).c_str(), nullptr), "make " + made);
-  Require(SetCurrentDirectoryW(Wide(made).c_str()), "enter " + made);
-  folder = CurrentFolder();
+  former_folder = fs::current_path();
+  folder =
+      fs::temp_directory_path() / ("FilerTest" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count));
+  fs::create_directory(folder);
+  fs::current_path(folder);
+  RegDeleteTreeA(HKEY_CURRENT_USER, kOwnKey);
 }
 
 void Finish() {
   Files::CloseAll();
   ReleaseByOther();
-  Require(SetCurrentDirectoryW(Wide(former_folder).c_str()), "return to " + former_folder);
+  fs::current_path(former_folder);
   RemoveTree(folder);
 }
 
-std::string Folder() { return folder; }
+std::string Folder() { return Bytes(folder.wstring()); }
 
 void Put(const std::string& name, std::string_view bytes) {
-  std::ofstream out(std::filesystem::path(SystemName(name)), std::ios::binary);
+  std::ofstream out(fs::path(SystemName(name)), std::ios::binary);
   out << bytes << std::flush;
-  Require(out.good(), "put " + name);
+  EXPECT_TRUE(out.good()) << name;
 }
 
 std::optional<std::string> Get(const std::string& name) {
-  std::ifstream in(std::filesystem::path(SystemName(name)), std::ios::binary);
+  std::ifstream in(fs::path(SystemName(name)), std::ios::binary);
   if (!in) return std::nullopt;
   return std::string(std::istreambuf_iterator<char>(in), {});
 }
 
 void SetReadOnly(const std::string& name, bool read_only) {
-  const DWORD attributes = read_only ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL;
-  Require(SetFileAttributesW(SystemName(name).c_str(), attributes), "set read-only " + name);
+  fs::permissions(SystemName(name), fs::perms::owner_write,
+                  read_only ? fs::perm_options::remove : fs::perm_options::add);
 }
 
-void MakeFolder(const std::string& name) {
-  Require(CreateDirectoryW(SystemName(name).c_str(), nullptr) || GetLastError() == ERROR_ALREADY_EXISTS,
-          "make " + name);
-}
+void MakeFolder(const std::string& name) { fs::create_directory(SystemName(name)); }
 
 std::vector<std::string> List(const std::string& below) {
   std::vector<std::string> names;
-  ForEachIn(below.empty() ? folder : folder + "\\" + below, [&names](const std::string& name, bool is_folder) {
-    if (!is_folder) names.push_back(name);
-  });
+  std::error_code none;
+  for (const auto& each : fs::directory_iterator(folder / Wide(below), none)) {
+    if (!each.is_directory(none)) names.push_back(Bytes(each.path().filename().wstring()));
+  }
   std::sort(names.begin(), names.end());
   return names;
 }
 
 void HoldByOther(const std::string& name, bool against_readers) {
-  const DWORD access = against_readers ? GENERIC_READ | GENERIC_WRITE : GENERIC_WRITE;
-  const DWORD sharing = against_readers ? 0 : FILE_SHARE_READ;
-  HANDLE file =
-      CreateFileW(SystemName(name).c_str(), access, sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  Require(file != INVALID_HANDLE_VALUE, "hold " + name);
-  other_handles.push_back(file);
+  const int against = against_readers ? _SH_DENYRW : _SH_DENYWR;
+  held_by_other.emplace_back(_wfsopen(SystemName(name).c_str(), L"r+b", against), std::fclose);
+  EXPECT_NE(held_by_other.back(), nullptr) << name;
 }
 
-void ReleaseByOther() {
-  for (HANDLE each : other_handles) CloseHandle(each);
-  other_handles.clear();
-}
+void ReleaseByOther() { held_by_other.clear(); }
 
 }  // namespace TestFiles

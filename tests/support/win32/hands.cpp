@@ -2,22 +2,18 @@
 #include "support/hands.h"
 
 #include <algorithm>
-#include <memory>
 
 #include "platform/win32/drop_target.h"
 #include "platform/win32/internals.h"
 #include "platform/win32/photo.h"
 #include "platform/win32/surface_work.h"
 #include "platform/win32/wide.h"
-#include "support/win32/watcher.h"
 // After windows.h, on which it builds.
 #include <shlobj.h>
 
 namespace {
 
 using Kind = Control::Peer::Kind;
-
-std::unique_ptr<Watcher> watcher;
 
 // The watcher's own timer waits for a message loop.
 void SettlePart() {
@@ -31,21 +27,8 @@ void SettlePart() {
 
 HWND FormWindow(const Control::Peer& peer) { return peer.Owner->PeerOf().Window; }
 
-HWND EditOf(const Control::Peer& peer) {
-  if (peer.What == Kind::ComboBox) return peer.EditField();
-  return peer.What == Kind::TextBox ? peer.Window : nullptr;
-}
-
-int CountOf(const Control::Peer& peer) {
-  if (peer.What == Kind::CheckList) return static_cast<int>(peer.Send(LVM_GETITEMCOUNT));
-  return peer.HoldsEntries() ? static_cast<int>(peer.Send(peer.DropsDown() ? CB_GETCOUNT : LB_GETCOUNT)) : 0;
-}
-
-std::string EntryOf(const Control& control, int position) {
-  const Control::Peer& peer = control.PeerOf();
-  if (peer.What == Kind::CheckList) return static_cast<const CheckList&>(control).EntryText(position);
-  return peer.Entries.at(static_cast<std::size_t>(position)).Text;
-}
+// Another control takes the messages of edit fields for nothing.
+HWND EditOf(const Control::Peer& peer) { return peer.What == Kind::ComboBox ? peer.EditField() : peer.Window; }
 
 // The rows of a row list as the native control shows them, which asks for them.
 std::vector<std::string> RowsOn(const Control::Peer& peer) {
@@ -66,16 +49,10 @@ std::vector<std::string> RowsOn(const Control::Peer& peer) {
 
 // A file as the system's own windows hand it out to be dragged.
 Com<IDataObject> Dragged(const std::string& file) {
-  PIDLIST_ABSOLUTE id = nullptr;
-  IShellFolder* folder = nullptr;
-  LPCITEMIDLIST item = nullptr;
+  IShellItem* item = nullptr;
   void* data = nullptr;
-  if (SUCCEEDED(SHParseDisplayName(Wide(file).c_str(), nullptr, &id, 0, nullptr)) &&
-      SUCCEEDED(SHBindToParent(id, IID_IShellFolder, reinterpret_cast<void**>(&folder), &item))) {
-    folder->GetUIObjectOf(nullptr, 1, &item, IID_IDataObject, nullptr, &data);
-    folder->Release();
-  }
-  ILFree(id);
+  SHCreateItemFromParsingName(Wide(file).c_str(), nullptr, IID_IShellItem, reinterpret_cast<void**>(&item));
+  if (item != nullptr) Com<IShellItem>(item)->BindToHandler(nullptr, BHID_SFUIObject, IID_IDataObject, &data);
   return Com<IDataObject>(static_cast<IDataObject*>(data));
 }
 
@@ -83,24 +60,16 @@ bool IsTicked(const Control::Peer& peer, int position) {
   return peer.Send(LVM_GETITEMSTATE, static_cast<WPARAM>(position), LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(2);
 }
 
-// Keys that are held down for as long as one of these lives.
-class Held {
- public:
-  Held(bool shift, bool control) {
-    GetKeyboardState(before_);
-    BYTE now[256];
-    std::copy(std::begin(before_), std::end(before_), now);
-    now[VK_SHIFT] = shift ? 0x80 : 0;
-    now[VK_CONTROL] = control ? 0x80 : 0;
-    SetKeyboardState(now);
-  }
-  ~Held() { SetKeyboardState(before_); }
-  Held(const Held&) = delete;
-  Held& operator=(const Held&) = delete;
+void Hold(bool shift, bool control) {
+  BYTE keys[256] = {};
+  keys[VK_SHIFT] = shift ? 0x80 : 0;
+  keys[VK_CONTROL] = control ? 0x80 : 0;
+  SetKeyboardState(keys);
+}
 
- private:
-  BYTE before_[256] = {};
-};
+void Mouse(const Control& control, LPARAM place, std::initializer_list<UINT> messages) {
+  for (const UINT message : messages) control.PeerOf().Send(message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, place);
+}
 
 // The middle of a cell in the window's own coordinates.
 LPARAM Inside(const Surface& surface, const Cell& cell) {
@@ -110,32 +79,31 @@ LPARAM Inside(const Surface& surface, const Cell& cell) {
 
 }  // namespace
 
-void Hands::Begin() { watcher = std::make_unique<Watcher>(); }
-void Hands::End() { watcher.reset(); }
-
 Hands::Sight Hands::LookAt(const Control& control) {
   const Control::Peer& peer = control.PeerOf();
   Sight sight;
   sight.Text = TextOfWindow(peer.Window);
-  sight.Enabled = IsWindowEnabled(peer.Window) != FALSE;
+  sight.Enabled = control.Enabled();
   sight.Visible = control.Visible();
   LOGFONTW font{};
   GetObjectW(reinterpret_cast<HFONT>(peer.Send(WM_GETFONT)), sizeof font, &font);
   sight.Bold = font.lfWeight >= FW_BOLD;
   sight.Focused = GetFocus() == peer.Window || IsChild(peer.Window, GetFocus());
-  for (int position = 0; position < CountOf(peer); ++position) {
-    sight.Entries.push_back(EntryOf(control, position));
-    if (peer.What == Kind::CheckList) sight.Ticks.push_back(IsTicked(peer, position));
-  }
-  if (const auto* list = dynamic_cast<const RowList*>(&control)) {
-    sight.Selected = list->Selected();
+  if (peer.HoldsEntries()) {
+    for (const ListEntry& entry : peer.Entries) sight.Entries.push_back(entry.Text);
+    sight.Entries.resize(static_cast<std::size_t>(peer.Send(peer.DropsDown() ? CB_GETCOUNT : LB_GETCOUNT)));
+    sight.Selected = static_cast<int>(peer.Send(peer.DropsDown() ? CB_GETCURSEL : LB_GETCURSEL));
+  } else if (const auto* checks = dynamic_cast<const CheckList*>(&control)) {
+    for (int position = 0; position < peer.Send(LVM_GETITEMCOUNT); ++position) {
+      sight.Entries.push_back(checks->EntryText(position));
+      sight.Ticks.push_back(IsTicked(peer, position));
+    }
+  } else if (const auto* rows = dynamic_cast<const RowList*>(&control)) {
     sight.Entries = RowsOn(peer);
+    sight.Selected = rows->Selected();
   }
-  if (peer.HoldsEntries()) sight.Selected = static_cast<int>(peer.Send(peer.DropsDown() ? CB_GETCURSEL : LB_GETCURSEL));
   DWORD from = 0, upto = 0;
-  if (EditOf(peer) != nullptr) {
-    SendMessageW(EditOf(peer), EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&upto));
-  }
+  SendMessageW(EditOf(peer), EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&upto));
   // In bytes, as the program counts.
   const std::wstring text = Wide(sight.Text);
   const auto position = [&text](DWORD units) { return static_cast<int>(Bytes(text.substr(0, units)).size()); };
@@ -164,18 +132,13 @@ void Hands::MoveTo(Control& control) {
   SettlePart();
 }
 
-void Hands::Type(Control& box, const std::string& text) { TypeInto(EditOf(box.PeerOf()), text); }
-
-void Hands::Click(Control& control) {
-  const Control::Peer& peer = control.PeerOf();
-  if (peer.What == Kind::Button || peer.What == Kind::OptionButton) {
-    peer.Send(BM_CLICK);
-  } else {
-    const LPARAM inside = MAKELPARAM(2, 2);
-    peer.Send(WM_LBUTTONDOWN, MK_LBUTTON, inside);
-    peer.Send(WM_LBUTTONUP, 0, inside);
-  }
+void Hands::Type(Control& box, const std::string& text) {
+  HWND edit = EditOf(box.PeerOf());
+  SendMessageW(edit, EM_SETSEL, 0, -1);
+  SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(Wide(text).c_str()));
 }
+
+void Hands::Click(Control& control) { Mouse(control, MAKELPARAM(2, 2), {WM_LBUTTONDOWN, WM_LBUTTONUP}); }
 
 // As the mouse does: the native control moves, then tells.
 void Hands::Select(ListControl& list, int position) {
@@ -192,28 +155,19 @@ void Hands::TurnOver(CheckList& list, int position) {
   list.PeerOf().Send(LVM_SETITEMSTATE, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&item));
 }
 
-bool Hands::CanChoose(const Form& form, int item) {
-  HWND window = form.PeerOf().Window;
-  HMENU menu = GetMenu(window);
-  SendMessageW(window, WM_INITMENU, reinterpret_cast<WPARAM>(menu), 0);
-  for (int index = 0; index < GetMenuItemCount(menu); ++index) {
-    SendMessageW(window, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(GetSubMenu(menu, index)), index);
-  }
-  return (GetMenuState(menu, static_cast<UINT>(item), MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
-}
-
 void Hands::Choose(Form& form, int item) { SendMessageW(form.PeerOf().Window, WM_COMMAND, MAKEWPARAM(item, 0), 0); }
 
 void Hands::Press(Form& form, const KeyPress& key) {
   HWND focus = GetFocus() != nullptr ? GetFocus() : form.PeerOf().Window;
   // In the order of Key.
   constexpr WPARAM kCodes[] = {VK_RETURN, VK_ESCAPE, VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN,
-                               VK_PRIOR,  VK_NEXT,   VK_HOME, VK_END,   VK_F1};
+                               VK_PRIOR,  VK_NEXT,   VK_HOME, VK_END,   VK_F1, VK_SPACE};
   const WPARAM code = kCodes[static_cast<std::size_t>(key.What)];
-  const Held held(key.Shift, key.Control);
+  Hold(key.Shift, key.Control);
   PostMessageW(focus, WM_KEYDOWN, code, 1);
   PostMessageW(focus, WM_KEYUP, code, 1);
-  SettlePart();  // while the keys are held
+  SettlePart();
+  Hold(false, false);
 }
 
 void Hands::PressControl(Form& /*form*/, char letter) {
@@ -234,9 +188,7 @@ void Hands::DoubleClick(Control& control, Cell at) {
     control.PeerOf().Send(LVM_GETITEMRECT, static_cast<WPARAM>(at.Row), reinterpret_cast<LPARAM>(&row));
   }
   const LPARAM place = surface == nullptr ? MAKELPARAM(row.left + 1, row.top + 1) : Inside(*surface, at);
-  for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
-    control.PeerOf().Send(message, MK_LBUTTON, place);
-  }
+  Mouse(control, place, {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP});
 }
 
 void Hands::TurnWheel(Control& control, int notches, bool shift, bool control_key) {
@@ -252,13 +204,13 @@ void Hands::PageBar(Surface& surface, Surface::Bar bar, int pages) {
 }
 
 void Hands::Close(Form& form) { SendMessageW(form.PeerOf().Window, WM_SYSCOMMAND, SC_CLOSE, 0); }
+
 bool Hands::Drop(Form& form, const std::string& file) {
   const Com<IDataObject> data = Dragged(file);
   if (!data || form.PeerOf().TakesDrops == nullptr) return false;
   IDropTarget& target = form.PeerOf().TakesDrops->Target();
   DWORD effect = DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK;
   target.DragEnter(data.get(), MK_LBUTTON, {}, &effect);
-  if (effect == DROPEFFECT_NONE) return target.DragLeave(), false;
   target.Drop(data.get(), 0, {}, &effect);
   return effect == DROPEFFECT_COPY;
 }
