@@ -1,45 +1,17 @@
-// Text files in memory: numbered handles on the tree of disk.h, failing as the real ones do.
-#include "platform/files.h"
-
-#include <array>
-#include <memory>
-#include <optional>
+// Files in memory: those of the tree of disk.h, failing as the real ones do.
+#include <utility>
 
 #include "platform/headless/disk.h"
-#include "platform/line_reader.h"
 #include "platform/runtime_error.h"
+#include "platform/system_file.h"
 
 namespace {
 
-constexpr int kLastHandle = 255;
 constexpr unsigned long kFileMissing = 2;
 constexpr unsigned long kAccessDenied = 5;
 constexpr unsigned long kSharingViolation = 32;
 constexpr unsigned long kDiskIsFull = 112;
 constexpr unsigned long kNameTaken = 183;
-
-struct Stream {
-  Files::Mode Mode = Files::Mode::Input;
-  Disk::HoldPtr Hold;
-  std::unique_ptr<LineReader> Reader;
-  std::size_t Unsettled = 0;             // bytes written since the last Flush
-  std::optional<unsigned long> Refusal;  // the code that bytes were refused with: they are lost
-};
-
-std::array<std::unique_ptr<Stream>, kLastHandle + 1> open_files;
-
-bool InRange(int handle) { return handle >= 1 && handle <= kLastHandle; }
-
-std::unique_ptr<Stream>& Slot(int handle) {
-  if (!InRange(handle)) throw RuntimeError(kBadFileNumber);
-  return open_files[static_cast<std::size_t>(handle)];
-}
-
-Stream& Opened(int handle, Files::Mode mode) {
-  const auto& file = Slot(handle);
-  if (!file || file->Mode != mode) throw RuntimeError(kBadFileNumber);
-  return *file;
-}
 
 void CountCall() {
   if (const unsigned long code = Disk::CountCall(); code != 0) Disk::Fail(code);
@@ -56,40 +28,54 @@ Disk::Sharing RightsOf(Files::Mode mode) {
   Disk::Fail(kAccessDenied);
 }
 
-LineReader::Source ReadFrom(const Disk::NodePtr& file) {
-  return [file, position = std::size_t{0}](char* block, std::size_t size) mutable {
-    if (position >= file->Bytes.size()) return std::size_t{0};
-    const std::size_t count = file->Bytes.copy(block, size, position);
-    position += count;
+class DiskFile : public SystemFile {
+ public:
+  void Take(Disk::HoldPtr hold) { hold_ = std::move(hold); }
+
+  std::uint64_t Size() override { return Node().Bytes.size(); }
+
+  std::size_t Read(char* block, std::size_t size) override {
+    CountCall();
+    if (position_ >= Node().Bytes.size()) return 0;
+    const std::size_t count = Node().Bytes.copy(block, size, position_);
+    position_ += count;
     return count;
-  };
-}
-
-[[noreturn]] void Refuse(Stream& file, unsigned long code) {
-  file.Refusal = code;
-  Disk::Fail(code);
-}
-
-void Append(Stream& file, std::string_view bytes) {
-  const unsigned long fault = Disk::CountCall();
-  if (file.Refusal) Disk::Fail(*file.Refusal);
-  if (fault != 0) bytes = bytes.substr(0, bytes.size() / 2);
-  const std::size_t taken = Disk::Append(*file.Hold->File, bytes);
-  file.Unsettled += taken;
-  if (fault != 0) Refuse(file, fault);
-  if (taken < bytes.size()) Refuse(file, kDiskIsFull);
-}
-
-void Settle(Stream& file) {
-  const unsigned long fault = Disk::CountCall();
-  if (file.Refusal) Disk::Fail(*file.Refusal);
-  if (fault != 0) {
-    Disk::Node& node = *file.Hold->File;
-    Disk::Truncate(node, node.Bytes.size() - file.Unsettled / 2);
-    Refuse(file, fault);
   }
-  file.Unsettled = 0;
-}
+
+  // One that fails leaves half of the bytes.
+  void Write(std::string_view bytes) override {
+    const unsigned long fault = Disk::CountCall();
+    if (fault != 0) bytes = bytes.substr(0, bytes.size() / 2);
+    const std::size_t taken = Disk::Append(Node(), bytes);
+    unsettled_ += taken;
+    if (fault != 0) Disk::Fail(fault);
+    if (taken < bytes.size()) Disk::Fail(kDiskIsFull);
+  }
+
+  void Flush() override {
+    Settle();
+    Node().Flushed = Node().Bytes.size();
+  }
+
+  void Close() override {
+    if (unsettled_ > 0) Settle();
+  }
+
+ private:
+  Disk::Node& Node() const { return *hold_->File; }
+
+  void Settle() {
+    if (const unsigned long fault = Disk::CountCall(); fault != 0) {
+      Disk::Truncate(Node(), Node().Bytes.size() - unsettled_ / 2);
+      Disk::Fail(fault);
+    }
+    unsettled_ = 0;
+  }
+
+  Disk::HoldPtr hold_;
+  std::size_t position_ = 0;
+  std::size_t unsettled_ = 0;  // bytes written since the last Flush
+};
 
 // The file that is to get another name.
 Disk::NodePtr ToRename(const std::string& from) {
@@ -102,81 +88,19 @@ Disk::NodePtr ToRename(const std::string& from) {
 
 }  // namespace
 
+std::unique_ptr<SystemFile> SystemFile::Open(const std::string& name, Files::Mode mode) {
+  CountCall();
+  const Disk::NodePtr node = Disk::Find(name);
+  if (!node && mode != Files::Mode::Output) Disk::Fail(kFileMissing);
+  if (node && (node->IsFolder || (node->ReadOnly && mode != Files::Mode::Input))) Disk::Fail(kAccessDenied);
+  auto file = std::make_unique<DiskFile>();  // first: once the file is open, nothing may fail any more
+  const Disk::HoldPtr hold = node ? Disk::Take(node, RightsOf(mode)) : Disk::Make(name, RightsOf(mode));
+  if (mode == Files::Mode::Output) Disk::Truncate(*hold->File, 0);
+  file->Take(hold);
+  return file;
+}
+
 namespace Files {
-
-int FreeHandle() {
-  for (int handle = 1; handle <= kLastHandle; ++handle) {
-    if (!IsOpen(handle)) return handle;
-  }
-  throw RuntimeError(kBadFileNumber);
-}
-
-void Open(int handle, const std::string& name, Mode mode) {
-  auto& slot = Slot(handle);
-  if (slot) throw RuntimeError(kBadFileNumber);
-  CountCall();
-  Disk::NodePtr node = Disk::Find(name);
-  if (!node && mode != Mode::Output) Disk::Fail(kFileMissing);
-  if (node && (node->IsFolder || (node->ReadOnly && mode != Mode::Input))) Disk::Fail(kAccessDenied);
-  auto file = std::make_unique<Stream>();
-  file->Mode = mode;
-  file->Hold = node ? Disk::Take(node, RightsOf(mode)) : Disk::Make(name, RightsOf(mode));
-  node = file->Hold->File;
-  if (mode == Mode::Output) Disk::Truncate(*node, 0);
-  if (mode == Mode::Input) file->Reader = std::make_unique<LineReader>(ReadFrom(node));
-  slot = std::move(file);
-}
-
-bool IsOpen(int handle) { return InRange(handle) && open_files[static_cast<std::size_t>(handle)] != nullptr; }
-
-bool AtEnd(int handle) {
-  const Stream& file = Opened(handle, Mode::Input);
-  CountCall();
-  return file.Reader->AtEnd();
-}
-
-std::string_view ReadLine(int handle) {
-  const Stream& file = Opened(handle, Mode::Input);
-  CountCall();
-  if (const auto line = file.Reader->Read()) return *line;
-  throw RuntimeError(kInputPastEnd);
-}
-
-std::string ReadAll(const std::string& name) {
-  const int handle = FreeHandle();
-  Open(handle, name, Mode::Input);
-  std::string bytes = Slot(handle)->Hold->File->Bytes;
-  Close(handle);
-  return bytes;
-}
-
-void Write(int handle, std::string_view bytes) { Append(Opened(handle, Mode::Output), bytes); }
-
-void WriteLine(int handle, std::string_view text) {
-  Append(Opened(handle, Mode::Output), std::string(text).append("\r\n"));
-}
-
-void Flush(int handle) {
-  Stream& file = Opened(handle, Mode::Output);
-  Settle(file);
-  file.Hold->File->Flushed = file.Hold->File->Bytes.size();
-}
-
-void Close(int handle) {
-  if (!IsOpen(handle)) return;
-  const auto file = std::move(open_files[static_cast<std::size_t>(handle)]);
-  if (file->Unsettled > 0 || file->Refusal) Settle(*file);
-}
-
-void CloseAll() {
-  for (int handle = 1; handle <= kLastHandle; ++handle) {
-    try {
-      Close(handle);
-    } catch (const RuntimeError&) {
-      // The program is ending: nobody is left to tell.
-    }
-  }
-}
 
 void Erase(const std::string& name) {
   CountCall();

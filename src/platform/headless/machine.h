@@ -58,10 +58,10 @@ void HoldByOther(const std::string& name, bool against_readers);
 void ReleaseByOther();
 void LosePower();  // files lose what was written and not flushed
 
-// Faults. Each Open, AtEnd, ReadLine, Write, WriteLine, Flush, Erase, Rename and Exists is a file call, and so
-// is a Close that has written bytes to settle. The n-th call from now on (1 is the next) fails with the
-// error of that system code: once, or with all that follow it. A Write that fails leaves half of its
-// bytes in the file, and a Flush or Close that fails loses half of what was written since the last one.
+// Faults. Each call on the system is a file call: opening a file, reading a block, writing what has gathered, flushing,
+// erasing, renaming, asking whether it exists, and closing where bytes were written since the last flush. The n-th call
+// from now on (1 is the next) fails with the error of that system code: once, or with all that follow it. A write that
+// fails leaves half of its bytes in the file, and a flush or close that fails loses half of those since the last one.
 void FailFileCall(int nth, unsigned long system_code, bool permanent);
 
 // The file calls since ClearFaults was last called.

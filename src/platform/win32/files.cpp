@@ -1,57 +1,19 @@
-// Text files on the disk: numbered handles over the system's own, reading and writing in large blocks.
-#include "platform/files.h"
-
+// Files on the disk.
 #include <windows.h>
 
 #include <algorithm>
-#include <array>
-#include <memory>
-#include <new>
-#include <optional>
-#include <stdexcept>
+#include <utility>
 
-#include "platform/line_reader.h"
 #include "platform/runtime_error.h"
+#include "platform/system_file.h"
 #include "platform/win32/wide.h"
 
 namespace {
 
-constexpr int kLastHandle = 255;
-constexpr std::size_t kPendingSize = 65536;
-constexpr std::size_t kLargestRead = 16U << 20;
 constexpr ULONGLONG kRenamePatience = 2000;  // milliseconds
 constexpr DWORD kRenamePause = 50;
 
 [[noreturn]] void Fail(DWORD code) { throw RuntimeError(ErrorNumberOfSystemCode(code)); }
-
-struct HandleCloser {
-  using pointer = HANDLE;
-  void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
-using SystemFile = std::unique_ptr<HANDLE, HandleCloser>;
-
-struct Stream {
-  Files::Mode Mode = Files::Mode::Input;
-  SystemFile File;
-  std::unique_ptr<LineReader> Reader;
-  std::string Pending;           // written, but not yet handed to the system
-  std::optional<DWORD> Refusal;  // the code that bytes were refused with: they are lost
-};
-
-std::array<std::unique_ptr<Stream>, kLastHandle + 1> open_files;
-
-bool InRange(int handle) { return handle >= 1 && handle <= kLastHandle; }
-
-std::unique_ptr<Stream>& Slot(int handle) {
-  if (!InRange(handle)) throw RuntimeError(kBadFileNumber);
-  return open_files[static_cast<std::size_t>(handle)];
-}
-
-Stream& Opened(int handle, Files::Mode mode) {
-  const auto& file = Slot(handle);
-  if (!file || file->Mode != mode) throw RuntimeError(kBadFileNumber);
-  return *file;
-}
 
 constexpr std::wstring_view kDevices = L"\\\\.\\", kLongForm = L"\\\\?\\";
 
@@ -74,64 +36,50 @@ bool HasAttribute(const std::wstring& name, DWORD attribute) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
 }
 
-SystemFile OpenSystemFile(const std::wstring& name, Files::Mode mode) {
-  DWORD access = GENERIC_WRITE;
-  DWORD sharing = FILE_SHARE_READ;
-  DWORD creation = OPEN_EXISTING;
-  DWORD flags = FILE_ATTRIBUTE_NORMAL;
-  if (mode == Files::Mode::Input) {
-    access = GENERIC_READ;
-    sharing = FILE_SHARE_READ | FILE_SHARE_WRITE;
-    flags |= FILE_FLAG_SEQUENTIAL_SCAN;
-  } else if (mode == Files::Mode::Output) {
-    creation = CREATE_ALWAYS;
+class DiskFile : public SystemFile {
+ public:
+  ~DiskFile() override {
+    if (file_ != nullptr) CloseHandle(file_);
   }
-  // Where the files lie on another kind of system, its administrator is let through; the flag counts all the same.
-  if (mode != Files::Mode::Input && HasAttribute(name, FILE_ATTRIBUTE_READONLY)) Fail(ERROR_ACCESS_DENIED);
-  HANDLE file = CreateFileW(name.c_str(), access, sharing, nullptr, creation, flags, nullptr);
-  if (file == INVALID_HANDLE_VALUE) Fail(GetLastError());
-  return SystemFile(file);
-}
 
-LineReader::Source ReadFrom(HANDLE file) {
-  return [file](char* block, std::size_t size) {
-    DWORD count = 0;
-    if (!ReadFile(file, block, static_cast<DWORD>(size), &count, nullptr)) Fail(GetLastError());
-    return static_cast<std::size_t>(count);
-  };
-}
+  void Take(HANDLE file) { file_ = file; }
 
-// Hands bytes to the system. What it once refused is lost, so that from then on every call on the file
-// fails alike, up to its Close.
-void Send(Stream& file, std::string_view bytes) {
-  while (!bytes.empty()) {
+  std::uint64_t Size() override {
+    LARGE_INTEGER size{};
+    if (!GetFileSizeEx(file_, &size)) Fail(GetLastError());
+    return static_cast<std::uint64_t>(size.QuadPart);
+  }
+
+  std::size_t Read(char* block, std::size_t size) override {
     DWORD count = 0;
-    const DWORD size = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30));
-    SetLastError(ERROR_SUCCESS);
-    if (!WriteFile(file.File.get(), bytes.data(), size, &count, nullptr) || count == 0) {
-      const DWORD code = GetLastError();
-      file.Refusal = code == ERROR_SUCCESS ? ERROR_DISK_FULL : code;
-      Fail(*file.Refusal);
+    if (!ReadFile(file_, block, static_cast<DWORD>(size), &count, nullptr)) Fail(GetLastError());
+    return count;
+  }
+
+  void Write(std::string_view bytes) override {
+    while (!bytes.empty()) {
+      DWORD count = 0;
+      const DWORD size = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30));
+      SetLastError(ERROR_SUCCESS);
+      if (!WriteFile(file_, bytes.data(), size, &count, nullptr) || count == 0) {
+        const DWORD code = GetLastError();
+        Fail(code == ERROR_SUCCESS ? ERROR_DISK_FULL : code);
+      }
+      bytes.remove_prefix(count);
     }
-    bytes.remove_prefix(count);
   }
-}
 
-void SendPending(Stream& file) {
-  if (file.Refusal) Fail(*file.Refusal);
-  Send(file, file.Pending);
-  file.Pending.clear();
-}
-
-void Append(Stream& file, std::string_view bytes) {
-  if (file.Refusal) Fail(*file.Refusal);
-  if (file.Pending.size() + bytes.size() > kPendingSize) SendPending(file);
-  if (bytes.size() > kPendingSize) {
-    Send(file, bytes);
-  } else {
-    file.Pending.append(bytes);
+  void Flush() override {
+    if (!FlushFileBuffers(file_)) Fail(GetLastError());
   }
-}
+
+  void Close() override {
+    if (!CloseHandle(std::exchange(file_, nullptr))) Fail(GetLastError());
+  }
+
+ private:
+  HANDLE file_ = nullptr;
+};
 
 // Whether another try at renaming may succeed: virus scanners and indexers hold on to fresh files for a
 // moment. A file that is read-only, or away, stays so.
@@ -164,93 +112,29 @@ std::wstring SystemName(std::string_view name) {
   return std::wstring(kLongForm) + (is_network ? L"UNC" + full_name.substr(1) : full_name);
 }
 
+std::unique_ptr<SystemFile> SystemFile::Open(const std::string& name, Files::Mode mode) {
+  const std::wstring system_name = CheckedName(name);
+  DWORD access = GENERIC_WRITE;
+  DWORD sharing = FILE_SHARE_READ;
+  DWORD creation = OPEN_EXISTING;
+  DWORD flags = FILE_ATTRIBUTE_NORMAL;
+  if (mode == Files::Mode::Input) {
+    access = GENERIC_READ;
+    sharing = FILE_SHARE_READ | FILE_SHARE_WRITE;
+    flags |= FILE_FLAG_SEQUENTIAL_SCAN;
+  } else if (mode == Files::Mode::Output) {
+    creation = CREATE_ALWAYS;
+  }
+  // Where the files lie on another kind of system, its administrator is let through; the flag counts all the same.
+  if (mode != Files::Mode::Input && HasAttribute(system_name, FILE_ATTRIBUTE_READONLY)) Fail(ERROR_ACCESS_DENIED);
+  auto file = std::make_unique<DiskFile>();  // first: once the file is open, nothing may fail any more
+  HANDLE opened = CreateFileW(system_name.c_str(), access, sharing, nullptr, creation, flags, nullptr);
+  if (opened == INVALID_HANDLE_VALUE) Fail(GetLastError());
+  file->Take(opened);
+  return file;
+}
+
 namespace Files {
-
-int FreeHandle() {
-  for (int handle = 1; handle <= kLastHandle; ++handle) {
-    if (!IsOpen(handle)) return handle;
-  }
-  throw RuntimeError(kBadFileNumber);
-}
-
-void Open(int handle, const std::string& name, Mode mode) {
-  auto& slot = Slot(handle);
-  if (slot) throw RuntimeError(kBadFileNumber);
-  auto file = std::make_unique<Stream>();
-  file->Mode = mode;
-  if (mode == Mode::Output) file->Pending.reserve(kPendingSize);  // first: opening empties the file
-  file->File = OpenSystemFile(CheckedName(name), mode);
-  if (mode == Mode::Input) file->Reader = std::make_unique<LineReader>(ReadFrom(file->File.get()));
-  slot = std::move(file);
-}
-
-bool IsOpen(int handle) { return InRange(handle) && open_files[static_cast<std::size_t>(handle)] != nullptr; }
-
-bool AtEnd(int handle) { return Opened(handle, Mode::Input).Reader->AtEnd(); }
-
-std::string_view ReadLine(int handle) {
-  if (const auto line = Opened(handle, Mode::Input).Reader->Read()) return *line;
-  throw RuntimeError(kInputPastEnd);
-}
-
-std::string ReadAll(const std::string& name) {
-  const SystemFile file = OpenSystemFile(CheckedName(name), Mode::Input);
-  LARGE_INTEGER size{};
-  if (!GetFileSizeEx(file.get(), &size)) Fail(GetLastError());
-  const auto read = ReadFrom(file.get());
-  std::string bytes;
-  try {
-    // One byte more, so that its end is found without making room anew.
-    bytes.resize(static_cast<std::size_t>(size.QuadPart) + 1);
-    std::size_t end = 0;
-    for (;;) {
-      if (end == bytes.size()) bytes.resize(end + kPendingSize);  // another program is writing it
-      const std::size_t count = read(bytes.data() + end, std::min(bytes.size() - end, kLargestRead));
-      if (count == 0) break;
-      end += count;
-    }
-    bytes.resize(end);
-  } catch (const std::bad_alloc&) {
-    throw RuntimeError(kOutOfMemory);
-  } catch (const std::length_error&) {
-    throw RuntimeError(kOutOfMemory);
-  }
-  return bytes;
-}
-
-void Write(int handle, std::string_view bytes) { Append(Opened(handle, Mode::Output), bytes); }
-
-void WriteLine(int handle, std::string_view text) {
-  Stream& file = Opened(handle, Mode::Output);
-  Append(file, text);
-  Append(file, "\r\n");
-}
-
-void Flush(int handle) {
-  Stream& file = Opened(handle, Mode::Output);
-  SendPending(file);
-  if (!FlushFileBuffers(file.File.get())) {
-    file.Refusal = GetLastError();
-    Fail(*file.Refusal);
-  }
-}
-
-void Close(int handle) {
-  if (!IsOpen(handle)) return;
-  const auto file = std::move(open_files[static_cast<std::size_t>(handle)]);
-  if (file->Mode == Mode::Output) SendPending(*file);
-  if (!CloseHandle(file->File.release())) Fail(GetLastError());
-}
-
-void CloseAll() {
-  for (int handle = 1; handle <= kLastHandle; ++handle) {
-    try {
-      Close(handle);
-    } catch (const RuntimeError&) {
-      // The program is ending: nobody is left to tell.
-    }
-  }
-}
 
 void Erase(const std::string& name) {
   if (!DeleteFileW(CheckedName(name).c_str())) Fail(GetLastError());
