@@ -86,7 +86,7 @@ class HistoryTest : public FreshTest {
 };
 
 TEST_F(HistoryTest, EachStateComesBackInBothDirections) {
-  for (unsigned seed = 1; seed <= 8; ++seed) {
+  for (unsigned seed = 1; seed <= 24; ++seed) {
     SCOPED_TRACE(seed);
     random.seed(seed);
     TheDocument = {};
@@ -96,12 +96,12 @@ TEST_F(HistoryTest, EachStateComesBackInBothDirections) {
     TheHistory.Clear();
     std::vector<std::string> states = {DescribeDocument()};
     std::size_t at = 0, saved = 0;
-    const auto compare = [&] {
-      ASSERT_TRUE(DescribeDocument() == states[at]) << at;
+    const auto compare = [&](const std::string& now = DescribeDocument()) {
+      ASSERT_TRUE(now == states[at]) << at;
       ASSERT_EQ(TheDocument.Modified, at != saved) << at;
       ASSERT_LE(TheDocument.CurrentThing, TheDocument.Things.Count()) << at;
     };
-    for (int step = 0; step < 400 && !HasFailure(); ++step) {
+    for (int step = 0; step < 1000 && !HasFailure(); ++step) {
       const int choice = Below(20);
       if (choice == 0 && at > 0) {
         EXPECT_TRUE(TheHistory.Undo());
@@ -118,12 +118,15 @@ TEST_F(HistoryTest, EachStateComesBackInBothDirections) {
         TheDocument.CurrentThing = std::min(TheDocument.Things.Count(), 1 + Below(9));
         if (TheHistory.Changes() == changes) continue;
         // Where nothing is another than before, the document is modified, and there is nothing to undo.
-        const bool differs = DescribeDocument() != states[at];
+        const std::string now = DescribeDocument();
+        const bool differs = now != states[at];
         if (!differs || saved > at) saved = states.size() + 1000;
         if (differs) {
           states.resize(++at);
-          states.push_back(DescribeDocument());
+          states.push_back(now);
         }
+        compare(now);
+        continue;
       }
       compare();
     }

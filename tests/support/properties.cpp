@@ -17,18 +17,21 @@
 namespace {
 
 // A text of a record under its title, empty for an empty one.
-std::string Part(const std::string& title, const std::string& text) {
-  return text.empty() ? "" : " " + title + "<" + text + ">";
+std::string Part(std::string_view title, const std::string& text) {
+  return text.empty() ? std::string() : (" " + std::string(title)).append("<").append(text).append(">");
 }
 
-std::string Part(const std::string& title, int number) {
-  return number == 0 ? "" : " " + title + " " + std::to_string(number);
+std::string Part(std::string_view title, int number) {
+  return number == 0 ? std::string() : (" " + std::string(title)).append(" " + std::to_string(number));
 }
 
 std::string Part(const FieldSlots& slots) {
   std::string parts;
   int number = 0;
-  for (const FieldValueSlot& slot : slots) parts += Part("slot" + std::to_string(++number), slot.Text);
+  for (const FieldValueSlot& slot : slots) {
+    ++number;
+    if (!slot.Text.empty()) parts += Part("slot" + std::to_string(number), slot.Text);
+  }
   return parts;
 }
 
