@@ -155,7 +155,12 @@ Filer0123.FIL => Filer013.FIL | Filer041 => Filer042.FIL | Filer-12.FIL => Filer
 
 TEST_F(StartTest, AddressTitlesAreStandard) {
   Global::FillAddressTitles();
-  EXPECT_EQ(Global::StandardTitles.front() + Global::StandardTitles.back(), "NameGender");
+  std::string titles;
+  for (const std::string& title : Global::StandardTitles) titles += title + "/";
+  EXPECT_EQ(titles,
+            "Name/Home Phone/Business Phone/Mobile Phone/1st E-Mail address/2nd E-Mail address/Street line 1/"
+            "Street line 2/City/Province/State/Nation/Postal Code/Note/Picture Filename/Birth Year/"
+            "Birth Month/Birth Day/Gender/");
   EXPECT_TRUE(Global::FieldTitles == Global::StandardTitles && Global::ShownTitles == Global::StandardTitles);
 }
 
