@@ -39,7 +39,6 @@ ThingListView Letter(const ThingListView& base) {
 ThingListView Category() {
   ThingListView view;
   view.SelectedCategory = kCategory;
-  view.CategoryMask = CategoryBit(kCategory);
   return view;
 }
 

@@ -24,6 +24,10 @@ std::int32_t CategoryBit(int category) {
   return category == 0 ? 0 : static_cast<std::int32_t>(std::uint32_t{1} << (category - 1));
 }
 
+bool IsInCategories(const ThingRecord& thing, std::int32_t category_mask) {
+  return category_mask == 0 || (thing.CATBITMAP & category_mask) != 0;
+}
+
 void MakeNew() {
   Document& document = TheDocument;
   ReleaseFileLock();

@@ -57,6 +57,9 @@ class CategoryNameTable {
 // The bit of category 1..32 in CATBITMAP; 0 for category 0, which stands for all.
 std::int32_t CategoryBit(int category);
 
+// True for a thing in any category of the mask, and for every thing with mask 0.
+bool IsInCategories(const ThingRecord& thing, std::int32_t category_mask);
+
 struct Document {
   RecordTable<ThingRecord> Things{200};
   RecordTable<FieldDefinition> Fields{30};

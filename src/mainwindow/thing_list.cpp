@@ -11,11 +11,12 @@ std::string ShownName(const ThingRecord& thing, bool noun_order) {
 
 std::vector<ListEntry> ListThings(const ThingListView& view) {
   const auto& things = TheDocument.Things;
+  const std::int32_t category = CategoryBit(view.SelectedCategory);
   std::vector<ListEntry> entries;
   entries.reserve(static_cast<std::size_t>(things.Count()));
   for (int record = 1; record <= things.Count(); ++record) {
     const ThingRecord& thing = things[record];
-    if (view.CategoryMask != 0 && (thing.CATBITMAP & view.CategoryMask) == 0) continue;
+    if (!IsInCategories(thing, category)) continue;
     std::string shown = ShownName(thing, view.NounOrder);
     if (shown.empty()) continue;
     if (!view.StartingLetter.empty() && UpperCase(shown.front()) != view.StartingLetter.front()) continue;

@@ -1,7 +1,6 @@
 // What the thing list and the link lists show: pure functions over the document's things.
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -12,10 +11,9 @@ inline constexpr int kLetters = 26;
 
 // How the user looks at the things.
 struct ThingListView {
-  std::string StartingLetter;     // "A".."Z", or empty for all names
-  int SelectedCategory = 0;       // 1..32, or 0 for all categories
-  std::int32_t CategoryMask = 0;  // the bit of that category, or 0
-  bool NounOrder = false;         // names are shown turned around
+  std::string StartingLetter;  // "A".."Z", or empty for all names
+  int SelectedCategory = 0;    // 1..32, or 0 for all categories
+  bool NounOrder = false;      // names are shown turned around
 };
 
 // A thing's name as the view shows it.

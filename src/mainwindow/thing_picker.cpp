@@ -129,7 +129,6 @@ void ThingPicker::StartingLetterItem_Click() {
 
 void ThingPicker::SetCategory(int number) {
   view_.SelectedCategory = number;
-  view_.CategoryMask = CategoryBit(number);
   ShowCategoryFilter();
 }
 

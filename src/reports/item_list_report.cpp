@@ -64,17 +64,13 @@ void WriteThing(const ThingRecord& thing, InterestQuestion& question) {
 
 }  // namespace
 
-bool IsInCategories(std::int32_t thing_categories, std::int32_t category_mask) {
-  return category_mask == 0 || (thing_categories & category_mask) != 0;
-}
-
 void WriteItemListReport(std::int32_t category_mask) {
   if (TheDocument.Things.Count() == 0) return;
   InterestQuestion question;
   PrintFrame("LARKSPUR V1.0 REPORT T=2,G=0", "Larkspur Object List report");
   for (int record = 1; record <= TheDocument.Things.Count(); ++record) {
     const ThingRecord& thing = TheDocument.Things[record];
-    if (IsInCategories(thing.CATBITMAP, category_mask)) WriteThing(thing, question);
+    if (IsInCategories(thing, category_mask)) WriteThing(thing, question);
   }
 }
 

@@ -11,6 +11,3 @@ void WriteItemListReport(std::int32_t category_mask);
 // Writes a text as lines of at most `width` characters (1 or more) behind a blank, broken at blanks where there are
 // some. A text of just that width counts as too long: an empty piece follows it.
 void WriteWrapped(std::string_view text, int width);
-
-// True for things that a report on these categories includes.
-bool IsInCategories(std::int32_t thing_categories, std::int32_t category_mask);

@@ -112,7 +112,7 @@ class Table {
 std::vector<int> ThingsInCategories(std::int32_t category_mask) {
   std::vector<int> records;
   for (int record = 1; record <= TheDocument.Things.Count(); ++record) {
-    if (IsInCategories(TheDocument.Things[record].CATBITMAP, category_mask)) records.push_back(record);
+    if (IsInCategories(TheDocument.Things[record], category_mask)) records.push_back(record);
   }
   return records;
 }

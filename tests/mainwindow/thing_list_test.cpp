@@ -40,7 +40,7 @@ TEST_F(ThingListTest, ListsLinksAndFindsBeginnings) {
   });
   // A name that begins with a reference is listed under no letter, and found by its character only.
   TheDocument.Things.Writable(2).NAME = "&#937;mega";
-  EXPECT_EQ(Shown(ListThings({"B", 0, 0, false})), "");
+  EXPECT_EQ(Shown(ListThings({"B", 0, false})), "");
   ExpectRows("&#937;M => 0 | & => -1 | &#93 => -1",
              [](const std::string& text) { return std::to_string(FindEntryBeginning(ListThings({}), text)); });
   EXPECT_TRUE(CategoryBit(0) == 0 && CategoryBit(31) == 1 << 30);

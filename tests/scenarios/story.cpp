@@ -1,6 +1,10 @@
 // Telling a story: its acts one by one, what comes up meanwhile, and what is seen after each.
 #include "scenarios/story.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <regex>
+
 #include "platform/program.h"
 #include "support/hands.h"
 #include "support/names.h"
@@ -8,8 +12,21 @@
 
 namespace {
 
-const bool kRegistered =
-    RegisterStories("Stories", "scenarios", [](const Tale& above, const Tale& tale) { return new Story(above, tale); });
+// Each story is a test case "Stories/file.title".
+const bool kRegistered = [] {
+  for (const auto& entry : std::filesystem::directory_iterator(FILER_SOURCE_DIR "/tests/scenarios")) {
+    if (entry.path().extension() != ".txt") continue;
+    const auto file = std::make_shared<StoryFile>(entry.path().generic_string());
+    const std::string suite = "Stories/" + entry.path().stem().string();
+    for (std::size_t tale = 1; tale < file->Tales.size(); ++tale) {
+      const StoryLine& title = file->Tales[tale].front();
+      const std::string name = std::regex_replace(title.Text.substr(3), std::regex("[^A-Za-z0-9]"), "_");
+      testing::RegisterTest(suite.c_str(), name.c_str(), nullptr, nullptr, file->Path.c_str(), title.Number,
+                            [=]() -> testing::Test* { return new Story(file, tale); });
+    }
+  }
+  return true;
+}();
 
 // What is another thing on each machine, as stories have it.
 std::vector<std::pair<std::string, std::string>> Stand() {
@@ -21,10 +38,9 @@ std::string Plain(const std::string& line) {
   std::string text = line, plain;
   for (const auto& [real, name] : Stand()) text = Replaced(text, real, name);
   for (const char each : text) {
-    constexpr const char* kDigits = "0123456789ABCDEF";
-    const auto code = static_cast<unsigned char>(each);
-    const bool printed = code >= ' ' && code < 0x7F;
-    plain += printed ? std::string(1, each) : std::string("{") + kDigits[code / 16] + kDigits[code % 16] + "}";
+    char code[5] = {each};
+    if (each < ' ' || each > '~') std::snprintf(code, sizeof code, "{%02X}", static_cast<unsigned char>(each));
+    plain += code;
   }
   plain.erase(plain.find_last_not_of(' ') + 1);
   return plain;
@@ -39,49 +55,30 @@ std::string Expanded(std::string text) {
   return text;
 }
 
-// A click on these closes a form.
-bool Leaves(const std::string& part) { return part == "OKButton" || part == "CancelButton"; }
-
 }  // namespace
 
 std::deque<std::string> Story::PartsOf(const std::string& act) {
-  std::deque<std::string> parts(1);
-  bool quoted = false;
-  for (std::size_t at = 0; at < act.size(); ++at) {
-    if (act[at] == '"') quoted = !quoted;
-    if (!quoted && act.compare(at, 2, ", ") == 0) {
-      parts.emplace_back();
-      ++at;
-    } else {
-      parts.back() += act[at];
-    }
-  }
-  return parts;
+  static const std::regex kBetween(R"re(, (?=([^"]*"[^"]*")*[^"]*$))re");
+  return {std::sregex_token_iterator(act.begin(), act.end(), kBetween, -1), {}};
 }
 
-Story::Story(const Tale& above, const Tale& tale)
-    : Sees([this](const std::string& line) { Say(line); }, Plain), above_(above), tale_(tale) {}
-
-void Story::SetUp() {
-  FreshTest::SetUp();
-  ResetMachine();
+std::string Story::Unquoted(const std::string& text) {
+  return text.size() >= 2 && text.starts_with('"') && text.ends_with('"') ? text.substr(1, text.size() - 2) : text;
 }
 
-void Story::TearDown() {
-  form_.reset();
-  ResetMachine();
-  FreshTest::TearDown();
-}
+Story::Story(std::shared_ptr<StoryFile> file, std::size_t tale)
+    : Sees([this](const std::string& news) { Note(news); }), file_(std::move(file)), tale_(tale) {}
 
 void Story::TestBody() {
-  const bool in_memory = above_.Says("only in memory") || tale_.Says("only in memory");
-  if (in_memory && MachineVerbs().empty()) GTEST_SKIP() << "only in memory";
-  acts_ = above_.Acts();
-  untold_ = acts_.size();
-  for (StoryLine* act : tale_.Acts()) acts_.push_back(act);
-  while (next_ < acts_.size()) {
+  ResetMachine();
+  for (Tale* tale : {&file_->Tales[0], &file_->Tales[tale_]}) {
+    for (StoryLine& line : *tale) {
+      if (line.IsAct()) acts_.push_back(&line);
+    }
+  }
+  for (bool goes_on = true; goes_on;) {
     try {
-      Step();
+      goes_on = GoesOn();
     } catch (const ProgramEnded&) {
       Leave();
       Sees.LookAtFiles();
@@ -89,29 +86,35 @@ void Story::TestBody() {
     } catch (const std::exception& error) {
       Fail(std::string("thrown: ") + error.what());
     }
-    for (const std::string& part : parts_) Fail("Never came to use: " + part);
-    parts_.clear();
   }
-  tale_.Compare();
+  form_.reset();
+  ResetMachine();
+  if (!IsSkipped()) file_->Compare(tale_);
 }
 
-void Story::Step() {
-  now_ = acts_[next_++];
-  const auto [word, rest] = Halves(now_->Text, ' ');
-  const bool given = GivenVerbs().contains(word), quietly = word == "quietly";
-  quiet_ = given || quietly || next_ <= untold_;
-  parts_ = given ? std::deque{now_->Text} : PartsOf(quietly ? rest : now_->Text);
-  DoPart();
+void Story::OnlyInMemory() {
+  if (!MachineVerbs().empty()) return;
+  acts_.clear();
+  GTEST_SKIP() << "only in memory";
 }
 
-void Story::DoPart() {
-  part_ = parts_.front();
+// Does what comes next, and tells what is seen then. False when nothing comes.
+bool Story::GoesOn() {
+  if (parts_.empty()) {
+    if (acts_.empty()) return false;
+    now_ = acts_.front();
+    acts_.pop_front();
+    const auto [word, rest] = Halves(now_->Text, ' ');
+    const bool given = GivenVerbs().contains(word), quietly = word == "quietly";
+    quiet_ = given || quietly || now_->Number < file_->Tales[tale_].front().Number;
+    parts_ = given ? std::deque{now_->Text} : PartsOf(quietly ? rest : now_->Text);
+  }
+  const std::string part = parts_.front();
   parts_.pop_front();
-  const bool leaves = Leaves(part_);
-  const std::size_t open = Hands::OpenForms().size();
-  Do(Expanded(part_));
-  if (leaves && Hands::OpenForms().size() >= open && !Hands::OpenForms().back()->Closed()) Sees.Note("stays");
+  packs_ = false;
+  Do(Expanded(part));
   Sees.LookAround();
+  return true;
 }
 
 void Story::Do(const std::string& act) {
@@ -135,16 +138,26 @@ void Story::Use(int id, const std::optional<std::string>& text) {
   text ? user.Enters(id, *text) : user.Clicks(id);
 }
 
-std::string Story::Unquoted(const std::string& text) {
-  return text.size() >= 2 && text.starts_with('"') && text.ends_with('"') ? text.substr(1, text.size() - 2) : text;
+void Story::Say(const std::string& line) {
+  packs_ = false;
+  Note(line);
+  packs_ = false;
 }
 
-void Story::Say(const std::string& line) {
-  if (!quiet_) now_->Now.push_back(Plain(line));
+// Short news share a line.
+void Story::Note(const std::string& news) {
+  if (quiet_) return;
+  constexpr std::size_t kWidth = 114;
+  const std::string text = Plain(news);
+  auto& lines = now_->Now;
+  packs_ = packs_ && lines.back().size() + text.size() <= kWidth;
+  if (!packs_) lines.emplace_back();
+  lines.back() += (packs_ ? "; " : "") + text;
+  packs_ = true;
 }
 
 void Story::Fail(const std::string& why) {
-  ADD_FAILURE_AT(tale_.File->Path.c_str(), now_->Number) << now_->Text << ": " << why;
+  ADD_FAILURE_AT(file_->Path.c_str(), now_->Number) << now_->Text << ": " << why;
 }
 
 void Story::Leave() {
@@ -169,12 +182,7 @@ std::string Story::ReplyTo(const std::string& words) {
 }
 
 void Story::FormCame(Form& form) {
-  const auto open = Hands::OpenForms();
-  if (open.size() > 1 && Sees.Knows(*open[open.size() - 2])) Sees.LookAt(*open[open.size() - 2]);
   Sees.LookAround();
-  while (!form.Closed() && (!parts_.empty() || next_ < acts_.size())) parts_.empty() ? Step() : DoPart();
-  const std::string name = Names::Of(Hands::TemplateOf(form)).Name;
-  if (!form.Closed()) Fail(name + " was left open");
-  if (!Leaves(part_) && Sees.Knows(form)) Say(name + " closes");
-  Sees.Forget(form);
+  while (!form.Closed() && GoesOn()) continue;
+  if (!form.Closed()) Fail(Names::Of(Hands::TemplateOf(form)).Name + " was left open");
 }

@@ -13,16 +13,17 @@
 //   drag SURFACE 1,2 3,4 (column, row; from 0), double-click SURFACE 1,2, wheel SURFACE 3, page SURFACE 2 (or 2 across)
 //   drag and wheel with "shift" at the end, wheel with "ctrl"
 //   drop FILE                  with the mouse, on the main window
-// Behind the act, parted by ", ", what is done to what it brings up until the window is at hand again:
+//   report T=2,H=1 / text / text    opens a print file of these lines, whose first one begins for itself, in the viewer
+// Behind the act, parted by ", ", what is done to what it brings up, and what belongs to it:
 //   yes, no, ok, cancel        to boxes; a plain OK box needs none
 //   "text" or cancel           to an input box or a file dialog
-//   acts                       in a form; those that leave it open may also stand in lines of their own
+//   acts                       in a form that it opened, or after it; what is seen is told after each
 // Looking closer
 //   show FILE, clipboard
 // What code does: prints NAME (opens a print file as reports do), fails (runs a form whose start fails)
 // Given, untold; FILE and FOLDER are names in the test's folder, which "{folder}" stands for; {E9} is a byte
 //   given FILE [FILE]          a file of tests/scenarios/given, under that name
-//   file FILE text / text      a file of these lines; of one, without a line's end
+//   file FILE text / text      a file of these lines; of one, without a line's end; "20*Th##" is twenty, numbered
 //   data FILE text / text      a data file: these lines stand between its first and last
 //   folder FOLDER, FOLDER; erase FILE, read-only FILE, writable FILE
 //   held FILE, kept FILE, released    another program keeps others from writing it, from everything; lets go
@@ -37,7 +38,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "scenarios/story_file.h"
 #include "support/fresh_test.h"
@@ -46,17 +46,16 @@
 
 class Story : public FreshTest, public Listener {
  public:
-  using Verb = std::function<void(Story& story, const std::string& rest)>;
-  using Verbs = std::map<std::string, Verb>;
+  using Verbs = std::map<std::string, std::function<void(Story& story, const std::string& rest)>>;
 
-  Story(const Tale& above, const Tale& tale);
+  Story(std::shared_ptr<StoryFile> file, std::size_t tale);
   using FreshTest::user;
 
   // For verbs.
-  void Do(const std::string& act);
   void Say(const std::string& line);
   void Fail(const std::string& why);
-  void Leave();  // closes the main window unasked
+  void OnlyInMemory();  // ends the story in real windows
+  void Leave();         // closes the main window unasked
   template <typename Window>
   Window& Open(std::unique_ptr<Window> form) {  // makes it the main window
     Window& opened = *form;
@@ -72,20 +71,19 @@ class Story : public FreshTest, public Listener {
   void FormCame(Form& form) override;
 
  private:
-  void SetUp() override;
-  void TearDown() override;
   void TestBody() override;
-  void Step();
-  void DoPart();
+  bool GoesOn();
+  void Do(const std::string& act);
   void Use(int id, const std::optional<std::string>& text);
+  void Note(const std::string& news);
 
-  Tale above_, tale_;
-  std::vector<StoryLine*> acts_;
-  std::size_t untold_ = 0, next_ = 0;  // so many come before the story; the one to come
-  StoryLine* now_ = nullptr;
-  bool quiet_ = true;              // nothing is told
+  std::shared_ptr<StoryFile> file_;
+  std::size_t tale_;
+  std::deque<StoryLine*> acts_;    // to come
   std::deque<std::string> parts_;  // of the act that runs, those to come
-  std::string part_;
+  StoryLine* now_ = nullptr;
+  bool quiet_ = true;   // nothing is told
+  bool packs_ = false;  // news share a line
   std::unique_ptr<Form> form_;
 };
 

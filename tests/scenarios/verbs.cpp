@@ -1,6 +1,6 @@
 // The acts of a person and what stories are given: see story.h.
-#include <fstream>
 #include <iterator>
+#include <regex>
 #include <sstream>
 
 #include "document/document.h"
@@ -22,14 +22,21 @@ using Text = const std::string&;
 
 void Give(Story&, Text rest) {
   const auto [name, as] = Halves(rest, ' ');
-  std::ifstream in(FILER_SOURCE_DIR "/tests/scenarios/given/" + name, std::ios::binary);
-  TestFiles::Put(as.empty() ? name : Story::Unquoted(as), std::string(std::istreambuf_iterator<char>(in), {}));
+  TestFiles::Put(as.empty() ? name : Story::Unquoted(as), SourceFile("tests/scenarios/given/" + name));
 }
 
-// Lines parted by " / ", each with its end; one alone without.
+// Lines parted by " / ", each with its end; one alone without. "3*Th##" is three, which have their numbers for "##".
 std::string LinesOf(Text text) {
-  const std::string lines = Replaced(text, " / ", "\r\n");
-  return lines == text ? text : lines + "\r\n";
+  static const std::regex kMany(R"((\d+)\*(.*))");
+  std::string lines;
+  for (const std::string& line : Parts(text, " / ")) {
+    std::smatch many;
+    if (!std::regex_match(line, many, kMany)) lines += line + "\r\n";
+    for (int number = 1; !many.empty() && number <= std::stoi(many[1]); ++number) {
+      lines += Replaced(many[2], "##", (number < 10 ? "0" : "") + std::to_string(number)) + "\r\n";
+    }
+  }
+  return text.find(" / ") == std::string::npos ? text : lines;
 }
 
 void PutFile(Story&, Text rest) {
@@ -58,6 +65,11 @@ void StartViewer(Story& story, Text command_line) {
   story.Leave();
   Global::ProgramTitle = "Larkspur Report Viewer";
   story.Open(std::make_unique<ViewerForm>(command_line)).Start();
+}
+
+void OpenReport(Story& story, Text lines) {
+  PutFile(story, "Report.PRN LARKSPUR V1.0 REPORT " + Story::Unquoted(lines));
+  StartViewer(story, "Report.PRN");
 }
 
 // A file of the folder "given", or one of these lines, in the main window.
@@ -115,11 +127,9 @@ void DropFile(Story& story, Text name) {
 }
 
 void ShowFile(Story& story, Text name) {
-  std::istringstream in(TestFiles::Get(name).value());
-  for (std::string line; std::getline(in, line);) {
-    const bool whole = line.ends_with('\r') && !in.eof();
-    story.Say("| " + (whole ? line.substr(0, line.size() - 1) : line + " (no line's end)"));
-  }
+  auto lines = Parts(TestFiles::Get(name).value(), "\r\n");
+  lines.back() += lines.back().empty() ? "" : " (no line's end)";
+  for (const std::string& line : lines) story.Say("| " + line);
 }
 
 void OpenPrint(Story& story, Text typed) {
@@ -136,25 +146,14 @@ void RunFailing(Story&, Text) {
   });
 }
 
-// A verb that acts on a surface: its id, and what stands behind its name.
+// A verb that acts on a control: its id, and what stands behind its name.
 template <typename Act>
-Story::Verb On(Act act) {
+auto On(Act act) {
   return [act](Story& story, Text rest) {
     const auto [name, how] = Halves(rest, ' ');
     act(story.user, Names::ControlOf(name), how);
   };
 }
-
-void Drag(User& user, int id, Text how) {
-  user.ActsOn<Surface>(id, Hands::Drag, CellOf(how), CellOf(Halves(how, ' ').second), Has(how, "shift"));
-}
-
-void PageBar(User& user, int id, Text how) {
-  user.ActsOn<Surface>(id, Hands::PageBar, Has(how, "across") ? Surface::Bar::Across : Surface::Bar::Down,
-                       std::stoi(how));
-}
-
-void Wheel(User& user, int id, Text how) { user.TurnsWheel(id, std::stoi(how), Has(how, "shift"), Has(how, "ctrl")); }
 
 }  // namespace
 
@@ -169,6 +168,7 @@ const Story::Verbs& GivenVerbs() {
                                       {"held", [](Story&, Text name) { TestFiles::HoldByOther(name, false); }},
                                       {"kept", [](Story&, Text name) { TestFiles::HoldByOther(name, true); }},
                                       {"released", [](Story&, Text) { TestFiles::ReleaseByOther(); }},
+                                      {"only", [](Story& story, Text) { story.OnlyInMemory(); }},
                                       {"home", ShowGiven},
                                       {"shows", ShowLines},
                                       {"full", Fill}};
@@ -179,16 +179,24 @@ const Story::Verbs& PersonVerbs() {
   static const Story::Verbs kVerbs = {
       {"start", Start},
       {"viewer", StartViewer},
+      {"report", OpenReport},
       {"leave", [](Story& story, Text) { story.Leave(); }},
       {"close", [](Story& story, Text) { story.user.ClosesWindow(); }},
       {"shutdown", ShutDown},
       {"key", PressKeys},
       {"focus", Focus},
       {"drop", DropFile},
-      {"drag", On(Drag)},
+      {"drag", On([](User& user, int id, Text how) {
+         user.ActsOn<Surface>(id, Hands::Drag, CellOf(how), CellOf(Halves(how, ' ').second), Has(how, "shift"));
+       })},
       {"double-click", On([](User& user, int id, Text how) { user.ActsOn(id, Hands::DoubleClick, CellOf(how)); })},
-      {"wheel", On(Wheel)},
-      {"page", On(PageBar)},
+      {"wheel", On([](User& user, int id, Text how) {
+         user.TurnsWheel(id, std::stoi(how), Has(how, "shift"), Has(how, "ctrl"));
+       })},
+      {"page", On([](User& user, int id, Text how) {
+         user.ActsOn<Surface>(id, Hands::PageBar, Has(how, "across") ? Surface::Bar::Across : Surface::Bar::Down,
+                              std::stoi(how));
+       })},
       {"show", ShowFile},
       {"clipboard", [](Story& story, Text) { story.Say('"' + ClipboardText() + '"'); }},
       {"prints", OpenPrint},

@@ -3,7 +3,10 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <functional>
+#include <regex>
+
+#include "support/rows.h"
 
 namespace {
 
@@ -12,78 +15,55 @@ struct Book {
   std::map<int, Names::Template> Templates;
 };
 
-void ReadIds(const std::filesystem::path& file, Book& book) {
-  std::ifstream in(file);
-  for (std::string line; std::getline(in, line);) {
-    std::istringstream words(line);
-    std::string define, name;
-    int id = 0;
-    if (words >> define >> name >> id && define == "#define") book.Ids[name] = id;
-  }
-}
-
-// The identifier that begins there.
-std::string WordAt(const std::string& line, std::size_t at) {
-  std::size_t end = at;
-  while (end < line.size() && (std::isalnum(static_cast<unsigned char>(line[end])) != 0 || line[end] == '_')) ++end;
-  return line.substr(at, end - at);
-}
-
-// What stands between the first quotation mark and the last one of a text.
-std::string Between(const std::string& text) {
-  const std::size_t first = text.find('"'), last = text.rfind('"');
-  return first == last ? "" : text.substr(first + 1, last - first - 1);
-}
-
 // The letter tabs are told apart by their letters, other rows by numbers from 1 on.
 std::string InRow(const std::string& name, int place) {
   const bool letters = name.starts_with("Letter");
   return name + "[" + (letters ? std::string(1, static_cast<char>('A' + place)) : std::to_string(place + 1)) + "]";
 }
 
-void ReadControl(const std::string& line, const Book& book, Names::Template& form) {
-  const std::size_t at = line.find("IDC_");
-  const std::string kind = WordAt(line, std::min(line.find_first_not_of(' '), line.size()));
-  const bool accelerator = kind.empty() || line.find(kind + ",") != std::string::npos;
-  if (at == std::string::npos || accelerator) return;
-  const std::string id_name = WordAt(line, at), name = id_name.substr(4);
-  const int first = book.Ids.at(id_name);
-  const bool in_row = line.compare(at + id_name.size(), 3, " + ") == 0;
-  const int place = in_row ? std::stoi(line.substr(at + id_name.size() + 3)) : 0;
-  form.Controls[first + place] = in_row ? InRow(name, place) : name;
-  if (in_row) form.Controls[first] = InRow(name, 0);
-  if (kind == "MENUITEM") {
-    form.MenuItems.push_back(first);
-  } else {
-    form.Texts[first + place] = Between(line.substr(0, at));
-    if (line.find("ES_MULTILINE") != std::string::npos) form.Lines.insert(first);
+void ReadIds(const std::string& line, Book& book) {
+  static const std::regex kDefine(R"(#define (ID\w+) +(\d+).*)");
+  std::smatch found;
+  if (std::regex_match(line, found, kDefine)) book.Ids[found[1]] = std::stoi(found[2]);
+}
+
+// A line of the template or the menu that came last.
+void ReadTemplate(const std::string& line, Book& book) {
+  static Names::Template* form = nullptr;
+  static const std::regex kForm(R"(IDD_(\w+) .*)"), kCaption("CAPTION +\"(.*)\"");
+  static const std::regex kControl(R"re( +(\w+) +(?:"(.*)", *)?IDC_(\w+)(?: \+ (\d+))?.*)re");
+  std::smatch found;
+  if (std::regex_match(line, found, kForm)) {
+    form = &book.Templates[book.Ids.at("IDD_" + found.str(1))];
+    form->Name = found[1];
+  } else if (std::regex_match(line, found, kCaption)) {
+    form->Caption = found[1];
+  } else if (std::regex_match(line, found, kControl)) {
+    const int first = book.Ids.at("IDC_" + found.str(3)), place = found[4].matched ? std::stoi(found[4]) : 0;
+    form->Controls[first] = place > 0 ? InRow(found[3], 0) : found.str(3);
+    if (place > 0) form->Controls[first + place] = InRow(found[3], place);
+    if (found[1] == "MENUITEM") {
+      form->MenuItems.push_back(first);
+    } else {
+      form->Texts[first + place] = found[2];
+      if (line.find("ES_MULTILINE") != std::string::npos) form->Lines.insert(first);
+    }
   }
 }
 
-void ReadTemplates(const std::filesystem::path& file, Book& book) {
-  std::ifstream in(file);
-  Names::Template* current = nullptr;
-  for (std::string line; std::getline(in, line);) {
-    if (line.starts_with("IDD_")) {
-      current = &book.Templates[book.Ids.at(WordAt(line, 0))];
-      current->Name = WordAt(line, 0).substr(4);
-    }
-    if (current == nullptr) continue;
-    if (line.starts_with("CAPTION")) current->Caption = Between(line);
-    ReadControl(line, book, *current);
+void ReadLines(const std::string& ending, const std::function<void(const std::string& line)>& read) {
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(FILER_SOURCE_DIR "/src")) {
+    if (!entry.path().filename().string().ends_with(ending)) continue;
+    std::ifstream in(entry.path());
+    for (std::string line; std::getline(in, line);) read(line);
   }
 }
 
 const Book& TheBook() {
   static const Book kBook = [] {
     Book book;
-    std::vector<std::filesystem::path> templates;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(FILER_SOURCE_DIR "/src")) {
-      const std::string name = entry.path().filename().string();
-      if (name == "resource.h" || name.ends_with("_ids.h")) ReadIds(entry.path(), book);
-      if (name.ends_with("_form.rc")) templates.push_back(entry.path());
-    }
-    for (const auto& file : templates) ReadTemplates(file, book);
+    for (const char* ids : {"resource.h", "_ids.h"}) ReadLines(ids, [&](auto& line) { ReadIds(line, book); });
+    ReadLines("_form.rc", [&](auto& line) { ReadTemplate(line, book); });
     return book;
   }();
   return kBook;
@@ -91,17 +71,11 @@ const Book& TheBook() {
 
 }  // namespace
 
-const Names::Template& Names::Of(int form) {
-  static const Template kNone;
-  const auto found = TheBook().Templates.find(form);
-  return found == TheBook().Templates.end() ? kNone : found->second;
-}
+const Names::Template& Names::Of(int form) { return TheBook().Templates.at(form); }
 
 int Names::ControlOf(const std::string& name) {
-  const std::size_t bracket = name.find('[');
-  const auto found = TheBook().Ids.find("IDC_" + name.substr(0, bracket));
+  const auto [row, place] = Halves(name, '[');
+  const auto found = TheBook().Ids.find("IDC_" + row);
   if (found == TheBook().Ids.end()) return 0;
-  if (bracket == std::string::npos) return found->second;
-  const std::string index = name.substr(bracket + 1, name.size() - bracket - 2);
-  return found->second + (index[0] >= 'A' ? index[0] - 'A' : std::stoi(index) - 1);
+  return found->second + (place.empty() ? 0 : place[0] >= 'A' ? place[0] - 'A' : std::stoi(place) - 1);
 }

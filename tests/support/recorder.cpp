@@ -7,40 +7,17 @@
 #include "support/hands.h"
 #include "support/names.h"
 #include "support/page_text.h"
+#include "support/rows.h"
 
 namespace {
 
 using Texts = std::vector<std::string>;
-
-constexpr const char* kIfs[] = {"bold",   "bordered",  "checked",        "chosen", "disabled", "focus",
-                                "greyed", "read-only", "with a picture", "hidden", "lit"};
-constexpr const char* kMarked = " marked";  // behind the text that it marks; " marked 1-5" for a part of it
+using Aspects = std::map<std::string, std::string>;
 
 std::string Quoted(const std::string& text) { return '"' + text + '"'; }
 
-// "a | b | c"; of many, the first one and the last.
-std::string Joined(const Texts& texts, const char* between = " | ") {
-  constexpr std::size_t kMany = 10;
-  if (texts.size() > kMany) return texts.front() + " ... " + texts.back() + " (" + std::to_string(texts.size()) + ")";
-  std::string line;
-  for (const std::string& text : texts) line += (line.empty() ? "" : between) + text;
-  return line.empty() ? "(none)" : line;
-}
-
-// Entries, those without a text counted: "(3)".
-std::string Entries(const Texts& texts) {
-  Texts parts;
-  std::size_t empty = 0;
-  for (std::size_t at = 0; at < texts.size(); ++at) {
-    empty = texts[at].empty() ? empty + 1 : 0;
-    if (empty > 1) parts.pop_back();
-    parts.push_back(empty > 0 ? "(" + std::to_string(empty) + ")" : texts[at]);
-  }
-  return Joined(parts);
-}
-
 // The rows of a page that differ: "4: text / 5: text".
-std::string PageNews(Texts before, Texts now) {
+std::string RowNews(Texts before, Texts now) {
   before.resize(std::max(before.size(), now.size()));
   now.resize(before.size());
   Texts rows;
@@ -68,6 +45,12 @@ std::string NamesOf(int form, const std::vector<int>& ids) {
   return line;
 }
 
+template <typename Map>
+typename Map::mapped_type At(const Map& map, int id) {
+  const auto found = map.find(id);
+  return found == map.end() ? typename Map::mapped_type() : found->second;
+}
+
 template <typename... Kinds>
 bool IsA(const Control& control) {
   return (... || (dynamic_cast<const Kinds*>(&control) != nullptr));
@@ -79,187 +62,165 @@ bool Holds(const Control& control, bool (Kind::*holds)() const) {
   return kind != nullptr && (kind->*holds)();
 }
 
-// What the template says on a label or button. In memory nobody sees it: an empty one stands for that text.
-std::string BlankText(const Form& form, const Control& control) {
-  const auto& texts = Names::Of(Hands::TemplateOf(form)).Texts;
-  const auto found = texts.find(control.Id());
-  return !IsA<Label, Button, OptionButton, Frame>(control) || found == texts.end() ? "" : found->second;
+void See(Aspects& told, bool is_so, const std::string& what, const std::string& how = "") {
+  if (is_so) told[what] = what + (how.empty() ? "" : " " + how);
 }
 
-// What is in a list or on a surface, and what is so of any control.
-void SeeInside(const Control& control, const Hands::Sight& sight, std::map<std::string, Texts>& told) {
-  if (const Texts ticked = sight.TickedEntries(); !ticked.empty()) told[" ticked"] = {Entries(ticked)};
-  if (!sight.Entries.empty()) told[":"] = sight.Entries;
-  if (IsA<ListBox, RowList>(control) && sight.Selected >= 0) {
-    told[""] = {Quoted(sight.Entries.at(static_cast<std::size_t>(sight.Selected)))};
-  }
-  if (const auto* surface = dynamic_cast<const Surface*>(&control)) {
-    const Page page = Hands::PageOn(*surface);
-    told["#"] = RowsOf(page, true);
-    if (page.ShowsCaret) told[" caret"] = {std::to_string(page.Caret.Column) + "," + std::to_string(page.Caret.Row)};
-    const int across = Hands::BarOn(*surface, Surface::Bar::Across), down = Hands::BarOn(*surface, Surface::Bar::Down);
-    if (across >= 0) told[" across"] = {std::to_string(across)};
-    if (down >= 0) told[" down"] = {std::to_string(down)};
-  }
+void SeePage(Aspects& told, const Surface& surface) {
+  const Page page = Hands::PageOn(surface);
+  const auto pair = [](int one, const char* between, int other) {
+    return std::to_string(one) + between + std::to_string(other);
+  };
+  const int across = Hands::BarOn(surface, Surface::Bar::Across), down = Hands::BarOn(surface, Surface::Bar::Down);
+  See(told, page.ShowsCaret, "caret", pair(page.Caret.Column, ",", page.Caret.Row));
+  See(told, across >= 0, "across", std::to_string(across));
+  See(told, down >= 0, "down", std::to_string(down));
+  See(told, !page.Rules.empty(), "lines", RulesOf(page));
+  See(told, page.HeadRows + page.LeftColumns > 0, "still",
+      pair(page.HeadRows, " and ", page.LeftColumns) + " from " + std::to_string(page.LeftFrom));
+  for (const std::string& row : RowsOf(page)) told["rows"] += row + "\n";
+}
+
+// What is told of any control but its text.
+void SeeControl(Aspects& told, const Control& control, const Hands::Sight& sight) {
+  for (const std::string& entry : sight.Entries) told[":"] += (entry.empty() ? "-" : entry) + "\n";
+  const auto ticked = sight.TickedEntries();
   const auto* button = dynamic_cast<const Button*>(&control);
-  const std::pair<const char*, bool> ifs[] = {
-      {"disabled", !sight.Enabled},
-      {"bold", sight.Bold},
-      {"bordered", Holds(control, &Label::Border)},
-      {"lit", button != nullptr && button->BackColor() == BackColor::Marked},
-      {"chosen", Holds(control, &OptionButton::Checked)},
-      {"read-only", Holds(control, &TextBox::ReadOnly)},
-      {"with a picture", IsA<Picture>(control) && !Holds(control, &Picture::Empty)}};
-  for (const auto& [word, holds] : ifs) {
-    if (holds) told[word];
-  }
+  See(told, !ticked.empty(), "ticked", Joined(ticked, " | "));
+  See(told, !control.ToolTip().empty(), "tip", Quoted(control.ToolTip()));
+  See(told, !sight.Enabled, "disabled");
+  See(told, sight.Bold, "bold");
+  See(told, Holds(control, &Label::Border), "bordered");
+  See(told, button != nullptr && button->BackColor() == BackColor::Marked, "lit");
+  See(told, Holds(control, &OptionButton::Checked), "chosen");
+  See(told, Holds(control, &TextBox::ReadOnly), "read-only");
+  See(told, IsA<Picture>(control) && !Holds(control, &Picture::Empty), "with a picture");
+  if (const auto* surface = dynamic_cast<const Surface*>(&control)) SeePage(told, *surface);
 }
 
 }  // namespace
 
-Recorder::State Recorder::BlankOf(const Form& form) {
-  State state;
-  for (const auto& [id, control] : Hands::ControlsOf(form)) {
-    if (!BlankText(form, *control).empty()) state.Controls[id][""] = {Quoted(BlankText(form, *control))};
-  }
-  return state;
-}
-
+// In memory nobody sees what the template says: an empty text stands for that.
 Recorder::State Recorder::StateOf(const Form& form, const State& before) {
   const auto& names = Names::Of(Hands::TemplateOf(form));
   State state{Hands::TemplateOf(form), form.Caption().empty() ? names.Caption : form.Caption(), {}};
   const bool topmost = Hands::OpenForms().back() == &form;
   for (const auto& [id, control] : Hands::ControlsOf(form)) {
     const Hands::Sight sight = Hands::LookAt(*control);
+    const Aspects old = At(before.Controls, id);
     Aspects& told = state.Controls[id];
-    if (!sight.Visible) {
-      told["hidden"];
-      continue;
-    }
-    std::string text = sight.Text.empty() ? BlankText(form, *control) : sight.Text;
-    if (!text.empty()) text = Quoted(text);
+    See(told, !sight.Visible, "hidden");
+    if (!sight.Visible) continue;
+    const bool picked = IsA<ListBox, RowList>(*control) && sight.Selected >= 0;
+    const std::string text = picked ? sight.Entries.at(static_cast<std::size_t>(sight.Selected)) : sight.Text;
+    if (!text.empty() && text != At(names.Texts, id)) told[""] = Quoted(text);
+    SeeControl(told, *control, sight);
+    // While another form is on top, the focus waits where it was.
+    See(told, topmost ? sight.Focused : old.contains("focus"), "focus");
     const auto [first, last] = sight.Mark;
-    if (topmost && sight.Focused && first != last && !names.Lines.contains(id)) {
-      const bool whole = first == 0 && last == static_cast<int>(sight.Text.size());
-      text += kMarked + (whole ? "" : " " + std::to_string(first) + "-" + std::to_string(last));
-    }
-    if (!text.empty()) told[""] = {text};
-    if (!control->ToolTip().empty()) told[" tip"] = {Quoted(control->ToolTip())};
-    SeeInside(*control, sight, told);
-    // While another form is on top, it waits where it was.
-    const auto old = before.Controls.find(id);
-    if (topmost ? sight.Focused : old != before.Controls.end() && old->second.contains("focus")) told["focus"];
+    const bool whole = first == 0 && last == static_cast<int>(sight.Text.size());
+    See(told, topmost && sight.Focused && first != last && !names.Lines.contains(id), "marked",
+        whole ? "" : std::to_string(first) + "-" + std::to_string(last));
   }
   for (const int item : names.MenuItems) {
     Aspects& told = state.Controls[item];
     const std::string text = form.MenuText(item);  // of those that the program words itself
-    if (!text.empty()) told[""] = {Quoted(text.substr(0, text.find('\t')))};
-    if (!form.MenuEnabled(item)) told["greyed"];
-    if (form.MenuChecked(item)) told["checked"];
+    if (!text.empty()) told[""] = Quoted(text.substr(0, text.find('\t')));
+    See(told, !form.MenuEnabled(item), "greyed");
+    See(told, form.MenuChecked(item), "checked");
   }
   return state;
 }
 
-// What is new of a control, piece by piece; that a text is marked no longer is no news.
-Texts Recorder::NewsOf(const Aspects& before, const Aspects& now) {
-  Aspects all = now;
-  all.insert(before.begin(), before.end());
+// What is new of a control whose template has that text, piece by piece. Where the focus went tells what it left.
+Texts Recorder::NewsOf(Aspects before, Aspects now, const std::string& blank) {
   Texts news;
-  for (const auto& [what, either] : all) {
-    const Texts old = before.contains(what) ? before.at(what) : Texts(), is = now.contains(what) ? either : Texts();
-    const std::string text = is.empty() ? "" : is.front();
-    if (old == is || (what.empty() && !old.empty() && old.front().starts_with(text + kMarked))) continue;
+  const bool hidden = now.contains("hidden");  // nothing else is seen then
+  for (const auto& [what, old] : before) now[what];
+  const auto texts = [](const std::string& lines) { return Parts(lines.substr(0, lines.rfind('\n')), "\n"); };
+  for (const auto& [what, is] : now) {
+    const std::string& old = before[what];
+    if (old == is || (hidden && what != "hidden")) continue;
+    if (is.empty() && (what == "focus" || what == "marked")) continue;
     if (what == ":") {
-      if (news.empty() || !news.back().starts_with(" \"")) news.emplace_back();
-      news.back() += ": " + Entries(is);
-    } else if (what == "#") {
-      news.push_back(" " + PageNews(old, is));
+      news.push_back(": " + (is.empty() ? "(none)" : Joined(texts(is), " | ")));
+    } else if (what == "rows") {
+      news.push_back(" " + RowNews(texts(old), texts(is)));
     } else {
-      news.push_back(what + " " + (!is.empty() ? text : what.empty() ? Quoted("") : "no more"));
+      news.push_back(" " + (!is.empty() ? is : what.empty() ? Quoted(blank) : what + " no more"));
     }
   }
   return news;
 }
 
 void Recorder::LookAt(const Form& form) {
-  const bool known = Knows(form);
-  const auto opened = opened_.find(Hands::TemplateOf(form));
-  State before = known ? forms_.at(&form) : opened == opened_.end() ? BlankOf(form) : opened->second;
-  if (known && foreseen_ && before.Controls.contains(foreseen_->first)) {
-    for (auto& [id, told] : before.Controls) told.erase("focus");
-    for (const auto& [what, text] : foreseen_->second) before.Controls[foreseen_->first][what] = text;
+  const bool known = forms_.contains(&form);
+  const State before = known ? forms_[&form] : opened_[Hands::TemplateOf(form)], now = StateOf(form, before);
+  if (!known) {
+    note_(Names::Of(now.Form).Name + " opens: " + now.Caption);
+    opened_[now.Form] = now;
+  } else if (before.Caption != now.Caption) {
+    note_("caption " + Quoted(now.Caption));
   }
-  const State now = StateOf(form, before);
-  if (!known) Note(Names::Of(now.Form).Name + " opens: " + now.Caption);
-  if (known && before.Caption != now.Caption) Note("caption " + Quoted(now.Caption));
   Tell(before, now);
   forms_[&form] = now;
-  if (!known) opened_[now.Form] = now;
 }
 
-// Labels and pictures take no focus. What is picked is marked, and so is what comes to a box that gets the focus.
+// Labels and pictures take no focus. What is picked is marked, and so is what stands in a box that gets the focus.
 void Recorder::Foresee(const Control& control, const std::optional<std::string>& text) {
   if (IsA<Label, Picture>(control)) return;
-  const Hands::Sight sight = Hands::LookAt(control);
-  const bool picked = text && std::count(sight.Entries.begin(), sight.Entries.end(), *text) != 0;
-  foreseen_.emplace(control.Id(), Aspects{{"focus", {}}});
-  if (IsA<CheckList>(control) || (!text && !IsA<TextBox, ComboBox>(control))) return;
-  const std::string shown = text.value_or(sight.Text);
-  foreseen_->second[""] = shown.empty() ? Texts() : Texts{Quoted(shown) + (picked || !text ? kMarked : "")};
+  auto& controls = forms_[Hands::OpenForms().back()].Controls;
+  for (auto& [id, told] : controls) told.erase("focus");
+  Aspects& told = controls[control.Id()];
+  told["focus"] = "focus";
+  const auto entries = Hands::LookAt(control).Entries;
+  if (!text || std::find(entries.begin(), entries.end(), *text) != entries.end()) told["marked"] = "marked";
+  if (text && !IsA<CheckList>(control)) told[""] = text->empty() ? "" : Quoted(*text);
 }
 
 void Recorder::Tell(const State& before, const State& now) {
   // Controls that say the same are named together; so are the texts of neighbours in a row.
   std::vector<std::pair<std::string, std::vector<int>>> lines;
   const auto add = [&](int id, const std::string& news) {
-    const auto same = std::find_if(lines.begin(), lines.end(), [&](const auto& line) { return line.first == news; });
-    if (same != lines.end()) return same->second.push_back(id);
-    const bool is_text = news.starts_with(" \"") && !lines.empty() && lines.back().first.starts_with(" \"");
-    if (!is_text || NamesOf(now.Form, {lines.back().second.back(), id}).find(',') != std::string::npos) {
-      return lines.emplace_back(news, std::vector{id}), void();
-    }
-    lines.back().first += news;
-    lines.back().second.push_back(id);
+    const auto is_text = [](const std::string& each) { return each.starts_with(" \""); };
+    const auto joins = [&](const auto& line) {
+      const int last = line.second.back();
+      return line.first == news || (is_text(line.first) && is_text(news) && last == id - 1 &&
+                                    NamesOf(now.Form, {last, id}).find(',') == std::string::npos);
+    };
+    const auto found = std::find_if(lines.begin(), lines.end(), joins);
+    if (found == lines.end()) return lines.emplace_back(news, std::vector{id}), void();
+    if (found->first != news) found->first += news;
+    found->second.push_back(id);
   };
-  std::map<std::string, std::vector<int>> come, gone;  // what is so now, and what no more
   for (const auto& [id, told] : now.Controls) {
-    const auto old = before.Controls.find(id);
-    const Aspects were = old == before.Controls.end() ? Aspects() : old->second;
-    for (const char* what : kIfs) {
-      if (told.contains(what) != were.contains(what)) (told.contains(what) ? come : gone)[what].push_back(id);
-    }
-    if (!told.contains("hidden")) {
-      for (const std::string& news : NewsOf(were, told)) add(id, news);
-    }
+    const std::string blank = At(Names::Of(now.Form).Texts, id);
+    for (const std::string& news : NewsOf(At(before.Controls, id), told, blank)) add(id, news);
   }
-  for (const auto& [news, ids] : lines) Note(NamesOf(now.Form, ids) + news);
-  gone.erase("focus");
-  for (const std::string what : kIfs) {
-    const std::string are = NamesOf(now.Form, come[what]), are_not = NamesOf(now.Form, gone[what]);
-    if ((are + are_not).empty()) continue;
-    Note(what + ": " + are + (are.empty() || are_not.empty() ? "" : ", ") + (are_not.empty() ? "" : "not " + are_not));
+  // What is told of the same ones follows behind one name.
+  for (auto line = lines.begin(); line != lines.end();) {
+    const auto first = line;
+    std::string news = NamesOf(now.Form, first->second);
+    for (; line != lines.end() && line->second == first->second; ++line) {
+      news += (line == first || line->first.starts_with(':') ? "" : ",") + line->first;
+    }
+    note_(news);
   }
-}
-
-void Recorder::Note(const std::string& raw) {
-  const std::string news = plain_(raw);
-  constexpr std::size_t kWidth = 114;
-  if (!packed_.empty() && (news.empty() || packed_.size() + news.size() > kWidth)) say_(std::exchange(packed_, ""));
-  if (!news.empty()) packed_ += (packed_.empty() ? "" : "; ") + news;
 }
 
 void Recorder::LookAround() {
   LookAtFiles();
   LookAtLocks();
-  for (const std::string& news : Hands::MachineNews()) Note(news);
+  for (const std::string& news : Hands::MachineNews()) note_(news);
   LookAtDocument();
   const auto open = Hands::OpenForms();
   std::erase_if(forms_, [&](const auto& known) {
-    const bool gone = std::find(open.begin(), open.end(), known.first) == open.end();
-    if (gone) Note(Names::Of(known.second.Form).Name + " closes");
+    const auto found = std::find(open.begin(), open.end(), known.first);
+    const bool gone = found == open.end() || (*found)->Closed();
+    if (gone) note_(Names::Of(known.second.Form).Name + " closes");
     return gone;
   });
-  if (!open.empty() && !open.back()->Closed()) LookAt(*open.back());
-  Note("");
-  foreseen_.reset();
+  for (const Form* form : open) {
+    if (!form->Closed()) LookAt(*form);
+  }
 }

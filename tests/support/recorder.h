@@ -1,11 +1,10 @@
 // What a person at the program sees, in words: each look tells only what differs from the last one, the first one at a
-// form what differs from the form as it opened last, or from the empty window of its template.
+// form what differs from the form as it opened last, or from its template.
 #pragma once
 
 #include <functional>
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -14,45 +13,35 @@
 
 class Recorder {
  public:
-  using Say = std::function<void(const std::string&)>;
-  using Plain = std::function<std::string(const std::string&)>;  // a text as it is told, alike on every machine
-  Recorder(Say say, Plain plain) : say_(std::move(say)), plain_(std::move(plain)) {}
+  explicit Recorder(std::function<void(const std::string&)> note) : note_(std::move(note)) {}
 
-  void LookAround();              // at files, programs started, the document and the topmost form
-  void LookAt(const Form& form);  // tells its name and caption when it is new
+  void LookAround();  // at files, programs started, pages printed, the document and the open forms
   void LookAtFiles();
   void Forget(const Form& form) { forms_.erase(&form); }
-  bool Knows(const Form& form) const { return forms_.contains(&form); }
-  void Note(const std::string& raw);  // short news, which share a line; none says what was gathered
   void NoteFolder(const std::string& name) { folders_.push_back(name); }
 
-  // What a person does to a control is no news: it gets the focus, and this text when there is one.
+  // What a person does to a control of the topmost form is no news: it gets the focus, and this text when there is one.
   void Foresee(const Control& control, const std::optional<std::string>& text = std::nullopt);
 
  private:
-  using Texts = std::vector<std::string>;
-  // What is told of a control, or of a menu's entry: "" the text, ":" the entries, "#" the rows, " ticked", ...; what
-  // is so or not, "hidden", "focus", ..., has no text.
-  using Aspects = std::map<std::string, Texts>;
+  // What is told of a control or a menu's entry, by what it is: "" its text, ":" its entries, "hidden", "caret", ...
+  using Aspects = std::map<std::string, std::string>;
   struct State {
     int Form = 0;  // its template
     std::string Caption;
     std::map<int, Aspects> Controls;  // by id
   };
-  static State BlankOf(const Form& form);
   static State StateOf(const Form& form, const State& before);
-  static Texts NewsOf(const Aspects& before, const Aspects& now);
+  static std::vector<std::string> NewsOf(Aspects before, Aspects now, const std::string& blank);
+  void LookAt(const Form& form);
   void Tell(const State& before, const State& now);
   void LookAtLocks();
   void LookAtDocument();
 
-  Say say_;
-  Plain plain_;
-  std::string packed_;
-  std::optional<std::pair<int, Aspects>> foreseen_;
+  std::function<void(const std::string&)> note_;
   std::map<const Form*, State> forms_;
   std::map<int, State> opened_;  // by template: as it opened last
   std::map<std::string, std::string> files_, document_;
-  std::set<std::string> locks_;
+  std::map<std::string, bool> locks_;
   std::vector<std::string> folders_{""};
 };

@@ -1,27 +1,13 @@
 // Putting into words what became of the test's files and of the document: see recorder.h.
 #include <algorithm>
-#include <sstream>
 
+#include "contract/error_of.h"
 #include "platform/file_handles.h"
 #include "platform/files.h"
-#include "platform/runtime_error.h"
 #include "support/files.h"
 #include "support/properties.h"
 #include "support/recorder.h"
-
-namespace {
-
-bool IsLocked(const std::string& name) {
-  try {
-    Files::Open(kProbeHandle, name, Files::Mode::Lock);
-    Files::Close(kProbeHandle);
-    return false;
-  } catch (const RuntimeError& error) {
-    return error.Number == kPermissionDenied;
-  }
-}
-
-}  // namespace
+#include "support/rows.h"
 
 void Recorder::LookAtFiles() {
   std::map<std::string, std::string> now;
@@ -32,44 +18,42 @@ void Recorder::LookAtFiles() {
       now[path] = bytes ? *bytes : files_[path];  // one that nobody can read did not change
     }
   }
-  for (const auto& file : now) {
-    const auto old = files_.find(file.first);
-    if (old != files_.end() && old->second == file.second) continue;
+  for (const auto& [name, bytes] : now) {
+    const auto old = files_.find(name);
+    if (old != files_.end() && old->second == bytes) continue;
     const auto copied =
-        std::find_if(files_.begin(), files_.end(), [&](const auto& each) { return each.second == file.second; });
-    const auto lines = std::count(file.second.begin(), file.second.end(), '\n');
-    Note("file " + file.first + (old == files_.end() ? " came, " : " written, ") +
-         (copied == files_.end() ? std::to_string(lines) + " lines" : "what " + copied->first + " was"));
+        std::find_if(files_.begin(), files_.end(), [&](const auto& each) { return each.second == bytes; });
+    note_("file " + name + (old == files_.end() ? " came, " : " written, ") +
+          (copied != files_.end() ? "what " + copied->first + " was"
+                                  : std::to_string(std::count(bytes.begin(), bytes.end(), '\n')) + " lines"));
   }
   for (const auto& [name, bytes] : files_) {
-    if (!now.contains(name)) Note("file " + name + " is gone");
+    if (!now.contains(name)) note_("file " + name + " is gone");
   }
   files_ = std::move(now);
 }
 
 // Which files nobody else can write now.
 void Recorder::LookAtLocks() {
-  std::set<std::string> now;
   for (const auto& [name, bytes] : files_) {
-    if (IsLocked(name)) now.insert(name);
-    if (now.contains(name) != locks_.contains(name)) Note(name + (now.contains(name) ? " locked" : " free"));
+    const bool locked =
+        ErrorOf([&file = name] { Files::Open(kProbeHandle, file, Files::Mode::Lock); }) == kPermissionDenied;
+    Files::Close(kProbeHandle);
+    if (locked != locks_[name]) note_(name + (locked ? " locked" : " free"));
+    locks_[name] = locked;
   }
-  locks_ = now;
 }
 
 void Recorder::LookAtDocument() {
   std::map<std::string, std::string> now;  // "thing 2" and the line
-  std::istringstream lines(DescribeDocument());
-  for (std::string line; std::getline(lines, line);) {
+  for (const std::string& line : Parts(DescribeDocument(), "\n")) {
     const std::string key = line.substr(0, line.find(' ', line.find(' ') + 1));
     if (key == line) continue;  // an unused category
     now[key] = line;
-    if (document_[key] != line) Note(line);
+    if (document_[key] != line) note_(line);
   }
-  std::string gone;
   for (const auto& [key, line] : document_) {
-    if (!now.contains(key)) gone += (gone.empty() ? "no " : ", ") + key;
+    if (!now.contains(key)) note_("no " + key);
   }
-  if (!gone.empty()) Note(gone);
   document_ = std::move(now);
 }

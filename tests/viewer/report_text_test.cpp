@@ -1,9 +1,7 @@
-// Reading print files: the header, the lines and the head; and finding text in them.
+// Reading print files: the header, the lines and the head.
 #include "viewer/report_text.h"
 
 #include <gtest/gtest.h>
-
-#include "viewer/finder.h"
 
 namespace {
 
@@ -26,63 +24,29 @@ std::string Described(const ReportText& text) {
 TEST(ReportTextTest, HasHeaderHeadAndLines) {
   const std::string report = "LARKSPUR V1.0 REPORT";
   const std::pair<std::string, std::string> rows[] = {
-      {report + " T=2,H=2,L=31,G=0", "2 2 31 0 /0/0/0"},
-      {report + " T=2\r\n\r\ntitle\r\n", "2 0 0 0 /2/2/5||title"},
+      {report + " T=2,L=31\r\n\r\ntitle\r\n", "2 0 31 0 /2/2/5||title"},
       {report, "0 0 0 0 /0/0/0"},
       {report + "  G=1, l=5,X=7,H=1", "0 1 5 1 /0/0/0"},
       {report + " T=-3,H=99999999999999999999,L=x,G=2,=,T", "0 32767 0 0 /0/0/0"},
       {report + " T=-99999999999999999999,L=,H=32768", "0 32767 0 0 /0/0/0"},
       {report + "S T=2", "plain/0/0/25|" + report + "S T=2"},
-      {" " + report, "plain/0/0/21| " + report},
       {"LARKSPUR V5.0 FILER DATA", "plain/0/0/24|LARKSPUR V5.0 FILER DATA"},
       {"LARKSPUR V1.0", "plain/0/0/13|LARKSPUR V1.0"},
       // Titles and headings with the empty lines between.
       {report + " T=2,H=2\n\nTitle\n \nKEY\nHead\nthing\n", "2 2 0 0 /2/5/5||Title| |KEY|Head|thing"},
       {report + " T=2,H=2\n\nTitle\nKEY\nHead\nthing\n", "2 2 0 0 /2/4/5||Title|KEY|Head|thing"},
-      {report + " T=2\n\nTitle\n\nthing\n", "2 0 0 0 /2/2/5||Title||thing"},
-      {report + " H=1\nHead\nthing\n", "0 1 0 0 /0/1/5|Head|thing"},
       {report + " T=2,H=2\n\nTitle\n\n\n", "2 2 0 0 /2/4/5||Title||"},
       {report + " T=2,H=2\n\n", "2 2 0 0 /1/1/0|"},
       // Each end of a line, and tabs up to the next eighth column.
       {"", "plain/0/0/0"},
-      {"one", "plain/0/0/3|one"},
-      {"one\r\nthree\r\n", "plain/0/0/5|one|three"},
+      {"one\r\nthree", "plain/0/0/5|one|three"},
       {"a\nbb\rccc\r\r\n\n\rd\r", "plain/0/0/3|a|bb|ccc||||d"},
-      {"\r\n\r\n", "plain/0/0/0||"},
       {"\r\rx", "plain/0/0/1|||x"},
       {"a\tb\t\r\n12345678\tc\n", "plain/0/0/17|a       b       |12345678        c"},
       {"nul\0here\n"s, "plain/0/0/8|nul\0here"s},
       {"&#937;\tx&#38;#937;", "plain/0/0/15|\x1A       x&#937;"},
   };
   for (const auto& [bytes, described] : rows) EXPECT_EQ(Described(ReportText(bytes)), described) << bytes;
-}
-
-// The places of all hits, forward or backward; what is found twice would not end.
-std::string Hits(const ReportText& text, const std::string& sought, bool forward) {
-  const Finder finder(sought);
-  std::string places;
-  for (auto place = forward ? finder.Next(text, {}) : finder.Previous(text, {text.Count(), 0}); place;
-       place = forward ? finder.Next(text, {place->Line, place->Column + finder.Length()})
-                       : finder.Previous(text, *place)) {
-    const std::string told = std::to_string(place->Line) + "," + std::to_string(place->Column) + " ";
-    places.insert(forward ? places.size() : 0, told);
-  }
-  return places + std::to_string(finder.CountIn(text, text.Body()));
-}
-
-TEST(FinderTest, FindsForwardAndBackwardWithoutOverlap) {
-  const ReportText text("aaaa Shed\r\nnone\r\nSHED a\r\ncaf\xE9 CAF\xC9\r\n&#8734;&#937;x&#38;#937;\x1A");
-  const std::pair<std::string, std::string> rows[] = {
-      {"shed", "0,5 2,0 2"}, {"aa", "0,0 0,2 2"}, {"CAF\xE9", "3,0 3,5 2"},
-      {"&#937;X", "4,1 1"},  {"&#937;", "4,1 1"}, {"&#38;#937;", "4,3 1"},
-      {"\x1A", "4,9 1"},     {"missing", "0"},    {"", "0"}};
-  for (const auto& [sought, hits] : rows) {
-    EXPECT_EQ(Hits(text, sought, true), hits) << sought;
-    EXPECT_EQ(Hits(text, sought, false), hits) << sought;
-  }
-  EXPECT_EQ(Finder("aa").Next(text, {0, 1}), (Place{0, 2}));
-  EXPECT_EQ(text.TextOf(text.Line(4)) + text.Shown(text.Line(4).substr(1)),
-            "&#8734;&#937;x&#38;#937;\x1A&#937;x&#38;#937; ");
 }
 
 }  // namespace

@@ -42,6 +42,9 @@ struct Printer {
 void SetPrinter(const std::optional<Printer>& with);
 std::vector<Page> PrintedPages();  // by jobs that came to their end, since the last call
 
+// How many cells of text in its usual size there is room for on a surface; 80 by 25 until it is set.
+void SetSurface(int columns, int rows);
+
 // Files, by full name or relative to the current folder. None of these counts as a file call, and
 // none minds read-only flags or handles. Putting a file into a folder that is missing throws.
 void PutFile(const std::string& name, std::string_view bytes);

@@ -1,19 +1,24 @@
-// The surface, in memory: it remembers what it shows and has room for 80 columns and 25 rows of text of 10 points.
+// The surface, in memory: it remembers what it shows and has room for so many cells of text of 10 points.
 #include "platform/surface.h"
 
 #include <algorithm>
 #include <utility>
 
 #include "platform/headless/internals.h"
+#include "platform/headless/machine.h"
 
 namespace {
+
+Cell room{80, 25};
 
 int Fits(double cells, double text_size) { return std::max(1, static_cast<int>(cells * 10 / text_size)); }
 
 }  // namespace
 
-int Surface::Columns() const { return Fits(80, PeerOf().TextSize); }
-int Surface::Rows() const { return Fits(25, PeerOf().TextSize); }
+void Machine::SetSurface(int columns, int rows) { room = {columns, rows}; }
+
+int Surface::Columns() const { return Fits(room.Column, PeerOf().TextSize); }
+int Surface::Rows() const { return Fits(room.Row, PeerOf().TextSize); }
 void Surface::SetTextSize(double points) { PeerOf().TextSize = points; }
 double Surface::TextSize() const { return PeerOf().TextSize; }
 

@@ -80,7 +80,7 @@ void CheckList::SetChecked(int position, bool checked) {
 void Control::Peer::Notified(const NMHDR& header) {
   if (What == Kind::RowList) return RowListNotified(header);
   if (What != Kind::CheckList || header.code != LVN_ITEMCHANGED) return;
-  const NMLISTVIEW& change = reinterpret_cast<const NMLISTVIEW&>(header);
+  const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
   const UINT before = ImageOf(change.uOldState);
   const UINT after = ImageOf(change.uNewState);
   if ((change.uChanged & LVIF_STATE) == 0 || before == after || before == 0 || after == 0) return;

@@ -61,7 +61,7 @@ void TextBox::SetTextLimit(int bytes) {
 void TextBox::SelectAll() { PeerOf().Send(EM_SETSEL, 0, -1); }
 
 void TextBox::SelectText(int first, int last) {
-  PeerOf().Mark(PeerOf().Window, first, last);
+  Peer::Mark(PeerOf().Window, first, last);
   PeerOf().Send(EM_SCROLLCARET);
 }
 

@@ -15,7 +15,7 @@ std::string FileIn(IDataObject& data) {
   FORMATETC format{CF_HDROP, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
   STGMEDIUM medium{};
   if (FAILED(data.GetData(&format, &medium))) return {};
-  HDROP files = static_cast<HDROP>(medium.hGlobal);
+  auto* files = static_cast<HDROP>(medium.hGlobal);
   std::wstring name;
   if (DragQueryFileW(files, 0xFFFFFFFF, nullptr, 0) == 1) {
     name.resize(DragQueryFileW(files, 0, nullptr, 0));

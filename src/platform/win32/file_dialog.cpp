@@ -36,8 +36,10 @@ bool Show(OPENFILENAMEW& dialog, bool for_writing) {
 
 std::string ChooseFile(const FileChoice& choice) {
   const std::wstring filter = FilterOf(choice);
-  const std::wstring former_folder = Wide(CurrentFolder()), caption = Wide(choice.Caption);
-  const std::wstring folder = choice.Folder.empty() ? former_folder : Wide(choice.Folder), offered = Wide(choice.Name);
+  const std::wstring former_folder = Wide(CurrentFolder());
+  const std::wstring caption = Wide(choice.Caption);
+  const std::wstring folder = choice.Folder.empty() ? former_folder : Wide(choice.Folder);
+  const std::wstring offered = Wide(choice.Name);
   std::vector<wchar_t> name(kNameSize, L'\0');
   std::copy_n(offered.begin(), std::min(offered.size(), kNameSize - 1), name.begin());
 

@@ -102,7 +102,7 @@ void Dispatch(MSG& message) {
 
 void RethrowCarried() {
   const std::vector<Form*> forms = OpenForms();
-  for (auto form = forms.rbegin(); form != forms.rend(); ++form) (*form)->PeerOf().RethrowCarried();
+  std::for_each(forms.rbegin(), forms.rend(), [](const Form* form) { form->PeerOf().RethrowCarried(); });
 }
 
 void ReactivateTopmost() {

@@ -73,10 +73,12 @@ void Form::Peer::AddMenu() {
   if (GetMenu(Window) != nullptr) return;
   HMENU menu = LoadMenuW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(Template));
   if (menu == nullptr) return;
-  RECT before{}, after{}, whole{};
+  RECT before{};
   GetClientRect(Window, &before);
   SetMenu(Window, menu);
+  RECT after{};
   GetClientRect(Window, &after);
+  RECT whole{};
   GetWindowRect(Window, &whole);
   SetWindowPos(Window, nullptr, 0, 0, whole.right - whole.left, whole.bottom - whole.top + before.bottom - after.bottom,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);

@@ -150,7 +150,7 @@ int ListControl::SelectedData(int none) const {
 }
 
 void ComboBox::SelectText(int first, int last) {
-  PeerOf().Mark(PeerOf().EditField(), first, last);
+  Peer::Mark(PeerOf().EditField(), first, last);
   SendMessageW(PeerOf().EditField(), EM_SCROLLCARET, 0, 0);
 }
 

@@ -23,11 +23,13 @@ struct Block {
 
   unsigned Byte(std::size_t at) const { return at < Size ? First[at] : 0; }
   unsigned Short(std::size_t at) const {
-    const unsigned one = Byte(at), two = Byte(at + 1);
+    const unsigned one = Byte(at);
+    const unsigned two = Byte(at + 1);
     return LowFirst ? one | two << 8 : one << 8 | two;
   }
   unsigned Long(std::size_t at) const {
-    const unsigned one = Short(at), two = Short(at + 2);
+    const unsigned one = Short(at);
+    const unsigned two = Short(at + 2);
     return LowFirst ? one | two << 16 : one << 16 | two;
   }
 };

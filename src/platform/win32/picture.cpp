@@ -45,7 +45,8 @@ Com<Interface> Made(Make make) {
 }
 
 SIZE SizeOf(IWICBitmapSource& source) {
-  UINT width = 0, height = 0;
+  UINT width = 0;
+  UINT height = 0;
   Require(source.GetSize(&width, &height));
   if (width == 0 || height == 0 || ULONGLONG{width} * height > kLargestPicture) FailPicture();
   return {static_cast<LONG>(width), static_cast<LONG>(height)};
@@ -96,15 +97,19 @@ Com<IWICBitmapSource> Turned(Com<IWICBitmapSource> source, int orientation) {
   const bool from_right = orientation == 2 || orientation == 3 || orientation >= 7;
   const bool from_below = orientation == 3 || orientation == 4 || orientation == 6 || orientation == 7;
   const SIZE size = SizeOf(*source);
-  const std::size_t width = static_cast<std::size_t>(size.cx), height = static_cast<std::size_t>(size.cy);
-  std::vector<DWORD> before(width * height), after(width * height);
+  const auto width = static_cast<std::size_t>(size.cx);
+  const auto height = static_cast<std::size_t>(size.cy);
+  std::vector<DWORD> before(width * height);
   const UINT bytes = static_cast<UINT>(before.size()) * kPixelSize;
   Require(source->CopyPixels(nullptr, static_cast<UINT>(width) * kPixelSize, bytes,
                              reinterpret_cast<BYTE*>(before.data())));
+  std::vector<DWORD> after(before.size());
   const std::size_t new_width = swaps ? height : width;
   for (std::size_t index = 0; index < after.size(); ++index) {
-    const std::size_t across = index % new_width, down = index / new_width;
-    const std::size_t x = swaps ? down : across, y = swaps ? across : down;
+    const std::size_t across = index % new_width;
+    const std::size_t down = index / new_width;
+    const std::size_t x = swaps ? down : across;
+    const std::size_t y = swaps ? across : down;
     after[index] = before[(from_below ? height - 1 - y : y) * width + (from_right ? width - 1 - x : x)];
   }
   return Made<IWICBitmap>([&](IWICBitmap** made) {
@@ -223,12 +228,14 @@ bool Photo::Scale(const SIZE& size) {
 }
 
 bool Photo::Draw(HDC target, const RECT& box) {
-  const LONG width = box.right - box.left, height = box.bottom - box.top;
+  const LONG width = box.right - box.left;
+  const LONG height = box.bottom - box.top;
   if (width <= 0 || height <= 0) return true;
   try {
     const SIZE size = Fit(SizeOf(*source_), width, height);
     if (!Scale(size)) return false;
-    const LONG left = box.left + (width - size.cx) / 2, top = box.top + (height - size.cy) / 2;
+    const LONG left = box.left + (width - size.cx) / 2;
+    const LONG top = box.top + (height - size.cy) / 2;
     HDC memory = CreateCompatibleDC(target);
     HGDIOBJ before = SelectObject(memory, scaled_);
     BitBlt(target, left, top, size.cx, size.cy, memory, 0, 0, SRCCOPY);

@@ -60,7 +60,7 @@ std::optional<RegistryValue> RegistryKey::Query(const std::string& name) const {
 std::optional<std::string> RegistryKey::ReadText(const std::string& name, std::size_t size) const {
   if (!IsOpen()) return std::nullopt;
   std::string text(size, '\0');
-  DWORD bytes = static_cast<DWORD>(size);
+  auto bytes = static_cast<DWORD>(size);
   const LSTATUS status = RegQueryValueExA(peer_->Key, ToRegistry(name).c_str(), nullptr, nullptr,
                                           reinterpret_cast<BYTE*>(text.data()), &bytes);
   if (status != ERROR_SUCCESS) return std::nullopt;

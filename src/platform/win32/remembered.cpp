@@ -12,7 +12,7 @@ void Remember(const std::string& name, const std::string& text) {
 
 std::string Remembered(const std::string& name) {
   std::wstring value(32768, L'\0');
-  DWORD size = static_cast<DWORD>(value.size() * sizeof(wchar_t));
+  auto size = static_cast<DWORD>(value.size() * sizeof(wchar_t));
   const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, Wide(kOwnKey).c_str(), Wide(name).c_str(), RRF_RT_REG_SZ,
                                       nullptr, value.data(), &size);
   if (status != ERROR_SUCCESS) return {};

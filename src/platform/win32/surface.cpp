@@ -2,6 +2,7 @@
 #include "platform/surface.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "platform/win32/internals.h"
@@ -100,7 +101,7 @@ double SurfaceWork::Points(bool across) const {
 
 void SurfaceWork::MeasureCells() {
   DeleteObject(font_);
-  font_ = MakeFixedFont(static_cast<int>(TextSize * GetDpiForWindow(Window()) / 72 + 0.5), 0);
+  font_ = MakeFixedFont(static_cast<int>(std::lround(TextSize * GetDpiForWindow(Window()) / 72)), 0);
   HDC screen = GetDC(Window());
   HGDIOBJ before = SelectObject(screen, font_);
   TEXTMETRICW metrics{};
@@ -121,7 +122,8 @@ void SurfaceWork::Measure() {
 }
 
 void SurfaceWork::MayHaveResized() {
-  const int columns = Columns, rows = Rows;
+  const int columns = Columns;
+  const int rows = Rows;
   Measure();
   InvalidateRect(Window(), nullptr, FALSE);
   if (columns != Columns || rows != Rows) Tell(Owner().Resize);
@@ -130,7 +132,8 @@ void SurfaceWork::MayHaveResized() {
 Cell SurfaceWork::CellAt(POINT point) const { return {Cells(point.x - margin_, cell_.cx), Cells(point.y, cell_.cy)}; }
 
 RECT SurfaceWork::RectOf(const Cell& cell, int columns, int rows) const {
-  const LONG left = margin_ + cell.Column * cell_.cx, top = cell.Row * cell_.cy;
+  const LONG left = margin_ + cell.Column * cell_.cx;
+  const LONG top = cell.Row * cell_.cy;
   return {left, top, left + columns * cell_.cx, top + rows * cell_.cy};
 }
 

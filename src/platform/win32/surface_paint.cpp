@@ -18,7 +18,8 @@ bool HighContrast() {
 // One part of the text's colour in five: seen on any ground, and weaker than the text.
 COLORREF GridColor() {
   if (HighContrast()) return GetSysColor(COLOR_GRAYTEXT);
-  const COLORREF text = GetSysColor(COLOR_WINDOWTEXT), ground = GetSysColor(COLOR_WINDOW);
+  const COLORREF text = GetSysColor(COLOR_WINDOWTEXT);
+  const COLORREF ground = GetSysColor(COLOR_WINDOW);
   const auto mix = [](int one, int other) { return (one + 4 * other) / 5; };
   return RGB(mix(GetRValue(text), GetRValue(ground)), mix(GetGValue(text), GetGValue(ground)),
              mix(GetBValue(text), GetBValue(ground)));
@@ -110,7 +111,8 @@ void SurfaceWork::DrawPaper(HDC target, const RECT& inside) const {
   const double fitting = std::max(
       0.05, std::min((inside.right - 2 * margin) / Paper->Width, (inside.bottom - 2 * margin) / Paper->Height));
   const double scale = View.Percent == 0 ? fitting : View.Percent / 100.0 * GetDpiForWindow(Window()) / 72;
-  const LONG width = static_cast<LONG>(Paper->Width * scale), height = static_cast<LONG>(Paper->Height * scale);
+  const auto width = static_cast<LONG>(Paper->Width * scale);
+  const auto height = static_cast<LONG>(Paper->Height * scale);
   const auto begin = [scale](LONG room, LONG size, double seen_from) {
     return size <= room ? (room - size) / 2 : -static_cast<LONG>(seen_from * scale);
   };

@@ -32,25 +32,6 @@ auto Raise(const Handler& handler, const Arguments&... arguments) {
   return kept ? kept(arguments...) : Result();
 }
 
-// Enter and Esc go to the button of that id; a form without one is told itself.
-void PressOn(const Form& form, int button_id, const Event& otherwise) {
-  Control* button = form.PeerOf().Find(button_id);
-  if (button == nullptr || button->PeerOf().What != Kind::Button) {
-    Raise(otherwise);
-  } else if (button->Enabled() && button->Visible()) {
-    button->PeerOf().Click();
-  }
-}
-
-void PressEnter(const Form& form) {
-  Control* focused = form.PeerOf().Focus;
-  if (focused != nullptr && focused->PeerOf().What == Kind::Button && focused->PeerOf().TakesFocus()) {
-    focused->PeerOf().Click();
-  } else {
-    PressOn(form, kEnterButton, form.EnterKey);
-  }
-}
-
 const Surface* FocusedSurface(const Form& form) { return dynamic_cast<const Surface*>(form.PeerOf().Focus); }
 
 }  // namespace
@@ -106,10 +87,20 @@ void Hands::Select(ListControl& list, int position) { list.PeerOf().ChangeSelect
 void Hands::TurnOver(CheckList& list, int position) { list.PeerOf().ChangeTick(position, !list.Checked(position)); }
 void Hands::Choose(Form& form, int item) { Raise(form.MenuClick, item); }
 
+// Enter goes to the button that has the focus; else it and Esc to the one of their id; without one, the form is told.
 void Hands::Press(Form& form, const KeyPress& key) {
-  if (key.What == Key::Escape) return PressOn(form, kEscapeButton, form.EscapeKey);
   if (key.What == Key::Help) return Raise(form.HelpKey);
-  if (key.What == Key::Enter) return PressEnter(form);
+  const bool enter = key.What == Key::Enter;
+  if (enter || key.What == Key::Escape) {
+    const auto is_button = [](const Control* control) {
+      return control != nullptr && control->PeerOf().What == Kind::Button;
+    };
+    Control* button = form.PeerOf().Focus;
+    if (!enter || !is_button(button)) button = form.PeerOf().Find(enter ? kEnterButton : kEscapeButton);
+    if (!is_button(button)) return Raise(enter ? form.EnterKey : form.EscapeKey);
+    if (button->Enabled() && button->Visible()) button->PeerOf().Click();
+    return;
+  }
   // What a control does with another key is its own affair, and none here but a surface does anything.
   const bool taken = !key.Control && Raise(form.KeyDown, key.What);
   const Surface* surface = FocusedSurface(form);
@@ -134,11 +125,9 @@ void Hands::DoubleClick(Control& control, Cell at) {
 }
 
 void Hands::TurnWheel(Control& control, int notches, bool shift, bool control_key) {
-  if (const auto* surface = dynamic_cast<Surface*>(&control)) {
-    Raise(surface->Wheel, WheelTurn{control_key ? notches : notches * kCellsOfANotch, shift, control_key});
-  } else {
-    control.PeerOf().TurnWheel(notches);
-  }
+  const auto* surface = dynamic_cast<Surface*>(&control);
+  if (surface == nullptr) return control.PeerOf().TurnWheel(notches);
+  Raise(surface->Wheel, WheelTurn{control_key ? notches : notches * kCellsOfANotch, shift, control_key});
 }
 
 void Hands::PageBar(Surface& surface, Surface::Bar bar, int pages) {
@@ -151,11 +140,8 @@ void Hands::PageBar(Surface& surface, Surface::Bar bar, int pages) {
 void Hands::Close(Form& form) {
   Form::Peer& peer = form.PeerOf();
   Control* button = peer.Find(kEscapeButton);
-  if (peer.Modal && button != nullptr && button->PeerOf().TakesFocus()) {
-    button->PeerOf().Click();
-  } else {
-    peer.Unload(UnloadMode::ControlMenu);
-  }
+  if (peer.Modal && button != nullptr && button->PeerOf().TakesFocus()) return button->PeerOf().Click();
+  peer.Unload(UnloadMode::ControlMenu);
 }
 
 bool Hands::Drop(Form& form, const std::string& file) {
@@ -174,8 +160,7 @@ std::vector<std::string> Hands::MachineNews() {
   std::vector<std::string> news;
   for (const std::string& command_line : Machine::StartedPrograms()) news.push_back("starts " + command_line);
   for (const Page& page : Machine::PrintedPages()) {
-    const auto rows = RowsOf(page);
-    news.push_back("prints " + std::to_string(rows.size()) + " rows: " + rows.at(1) + " ... " + rows.back());
+    news.push_back("prints " + Joined(RowsOf(page), " / ") + (page.Rules.empty() ? "" : " lines " + RulesOf(page)));
   }
   return news;
 }

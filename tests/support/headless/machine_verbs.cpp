@@ -2,13 +2,16 @@
 //
 //   disk BYTES                 so much may be written yet
 //   no-starts                  starting a program gives no process
-//   program-folder FOLDER      where the program lies; today YEAR MONTH DAY; first-weekday NUMBER (0 is Sunday)
+//   program-folder FOLDER      where the program lies; first-weekday NUMBER (0 is Sunday)
 //   registry KEY NAME TEXT     a value of the user's, "-" for the default one; unregister KEY
-//   printer FIRST LAST [SHEETS [HEIGHT]], printer 0 (cancels)
+//   printer FIRST LAST [SHEETS [COLUMNS ROWS]], printer cancels
+//   window COLUMNS ROWS        the viewer's, of text in its usual size
 #include <sstream>
 
 #include "platform/headless/machine.h"
 #include "scenarios/story.h"
+#include "support/hands.h"
+#include "support/names.h"
 #include "support/rows.h"
 
 namespace {
@@ -24,15 +27,21 @@ void SetPrinter(Story&, const std::string& rest) {
   PrintRange range{};
   std::istringstream in(rest);
   if (in >> range.First >> range.Last) printer.Chosen = range;
-  in >> printer.PaperLeft >> printer.Paper.Height;
+  in >> printer.PaperLeft;
+  if (int columns = 0, rows = 0; in >> columns >> rows) {
+    printer.Paper.Width = columns * printer.Paper.CellWidth() + 2 * printer.Paper.Left;
+    printer.Paper.Height = rows * printer.Paper.CellHeight() + 2 * printer.Paper.Top;
+  }
   Machine::SetPrinter(printer);
 }
 
-void SetToday(Story&, const std::string& rest) {
-  int year = 0;
-  unsigned month = 0, day = 0;
-  std::istringstream(rest) >> year >> month >> day;
-  Machine::SetToday(year, month, day);
+void SetWindow(Story&, const std::string& rest) {
+  int columns = 0, rows = 0;
+  std::istringstream(rest) >> columns >> rows;
+  Machine::SetSurface(columns, rows);
+  for (const Form* form : Hands::OpenForms()) {
+    dynamic_cast<const Surface&>(*Hands::ControlsOf(*form).at(Names::ControlOf("ReportSurface"))).Resize();
+  }
 }
 
 }  // namespace
@@ -42,12 +51,12 @@ const Story::Verbs& MachineVerbs() {
       {"disk", [](Story&, const std::string& bytes) { Machine::DiskSpace(std::stoul(bytes)); }},
       {"no-starts", [](Story&, const std::string&) { Machine::FailStart(0); }},
       {"program-folder", [](Story&, const std::string& folder) { Machine::SetProgramFolder(folder); }},
-      {"today", SetToday},
       {"first-weekday", [](Story&, const std::string& day) { Machine::SetFirstWeekday(std::stoi(day)); }},
       {"registry", SetRegistry},
       {"unregister",
        [](Story&, const std::string& key) { Machine::RemoveRegistryKey(RegistryRoot::CurrentUser, key); }},
-      {"printer", SetPrinter}};
+      {"printer", SetPrinter},
+      {"window", SetWindow}};
   return kVerbs;
 }
 
@@ -58,5 +67,6 @@ void ResetMachine() {
   Machine::SetFirstWeekday(0);
   Machine::FailStart(std::nullopt);
   Machine::SetPrinter(std::nullopt);
+  Machine::SetSurface(80, 25);
   Machine::StartedPrograms();
 }
