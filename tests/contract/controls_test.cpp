@@ -101,6 +101,7 @@ TEST_F(ShownFormTest, FocusMovesBeforeTheClickAndNeverToWhatIsAboveNorToWhatCann
   TestForm above;
   Does([&] { MsgBox("one", "T"), InputBox("two", "T"), above.ShowModal(); },
        "no icon OK: one [T], Activate, input: two [T], Activate, Load, Activate, QueryUnload Code, Unload, Activate");
+  EXPECT_TRUE(form.LineBox.HasFocus() && user.LooksAt(IDC_LineBox).Focused);
   Does([&] { form.NameCombo.SetFocus(), user.MovesTo(IDC_NameCombo); }, "lost, got, Later");
   form.LineBox.SetFocus();
   Does([&] { user.Clicks(IDC_FirstButton); }, "lost, Click, Later");
