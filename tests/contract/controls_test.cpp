@@ -87,17 +87,24 @@ TEST_F(ShownFormTest, OptionsOfAGroupGoOutForEachOther) {
   does([&] { form.RedOption.SetChecked(true), form.LargeOption.SetChecked(false); }, "x---");
 }
 
-TEST_F(ShownFormTest, FocusMovesBeforeTheClickAndNeverToBoxesNorToWhatCannotHaveIt) {
-  form.LineBox.LostFocus = [] { Log("lost"); };
+TEST_F(ShownFormTest, FocusMovesBeforeTheClickAndNeverToWhatIsAboveNorToWhatCannotHaveIt) {
+  form.LineBox.LostFocus = [&] {
+    Log("lost");
+    form.Later([] { Log("Later"); });
+  };
   form.NameCombo.GotFocus = [] { Log("got"); };
   form.TitleLabel.Click = form.ShownPic.Click = form.FirstButton.Click = [] { Log("Click"); };
   form.LinesBox.SetEnabled(false);
   form.EntryList.SetVisible(false);
   Does([&] { form.LinesBox.SetFocus(), form.EntryList.SetFocus(), form.TitleLabel.SetFocus(); }, "");
   Does([&] { user.Clicks(IDC_TitleLabel), user.Clicks(IDC_ShownPic); }, "Click, Click");
-  Does([&] { MsgBox("one", "T"), InputBox("two", "T"); }, "no icon OK: one [T], Activate, input: two [T], Activate");
-  Does([&] { form.NameCombo.SetFocus(), form.NameCombo.SetFocus(), form.LineBox.SetFocus(); }, "lost, got");
-  Does([&] { user.Clicks(IDC_FirstButton); }, "lost, Click");
+  TestForm above;
+  Does([&] { MsgBox("one", "T"), InputBox("two", "T"), above.ShowModal(); },
+       "no icon OK: one [T], Activate, input: two [T], Activate, Load, Activate, QueryUnload Code, Unload, Activate");
+  EXPECT_TRUE(form.LineBox.HasFocus() && user.LooksAt(IDC_LineBox).Focused);
+  Does([&] { form.NameCombo.SetFocus(), user.MovesTo(IDC_NameCombo); }, "lost, got, Later");
+  form.LineBox.SetFocus();
+  Does([&] { user.Clicks(IDC_FirstButton); }, "lost, Click, Later");
 }
 
 TEST_F(FormTest, RoomOnASurfaceFollowsTheTextSize) {

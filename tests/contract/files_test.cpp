@@ -1,25 +1,16 @@
 // What files.h promises, on the in-memory platform and on the disk alike.
 #include "platform/files.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 #include "contract/error_of.h"
 #include "platform/line_reader.h"
-#include "support/files.h"
+#include "support/fresh_test.h"
 
 namespace {
 
 using Files::Mode;
 using namespace std::string_literals;
 
-class FilesTest : public testing::Test {
- protected:
-  void SetUp() override { TestFiles::Start(); }
-  void TearDown() override { TestFiles::Finish(); }
-};
+class FilesTest : public FreshTest {};
 
 std::string Xs(std::size_t count) { return std::string(count, 'x'); }
 
@@ -177,10 +168,9 @@ TEST_F(FilesTest, NamesAreTakenAsTheSystemTakesThem) {
   Files::Rename("OTHER.TXT", "Mixed.Txt");
   EXPECT_EQ(TestFiles::List(), std::vector<std::string>{"Mixed.Txt"});
   Files::Rename("MIXED.TXT", "SUB\\\\File.Txt");
-  const std::string folder = TestFiles::Folder();
   for (const std::string& name :
-       {folder + "\\SUB\\File.Txt", folder + "\\\\SUB\\\\file.txt", folder.substr(2) + "\\SUB\\File.Txt"s,
-        "SUB\\FILE.TXT"s, ".\\sub\\.\\File.Txt"s, "SUB\\..\\SUB/File.Txt"s, "SUB\\File.Txt "s, "SUB\\File.Txt."s}) {
+       {InFolder("SUB\\File.Txt"), InFolder("\\SUB\\\\file.txt"), InFolder("SUB\\File.Txt").substr(2), "SUB\\FILE.TXT"s,
+        ".\\sub\\.\\File.Txt"s, "SUB\\..\\SUB/File.Txt"s, "SUB\\File.Txt "s, "SUB\\File.Txt."s}) {
     EXPECT_TRUE(Files::Exists(name)) << name;
     EXPECT_EQ(LinesOf(name), "here|") << name;
   }

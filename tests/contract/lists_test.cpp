@@ -80,7 +80,7 @@ TEST_F(ListsTest, ChecksAreTurnedOverAlsoByTheirHandler) {
   Does([&] { list.SetChecked(-1, true), list.SetChecked(3, true), list.SetChecked(2, false); }, "");
   Does([&] { list.SetChecked(2, true), list.SetChecked(2, true); }, "2on");
   Does([&] { user.Enters(IDC_TickList, "b"); }, "0on, 1on");
-  EXPECT_EQ(user.LooksAt(IDC_TickList).Ticks, (std::vector<bool>{true, true, true}));
+  EXPECT_EQ(user.LooksAt(IDC_TickList).Ticked, (std::vector<std::string>{"b", "a", list.EntryText(2)}));
   Does([&] { list.Fill({"b", "x"}); }, "");
   for (const int position : {-1, 0, 1, 2}) EXPECT_FALSE(list.Checked(position)) << position;
 }

@@ -7,7 +7,7 @@
 #include "platform/locale.h"
 #include "platform/process.h"
 #include "platform/program.h"
-#include "support/files.h"
+#include "support/fresh_test.h"
 #include "support/rows.h"
 
 namespace {
@@ -51,8 +51,7 @@ TEST(SystemTest, TextIsOfTheSystemsLanguage) {
   EXPECT_TRUE(Today().ok() && Today().year() >= std::chrono::year{2026});
 }
 
-TEST(SystemTest, ProgramHasFoldersAnEnvironmentAClipboardAndAnEnd) {
-  TestFiles::Start();
+TEST_F(FreshTest, ProgramHasFoldersAnEnvironmentAClipboardAndAnEnd) {
   EXPECT_EQ(CurrentFolder(), TestFiles::Folder());
   const std::string folder = ProgramFolder();
   EXPECT_TRUE(folder.size() > 3 && folder.substr(1, 2) == ":\\" && folder.back() != '\\') << folder;
@@ -71,7 +70,6 @@ TEST(SystemTest, ProgramHasFoldersAnEnvironmentAClipboardAndAnEnd) {
   EXPECT_THROW(EndProgram(), ProgramEnded);
   EXPECT_FALSE(Files::IsOpen(1));
   EXPECT_EQ(TestFiles::Get("OUT.TXT"), "last words\r\n");
-  TestFiles::Finish();
 }
 
 }  // namespace

@@ -23,16 +23,8 @@ struct Sight {
   bool Enabled = false, Visible = false, Bold = false, Focused = false;
   std::vector<std::string> Entries;  // lists
   int Selected = -1;                 // lists
-  std::vector<bool> Ticks;           // check list
+  std::vector<std::string> Ticked;   // entries of a check list
   std::pair<int, int> Mark;          // of a box's text: from, up to
-
-  std::vector<std::string> TickedEntries() const {
-    std::vector<std::string> ticked;
-    for (std::size_t at = 0; at < Ticks.size(); ++at) {
-      if (Ticks[at]) ticked.push_back(Entries[at]);
-    }
-    return ticked;
-  }
 };
 Sight LookAt(const Control& control);
 Page PageOn(const Surface& surface);

@@ -84,9 +84,8 @@ void SeePage(Aspects& told, const Surface& surface) {
 // What is told of any control but its text.
 void SeeControl(Aspects& told, const Control& control, const Hands::Sight& sight) {
   for (const std::string& entry : sight.Entries) told[":"] += (entry.empty() ? "-" : entry) + "\n";
-  const auto ticked = sight.TickedEntries();
   const auto* button = dynamic_cast<const Button*>(&control);
-  See(told, !ticked.empty(), "ticked", Joined(ticked, " | "));
+  See(told, !sight.Ticked.empty(), "ticked", Joined(sight.Ticked, " | "));
   See(told, !control.ToolTip().empty(), "tip", Quoted(control.ToolTip()));
   See(told, !sight.Enabled, "disabled");
   See(told, sight.Bold, "bold");

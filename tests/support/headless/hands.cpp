@@ -53,10 +53,13 @@ void Hands::End() { CurrentStage() = Stage(); }
 
 Hands::Sight Hands::LookAt(const Control& control) {
   const Control::Peer& peer = control.PeerOf();
-  Sight sight{peer.Text,     peer.Enabled,       peer.Visible,
-              peer.Bold,     control.HasFocus(), {},
-              peer.Selected, peer.Ticks,         {peer.MarkFirst, peer.MarkLast}};
-  for (const ListEntry& entry : peer.Entries) sight.Entries.push_back(entry.Text);
+  const std::pair marks(peer.MarkFirst, peer.MarkLast);
+  Sight sight{peer.Text, peer.Enabled, peer.Visible, peer.Bold, control.HasFocus(), {}, peer.Selected, {}, marks};
+  for (const ListEntry& entry : peer.Entries) {
+    const std::size_t position = sight.Entries.size();
+    sight.Entries.push_back(entry.Text);
+    if (position < peer.Ticks.size() && peer.Ticks[position]) sight.Ticked.push_back(entry.Text);
+  }
   const auto* list = dynamic_cast<const RowList*>(&control);
   for (int row = 0; list != nullptr && row < list->Rows(); ++row) {
     sight.Entries.push_back(list->CellText(row, 0));

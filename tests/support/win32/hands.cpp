@@ -96,7 +96,7 @@ Hands::Sight Hands::LookAt(const Control& control) {
   } else if (const auto* checks = dynamic_cast<const CheckList*>(&control)) {
     for (int position = 0; position < peer.Send(LVM_GETITEMCOUNT); ++position) {
       sight.Entries.push_back(checks->EntryText(position));
-      sight.Ticks.push_back(IsTicked(peer, position));
+      if (IsTicked(peer, position)) sight.Ticked.push_back(sight.Entries.back());
     }
   } else if (const auto* rows = dynamic_cast<const RowList*>(&control)) {
     sight.Entries = RowsOn(peer);

@@ -64,11 +64,6 @@ Icon MeaningOf(HICON icon) {
   return Icon::Critical;
 }
 
-HWND VisibleItem(HWND dialog, int id) {
-  HWND item = GetDlgItem(dialog, id);
-  return item != nullptr && IsWindowVisible(item) ? item : nullptr;
-}
-
 void AnswerMessageBox(HWND box) {
   std::string text;
   Icon icon = Icon::None;
@@ -79,18 +74,14 @@ void AnswerMessageBox(HWND box) {
       text = TextOfWindow(child);
     }
   }
-  const bool may_cancel = VisibleItem(box, IDOK) != nullptr && VisibleItem(box, IDCANCEL) != nullptr;
-  const Buttons buttons = VisibleItem(box, IDYES) != nullptr ? Buttons::YesNo
-                          : may_cancel                       ? Buttons::OkCancel
-                                                             : Buttons::Ok;
-  const int enter = LOWORD(SendMessageW(box, DM_GETDEFID, 0, 0));
-  const bool is_last = buttons != Buttons::Ok && (enter == IDCANCEL || enter == IDNO);
+  const std::vector<HWND> shown = Inside(box, "Button");
+  const bool yes_no = GetDlgCtrlID(shown.front()) == IDYES;
+  const Buttons buttons = shown.size() == 1 ? Buttons::Ok : yes_no ? Buttons::YesNo : Buttons::OkCancel;
+  const bool last = shown.size() > 1 && LOWORD(SendMessageW(box, DM_GETDEFID, 0, 0)) == GetDlgCtrlID(shown.back());
   const Answer answer =
-      Coming::Message(text, TextOfWindow(box), buttons, icon, is_last ? DefaultButton::Last : DefaultButton::First);
-  constexpr int kIds[] = {IDOK, IDCANCEL, IDYES, IDNO};  // in the order of Answer
-  HWND pressed = VisibleItem(box, kIds[static_cast<int>(answer)]);
-  if (pressed == nullptr) pressed = VisibleItem(box, IDCANCEL);  // a single OK may have either id
-  PostMessageW(pressed, BM_CLICK, 0, 0);
+      Coming::Message(text, TextOfWindow(box), buttons, icon, last ? DefaultButton::Last : DefaultButton::First);
+  const bool first = answer == Answer::Ok || answer == Answer::Yes;
+  PostMessageW(first ? shown.front() : shown.back(), BM_CLICK, 0, 0);
 }
 
 // The field of a file dialog that takes the name; null when it has none.
