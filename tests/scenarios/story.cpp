@@ -143,7 +143,6 @@ void Story::Say(const std::string& line) {
   packs_ = false;
 }
 
-// Short news share a line.
 void Story::Note(const std::string& news) {
   if (quiet_) return;
   constexpr std::size_t kWidth = 114;

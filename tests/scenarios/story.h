@@ -19,7 +19,8 @@
 //   "text" or cancel           to an input box or a file dialog
 //   acts                       in a form that it opened, or after it; what is seen is told after each
 // Looking closer
-//   show FILE, clipboard
+//   show FILE, clipboard; growth (by how much of what the window grows each edge of a control moves: in percent, left,
+//   upper, right and lower)
 // What code does: prints NAME (opens a print file as reports do), fails (runs a form whose start fails)
 // Given, untold; FILE and FOLDER are names in the test's folder, which "{folder}" stands for; {E9} is a byte
 //   given FILE [FILE]          a file of tests/scenarios/given, under that name
@@ -53,6 +54,7 @@ class Story : public FreshTest, public Listener {
 
   // For verbs.
   void Say(const std::string& line);
+  void Note(const std::string& news);  // short news share a line
   void Fail(const std::string& why);
   void OnlyInMemory();  // ends the story in real windows
   void Leave();         // closes the main window unasked
@@ -75,7 +77,6 @@ class Story : public FreshTest, public Listener {
   bool GoesOn();
   void Do(const std::string& act);
   void Use(int id, const std::optional<std::string>& text);
-  void Note(const std::string& news);
 
   std::shared_ptr<StoryFile> file_;
   std::size_t tale_;

@@ -132,6 +132,16 @@ void ShowFile(Story& story, Text name) {
   for (const std::string& line : lines) story.Say("| " + line);
 }
 
+void TellGrowth(Story& story, Text) {
+  const Form& form = *Hands::OpenForms().back();
+  for (const auto& [id, follow] : Hands::GrowthOf(form)) {
+    const auto& [left, top, right, bottom] = follow;
+    std::string news = Names::Of(Hands::TemplateOf(form)).Controls.at(id);
+    for (const int edge : {left, top, right, bottom}) news += " " + std::to_string(edge);
+    story.Note(news);
+  }
+}
+
 void OpenPrint(Story& story, Text typed) {
   const std::string name = Global::OpenPrintFile(Global::kPrintFileName, typed);
   story.Say(Files::IsOpen(kPrintFileHandle) ? "opened " + name : "nothing opened");
@@ -198,6 +208,7 @@ const Story::Verbs& PersonVerbs() {
                               std::stoi(how));
        })},
       {"show", ShowFile},
+      {"growth", TellGrowth},
       {"clipboard", [](Story& story, Text) { story.Say('"' + ClipboardText() + '"'); }},
       {"prints", OpenPrint},
       {"fails", RunFailing}};

@@ -32,6 +32,8 @@ int BarOn(const Surface& surface, Surface::Bar bar);  // -1 when there is nothin
 
 std::vector<Form*> OpenForms();  // the topmost last
 int TemplateOf(const Form& form);
+// By how many percent of what the form grows the edges of its controls move; of those that do.
+std::map<int, Follow> GrowthOf(const Form& form);
 const std::map<int, Control*>& ControlsOf(const Form& form);
 
 void MoveTo(Control& control);  // the focus, when it takes that

@@ -111,7 +111,7 @@ bool Form::MenuChecked(int id) const { return peer_->MenuTicked.contains(id); }
 
 // Nothing has a place here.
 void Form::PlaceBelow(const Control& /*control*/) {}
-void Form::Anchor(Control& /*control*/, const Follow& /*follow*/) {}
+void Form::Anchor(Control& control, const Follow& follow) { peer_->Follows[control.Id()] = follow; }
 std::string Form::Place() const { return peer_->PlaceText; }
 void Form::SetPlace(std::string_view place) { peer_->PlaceText = place; }
 void Form::MayShrink(int /*units*/) {}

@@ -85,6 +85,7 @@ struct Form::Peer {
   std::set<int> MenuGreyed;
   std::set<int> MenuTicked;
   std::map<int, std::string> MenuTexts;
+  std::map<int, Follow> Follows;  // by control: nothing has a place here, but whoever looks can see where it would go
   int EntriesCount = 0;  // of SetMenuEntries
 
   Control* Find(int id) const;       // nullptr when there is none

@@ -77,6 +77,7 @@ int Hands::BarOn(const Surface& surface, Surface::Bar bar) {
 
 std::vector<Form*> Hands::OpenForms() { return ::OpenForms(); }
 int Hands::TemplateOf(const Form& form) { return form.PeerOf().Template; }
+std::map<int, Follow> Hands::GrowthOf(const Form& form) { return form.PeerOf().Follows; }
 const std::map<int, Control*>& Hands::ControlsOf(const Form& form) { return form.PeerOf().Controls; }
 
 void Hands::MoveTo(Control& control) { control.SetFocus(); }

@@ -123,6 +123,31 @@ int Hands::BarOn(const Surface& surface, Surface::Bar bar) {
 
 std::vector<Form*> Hands::OpenForms() { return ::OpenForms(); }
 int Hands::TemplateOf(const Form& form) { return form.PeerOf().Template; }
+
+std::map<int, Follow> Hands::GrowthOf(const Form& form) {
+  HWND window = form.PeerOf().Window;
+  RECT whole{};
+  GetWindowRect(window, &whole);
+  const auto places = [&form] {
+    std::map<int, RECT> rects;
+    for (const auto& [id, control] : ControlsOf(form)) GetWindowRect(control->PeerOf().Window, &rects[id]);
+    return rects;
+  };
+  const auto grow = [&](LONG by) {
+    SetWindowPos(window, nullptr, 0, 0, whole.right - whole.left + by, whole.bottom - whole.top + by,
+                 SWP_NOMOVE | SWP_NOZORDER);
+  };
+  const std::map<int, RECT> before = places();
+  grow(100);
+  std::map<int, Follow> growth;
+  for (const auto& [id, now] : places()) {
+    const RECT& was = before.at(id);
+    const Follow moved{now.left - was.left, now.top - was.top, now.right - was.right, now.bottom - was.bottom};
+    if (!EqualRect(&now, &was)) growth[id] = moved;
+  }
+  grow(0);
+  return growth;
+}
 const std::map<int, Control*>& Hands::ControlsOf(const Form& form) { return form.PeerOf().Controls; }
 
 void Hands::MoveTo(Control& control) {

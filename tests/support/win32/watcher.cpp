@@ -77,7 +77,7 @@ void AnswerMessageBox(HWND box) {
   const std::vector<HWND> shown = Inside(box, "Button");
   const bool yes_no = GetDlgCtrlID(shown.front()) == IDYES;
   const Buttons buttons = shown.size() == 1 ? Buttons::Ok : yes_no ? Buttons::YesNo : Buttons::OkCancel;
-  const bool last = shown.size() > 1 && LOWORD(SendMessageW(box, DM_GETDEFID, 0, 0)) == GetDlgCtrlID(shown.back());
+  const bool last = shown.size() > 1 && GetFocus() == shown.back();
   const Answer answer =
       Coming::Message(text, TextOfWindow(box), buttons, icon, last ? DefaultButton::Last : DefaultButton::First);
   const bool first = answer == Answer::Ok || answer == Answer::Yes;
