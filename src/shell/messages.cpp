@@ -15,8 +15,6 @@ std::function<void()> KeepDocument;
 
 namespace {
 
-int messages_said = 0;
-
 bool Agrees(Answer answer) { return answer == Answer::Yes || answer == Answer::Ok; }
 
 std::string WhatOf(const std::exception& error) {
@@ -27,11 +25,8 @@ std::string WhatOf(const std::exception& error) {
 }  // namespace
 
 void Say(std::string_view text, Icon icon) {
-  ++messages_said;
   MsgBox(text, ProgramTitle, Buttons::Ok, icon);
 }
-
-int MessagesSaid() { return messages_said; }
 
 bool Ask(std::string_view question, Buttons buttons, Icon icon) {
   return Agrees(MsgBox(question, ProgramTitle, buttons, icon));

@@ -17,9 +17,6 @@ extern std::string ProgramTitle;
 // Shows a text with an OK button.
 void Say(std::string_view text, Icon icon = Icon::None);
 
-// How many texts Say has shown: tells a caller whether what it called has explained itself.
-int MessagesSaid();
-
 // Asks a question; true for Yes or OK.
 bool Ask(std::string_view question, Buttons buttons, Icon icon = Icon::None);
 
