@@ -24,9 +24,7 @@ std::string WhatOf(const std::exception& error) {
 
 }  // namespace
 
-void Say(std::string_view text, Icon icon) {
-  MsgBox(text, ProgramTitle, Buttons::Ok, icon);
-}
+void Say(std::string_view text, Icon icon) { MsgBox(text, ProgramTitle, Buttons::Ok, icon); }
 
 bool Ask(std::string_view question, Buttons buttons, Icon icon) {
   return Agrees(MsgBox(question, ProgramTitle, buttons, icon));

@@ -38,7 +38,8 @@ TEST_F(FilesTest, LinesAreReadToTheExactEndAlsoAtTheEdgesOfBlocks) {
       const std::string bytes = first + rest;
       std::string lines;
       for (std::size_t at = 0; at < bytes.size(); ++at) {
-        if (bytes.substr(at, 2) != "\r\n") lines += bytes[at] == '\r' || bytes[at] == '\n' ? '|' : bytes[at];
+        if (bytes[at] != '\r' || bytes.c_str()[at + 1] != '\n')
+          lines += bytes[at] == '\r' || bytes[at] == '\n' ? '|' : bytes[at];
       }
       if (!lines.empty() && lines.back() != '|') lines += '|';
       TestFiles::Put("LINES.TXT", bytes);

@@ -86,7 +86,7 @@ struct Form::Peer {
   std::set<int> MenuTicked;
   std::map<int, std::string> MenuTexts;
   std::map<int, Follow> Follows;  // by control: nothing has a place here, but whoever looks can see where it would go
-  int EntriesCount = 0;  // of SetMenuEntries
+  int EntriesCount = 0;           // of SetMenuEntries
 
   Control* Find(int id) const;       // nullptr when there is none
   void MoveFocus(Control* control);  // raises LostFocus and GotFocus while the form is shown
