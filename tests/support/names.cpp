@@ -64,6 +64,11 @@ const Book& TheBook() {
     Book book;
     for (const char* ids : {"resource.h", "_ids.h"}) ReadLines(ids, [&](auto& line) { ReadIds(line, book); });
     ReadLines("_form.rc", [&](auto& line) { ReadTemplate(line, book); });
+    // The recent files stand in no template.
+    for (int place = 1; place <= 10; ++place) {
+      book.Templates[book.Ids.at("IDD_MainForm")].Controls[book.Ids.at("IDC_RecentItem") + place - 1] =
+          "RecentItem[" + std::to_string(place) + "]";
+    }
     return book;
   }();
   return kBook;

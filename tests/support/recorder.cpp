@@ -128,6 +128,9 @@ Recorder::State Recorder::StateOf(const Form& form, const State& before) {
     See(told, !form.MenuEnabled(item), "greyed");
     See(told, form.MenuChecked(item), "checked");
   }
+  for (int item = Names::ControlOf("RecentItem"); !form.MenuText(item).empty(); ++item) {
+    state.Controls[item][""] = Quoted(form.MenuText(item));
+  }
   return state;
 }
 
