@@ -186,7 +186,9 @@ void WriteThing(LineWriter& out, int number) {
   for (const FieldValueSlot& slot : thing.Values) {
     if (slot.Text.empty()) continue;
     const std::string_view keyword = slot.Keyword();
-    if (!keyword.empty()) out.Plain("%").Escaped(keyword).Plain("=").EndLine(slot.Value());
+    if (keyword.empty()) continue;
+    const std::string_view value = std::string_view(slot.Text).substr(keyword.size() + 1);  // behind the ":" found
+    out.Plain("%").Escaped(keyword).Plain("=").EndLine(value);
   }
 }
 
