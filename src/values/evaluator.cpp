@@ -145,15 +145,15 @@ class Evaluation {
 
   // Replaces each innermost, right-most group in parentheses by its result; false when one fails.
   bool ReplaceGroups(std::string& expression) {
-    for (;;) {
-      const auto open = expression.rfind('(');
-      if (open == std::string::npos) return true;
+    // Behind the last "(" there is no other, nor in a result.
+    for (auto open = expression.rfind('('); open != std::string::npos; open = expression.rfind('(', open)) {
       const auto close = expression.find(')', open);
       if (close == std::string::npos) return true;
       const std::string result = EvaluateFlat(expression.substr(open + 1, close - open - 1));
       if (result == kFailure) return false;
       expression.replace(open, close - open + 1, result);
     }
+    return true;
   }
 
   // Results bring no "*" and no "/" back.
