@@ -2,7 +2,6 @@
 #include "scenarios/story.h"
 
 #include <filesystem>
-#include <regex>
 
 #include "platform/program.h"
 #include "support/hands.h"
@@ -19,7 +18,9 @@ const bool kRegistered = [] {
     const std::string suite = "Stories/" + entry.path().stem().string();
     for (std::size_t tale = 1; tale < file->Tales.size(); ++tale) {
       const StoryLine& title = file->Tales[tale].front();
-      const std::string name = std::regex_replace(title.Text.substr(3), std::regex("[^A-Za-z0-9]"), "_");
+      std::string name = title.Text.substr(3);
+      std::ranges::replace_if(
+          name, [](unsigned char each) { return std::isalnum(each) == 0; }, '_');
       testing::RegisterTest(suite.c_str(), name.c_str(), nullptr, nullptr, file->Path.c_str(), title.Number,
                             [=]() -> testing::Test* { return new Story(file, tale); });
     }
@@ -57,8 +58,15 @@ std::string Expanded(std::string text) {
 }  // namespace
 
 std::deque<std::string> Story::PartsOf(const std::string& act) {
-  static const std::regex kBetween(R"re(, (?=([^"]*"[^"]*")*[^"]*$))re");
-  return {std::sregex_token_iterator(act.begin(), act.end(), kBetween, -1), {}};
+  std::deque<std::string> parts;
+  for (const std::string& part : Parts(act, ", ")) {
+    if (!parts.empty() && std::ranges::count(parts.back(), '"') % 2 != 0) {
+      parts.back() += ", " + part;  // a comma within quotes
+    } else {
+      parts.push_back(part);
+    }
+  }
+  return parts;
 }
 
 std::string Story::Unquoted(const std::string& text) {

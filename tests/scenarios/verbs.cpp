@@ -1,6 +1,5 @@
 // The acts of a person and what stories are given: see story.h.
 #include <iterator>
-#include <regex>
 #include <sstream>
 
 #include "document/document.h"
@@ -27,13 +26,13 @@ void Give(Story&, Text rest) {
 
 // Lines parted by " / ", each with its end; one alone without. "3*Th##" is three, which have their numbers for "##".
 std::string LinesOf(Text text) {
-  static const std::regex kMany(R"((\d+)\*(.*))");
   std::string lines;
   for (const std::string& line : Parts(text, " / ")) {
-    std::smatch many;
-    if (!std::regex_match(line, many, kMany)) lines += line + "\r\n";
-    for (int number = 1; !many.empty() && number <= std::stoi(many[1]); ++number) {
-      lines += Replaced(many[2], "##", (number < 10 ? "0" : "") + std::to_string(number)) + "\r\n";
+    const std::size_t star = std::min(line.find_first_not_of("0123456789"), line.size());
+    const bool many = star > 0 && line[star] == '*';
+    for (int number = 1, last = many ? std::stoi(line) : 1; number <= last; ++number) {
+      const std::string as = (number < 10 ? "0" : "") + std::to_string(number);
+      lines += (many ? Replaced(line.substr(star + 1), "##", as) : line) + "\r\n";
     }
   }
   return text.find(" / ") == std::string::npos ? text : lines;

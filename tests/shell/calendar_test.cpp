@@ -17,7 +17,7 @@ CalendarDate Date(int year, unsigned month, unsigned day) {
 }
 
 TEST(CalendarTest, MovesAsTheLibraryDoes) {
-  for (sys_days day{Date(1582, 10, 4)}; day < sys_days{Date(1983, 1, 1)}; day += days{3}) {
+  for (sys_days day{Date(1582, 10, 4)}; day < sys_days{Date(1983, 1, 1)}; day += days{5}) {
     const CalendarDate date = day;
     const year_month month = date.year() / date.month();
     for (const int step : {-7, -1, 1, 7}) ASSERT_EQ(PlusDays(date, step), CalendarDate{day + days{step}});

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <regex>
+#include <sstream>
 
 #include "support/rows.h"
 
@@ -22,30 +22,33 @@ std::string InRow(const std::string& name, int place) {
 }
 
 void ReadIds(const std::string& line, Book& book) {
-  static const std::regex kDefine(R"(#define (ID\w+) +(\d+).*)");
-  std::smatch found;
-  if (std::regex_match(line, found, kDefine)) book.Ids[found[1]] = std::stoi(found[2]);
+  std::string define, name;
+  int id = 0;
+  if (std::istringstream(line) >> define >> name >> id && name.starts_with("ID")) book.Ids[name] = id;
 }
 
 // A line of the template or the menu that came last.
 void ReadTemplate(const std::string& line, Book& book) {
   static Names::Template* form = nullptr;
-  static const std::regex kForm(R"(IDD_(\w+) .*)"), kCaption("CAPTION +\"(.*)\"");
-  static const std::regex kControl(R"re( +(\w+) +(?:"(.*)", *)?IDC_(\w+)(?: \+ (\d+))?.*)re");
-  std::smatch found;
-  if (std::regex_match(line, found, kForm)) {
-    form = &book.Templates[book.Ids.at("IDD_" + found.str(1))];
-    form->Name = found[1];
-  } else if (std::regex_match(line, found, kCaption)) {
-    form->Caption = found[1];
-  } else if (std::regex_match(line, found, kControl)) {
-    const int first = book.Ids.at("IDC_" + found.str(3)), place = found[4].matched ? std::stoi(found[4]) : 0;
-    form->Controls[first] = place > 0 ? InRow(found[3], 0) : found.str(3);
-    if (place > 0) form->Controls[first + place] = InRow(found[3], place);
-    if (found[1] == "MENUITEM") {
+  std::istringstream in(line);
+  std::string kind, text;
+  in >> kind >> std::ws;
+  if (in.peek() == '"') std::getline(in.ignore(), text, '"');
+  const std::size_t at = line.find("IDC_");
+  if (kind.starts_with("IDD_")) {
+    form = &book.Templates[book.Ids.at(kind)];
+    form->Name = kind.substr(4);
+  } else if (kind == "CAPTION") {
+    form->Caption = text;
+  } else if (at != std::string::npos && !kind.starts_with('"')) {  // an accelerator's key
+    const auto [name, behind] = Halves(line.substr(at + 4, line.find(',', at) - at - 4), ' ');
+    const int first = book.Ids.at("IDC_" + name), place = behind.empty() ? 0 : std::stoi(behind.substr(2));  // "+ 3"
+    form->Controls[first] = place > 0 ? InRow(name, 0) : name;
+    if (place > 0) form->Controls[first + place] = InRow(name, place);
+    if (kind == "MENUITEM") {
       form->MenuItems.push_back(first);
     } else {
-      form->Texts[first + place] = found[2];
+      form->Texts[first + place] = text;
       if (line.find("ES_MULTILINE") != std::string::npos) form->Lines.insert(first);
     }
   }
