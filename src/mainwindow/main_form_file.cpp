@@ -128,6 +128,7 @@ bool MainForm::LoadDocument(const std::string& full_name, const std::string& nam
     TheDocument.ShownFileName = name;
     TheDocument.DocumentOpen = true;
   }
+  Finder.Reset();
   FillCategoryList();
   return loaded;
 }

@@ -38,10 +38,9 @@ bool ThingFinder::CanGoBack() const { return TheDocument.Visited.CanGoBack(); }
 bool ThingFinder::CanGoForward() const { return TheDocument.Visited.CanGoForward(); }
 
 bool ThingFinder::HasLinksHere() const {
-  if (looked_at_ != TheDocument.CurrentThing || looked_after_ != TheHistory.Changes()) {
-    looked_at_ = TheDocument.CurrentThing;
+  if (linked_.empty() || looked_after_ != TheHistory.Changes()) {
+    linked_ = LinkedThings();
     looked_after_ = TheHistory.Changes();
-    has_links_ = HasLinksTo(looked_at_);
   }
-  return has_links_;
+  return linked_[static_cast<std::size_t>(TheDocument.CurrentThing)];
 }

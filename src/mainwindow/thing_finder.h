@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "document/find.h"
 #include "mainwindow/thing_picker.h"
@@ -13,8 +14,11 @@ class ThingFinder {
   ThingFinder(ThingPicker& picker, const DropDownList& first_link, const DropDownList& second_link)
       : picker_(picker), first_link_(first_link), second_link_(second_link) {}
 
-  // For a new document: nothing was looked for yet.
-  void Reset() { request_ = {}; }
+  // For another document: nothing was looked for yet.
+  void Reset() {
+    request_ = {};
+    linked_.clear();
+  }
 
   void FindItem_Click();
   void FindNextItem_Click() { GoOn(true); }
@@ -40,8 +44,7 @@ class ThingFinder {
   const DropDownList& second_link_;
   FindRequest request_;  // the one of the last hit that was gone to
 
-  // What HasLinksHere found out, for which thing and which state of the document: asked at every event.
-  mutable bool has_links_ = false;
-  mutable int looked_at_ = 0;
+  // What HasLinksHere found out, and at which state of the document: asked at every event.
+  mutable std::vector<bool> linked_;  // empty: nothing yet
   mutable std::uint64_t looked_after_ = 0;
 };

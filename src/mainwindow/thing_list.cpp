@@ -4,6 +4,7 @@
 #include "document/names.h"
 #include "platform/locale.h"
 #include "platform/references.h"
+#include "values/numbers.h"
 
 std::string ShownName(const ThingRecord& thing, bool noun_order) {
   return noun_order ? TurnName(thing.NAME) : thing.NAME;
@@ -62,11 +63,15 @@ bool LinksTo(const ThingRecord& thing, int record) { return thing.XREF1 == recor
 
 }  // namespace
 
-bool HasLinksTo(int record) {
+std::vector<bool> LinkedThings() {
   const auto& things = TheDocument.Things;
-  int from = 1;
-  while (from <= things.Count() && !LinksTo(things[from], record)) ++from;
-  return record != 0 && from <= things.Count();
+  std::vector<bool> linked(kLastRecord + 1);
+  for (int from = 1; from <= things.Count(); ++from) {
+    for (const int link : {things[from].XREF1, things[from].XREF2}) {
+      if (things.Holds(link)) linked[static_cast<std::size_t>(link)] = true;
+    }
+  }
+  return linked;
 }
 
 std::vector<ListEntry> ListLinksTo(int record, bool noun_order) {

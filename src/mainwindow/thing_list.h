@@ -32,8 +32,9 @@ std::vector<ListEntry> ListLinks(bool noun_order);
 // True when the entries are what ListLinks gives: found out without making them anew, since they seldom change.
 bool AreLinks(const std::vector<ListEntry>& entries, bool noun_order);
 
-// True when a link leads to a thing; and those things, each with which of its links does.
-bool HasLinksTo(int record);
+// By record number, which things links lead to, and nothing else; and the things that link to one, each with which of
+// its links does.
+std::vector<bool> LinkedThings();
 std::vector<ListEntry> ListLinksTo(int record, bool noun_order);
 
 // The categories that have a name, each entry's data being the number.

@@ -62,8 +62,9 @@ class Editor {
   void Delete(std::size_t position) { peer_.Send(verbs_.Delete, position); }
 
   void Insert(std::size_t position, const ListEntry& entry) {
-    // Without the way through the drop-down, which doubles the time.
-    SendMessageW(list_, LB_INSERTSTRING, position, reinterpret_cast<LPARAM>(Wide(entry.Text).c_str()));
+    // Without the way through the drop-down, which doubles the time, and without a copy in wchar_t, which is the same.
+    static_assert(sizeof(wchar_t) == sizeof(char16_t));
+    SendMessageW(list_, LB_INSERTSTRING, position, reinterpret_cast<LPARAM>(Widen(entry.Text).c_str()));
   }
 
   void Replace(const Entries& entries) {
