@@ -128,7 +128,7 @@ bool MainForm::LoadDocument(const std::string& full_name, const std::string& nam
     TheDocument.ShownFileName = name;
     TheDocument.DocumentOpen = true;
   }
-  Finder.Reset();
+  Finder.Reset();  // it has looked at the empty document meanwhile
   FillCategoryList();
   return loaded;
 }

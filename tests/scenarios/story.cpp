@@ -1,6 +1,8 @@
 // Telling a story: its acts one by one, what comes up meanwhile, and what is seen after each.
 #include "scenarios/story.h"
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 
 #include "platform/program.h"
